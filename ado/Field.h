@@ -1,0 +1,36 @@
+#pragma once
+
+#include "AdoExport.h"
+#include "FieldType.h"
+
+#include <QVariant>
+
+class TDataSet;
+
+/// One column of a data set, read at the data set's current row. Lives as long as the data set stays open.
+class ADO_EXPORT TField {
+public:
+    TField(TDataSet* dataSet, int index, const TColumnInfo& column);
+
+    QString FieldName() const { return column_.Name; }
+    TFieldType DataType() const { return column_.Type; }
+    int Size() const { return column_.Size; }
+    int Index() const { return index_; }
+    TDataSet* DataSet() const { return dataSet_; }
+
+    /// The value at the current row; an invalid variant for NULL and where the data set has no row.
+    QVariant Value() const;
+    bool IsNull() const;
+    /// NULL reads as empty text, 0, false or no bytes; a text that is no number reads as EADOError(WrongState).
+    QString AsString() const;
+    int AsInteger() const;
+    qint64 AsLargeInt() const;
+    double AsFloat() const;
+    bool AsBoolean() const;
+    QByteArray AsBytes() const;
+
+private:
+    TDataSet* dataSet_;
+    int index_;
+    TColumnInfo column_;
+};

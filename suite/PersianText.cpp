@@ -1,0 +1,99 @@
+#include "PersianText.h"
+
+namespace {
+
+constexpr char16_t PersianZero = u'\u06F0';
+constexpr char16_t ArabicIndicZero = u'\u0660';
+constexpr char16_t ZeroWidthNonJoiner = u'\u200C';
+constexpr char16_t Kashida = u'\u0640';
+constexpr char16_t PersianDecimal = u'\u066B';
+constexpr char16_t PersianThousands = u'\u066C';
+
+bool IsGrouping(QChar character)
+{
+    return character == u',' || character == PersianThousands || character == u'\u060C' || character == u'\u2019';
+}
+
+}  // namespace
+
+int PersianText::DigitValue(QChar character)
+{
+    const char16_t unit = character.unicode();
+    for (const char16_t zero : {u'0', PersianZero, ArabicIndicZero}) {
+        if (unit >= zero && unit <= zero + 9)
+            return unit - zero;
+    }
+    return -1;
+}
+
+QString PersianText::AsciiDigits(const QString& text)
+{
+    QString result = text;
+    for (QChar& character : result) {
+        if (const int digit = DigitValue(character); digit >= 0)
+            character = QChar(u'0' + digit);
+    }
+    return result;
+}
+
+QString PersianText::PersianDigits(const QString& text)
+{
+    QString result = text;
+    for (QChar& character : result) {
+        if (character >= u'0' && character <= u'9')
+            character = QChar(PersianZero + (character.unicode() - u'0'));
+    }
+    return result;
+}
+
+QString PersianText::NumberFromAnyScript(const QString& text)
+{
+    QString result;
+    bool hasDigit = false;
+    bool hasPoint = false;
+    for (const QChar character : text.trimmed()) {
+        if (const int digit = DigitValue(character); digit >= 0) {
+            result += QChar(u'0' + digit);
+            hasDigit = true;
+        } else if ((character == u'.' || character == PersianDecimal) && !hasPoint) {
+            result += u'.';
+            hasPoint = true;
+        } else if ((character == u'-' || character == u'\u2212') && result.isEmpty()) {
+            result += u'-';
+        } else if (!IsGrouping(character) || !hasDigit || hasPoint) {
+            return {};
+        }
+    }
+    return hasDigit ? result : QString();
+}
+
+QString PersianText::Fold(const QString& text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar character : text) {
+        switch (character.unicode()) {
+        case ZeroWidthNonJoiner:
+        case Kashida:
+            break;
+        case u'\u064A':  // Arabic yeh
+        case u'\u0649':  // alef maksura
+            result += u'\u06CC';
+            break;
+        case u'\u0643':  // Arabic kaf
+            result += u'\u06A9';
+            break;
+        default:
+            if (const int digit = DigitValue(character); digit >= 0)
+                result += QChar(u'0' + digit);
+            else
+                result += character;
+        }
+    }
+    return result.toLower();
+}
+
+QString PersianText::Isolated(const QString& text)
+{
+    return u'\u2068' + text + u'\u2069';
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "SuiteExport.h"
+
+#include <QString>
+
+/// Digits and signs of the three scripts, and texts as a Persian reader compares them.
+namespace PersianText {
+
+/// Persian and Arabic-Indic digits become ASCII; everything else stays.
+SUITE_EXPORT QString AsciiDigits(const QString& text);
+/// ASCII digits become Persian ones, for texts painted without the product's font (PDF, CSV, messages of others).
+SUITE_EXPORT QString PersianDigits(const QString& text);
+/// The value of a digit of any of the three scripts; -1 where the character is none.
+SUITE_EXPORT int DigitValue(QChar character);
+/// ۱٬۲۳۴٫۵ and 1,234.5 and their mixtures as "1234.5"; empty where the text is no number.
+SUITE_EXPORT QString NumberFromAnyScript(const QString& text);
+/// The form in which two texts are equal when a Persian reader sees them alike: ی for ي and ى, ک for ك, ASCII
+/// digits, no ZWNJ, no kashida, letters folded to lower case.
+SUITE_EXPORT QString Fold(const QString& text);
+/// The text between U+2068 and U+2069, so that it keeps its own direction inside a sentence.
+SUITE_EXPORT QString Isolated(const QString& text);
+
+}  // namespace PersianText

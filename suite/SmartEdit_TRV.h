@@ -1,0 +1,105 @@
+#pragma once
+
+#include "ControlEvents.h"
+#include "SuiteExport.h"
+
+#include <memory>
+#include <QLineEdit>
+
+/// One-line edit for text, whole numbers and money. Digits of all three scripts and both decimal and grouping signs
+/// are taken and become ASCII as they are typed or pasted. Text(), Value and the statements made from them hold
+/// ASCII digits; the font draws them as the user reads them.
+class SUITE_EXPORT TSmartEdit_TRV : public QLineEdit, public TControlEvents {
+    Q_OBJECT
+    Q_PROPERTY(TEditType EditType READ EditType WRITE SetEditType)
+    Q_PROPERTY(TValueType ValueType READ ValueType WRITE SetValueType)
+    Q_PROPERTY(int MaxLength READ MaxLength WRITE SetMaxLength)
+    Q_PROPERTY(int DelayTimeCount READ DelayTimeCount WRITE SetDelayTimeCount)
+    Q_PROPERTY(int Precision READ Precision WRITE SetPrecision)
+    Q_PROPERTY(bool Calculator READ Calculator WRITE SetCalculator)
+    Q_PROPERTY(bool MultiCurrency READ MultiCurrency WRITE SetMultiCurrency)
+    Q_PROPERTY(bool ReverseCurrency READ ReverseCurrency WRITE SetReverseCurrency)
+    Q_PROPERTY(double MinValue READ MinValue WRITE SetMinValue)
+    Q_PROPERTY(double MaxValue READ MaxValue WRITE SetMaxValue)
+    Q_PROPERTY(bool CanTakeFocus READ CanTakeFocus WRITE SetCanTakeFocus)
+
+public:
+    enum TEditType { etString, etNumeric, etCurrency };
+    Q_ENUM(TEditType)
+    enum TValueType { vtFloat, vtInt };
+    Q_ENUM(TValueType)
+
+    explicit TSmartEdit_TRV(QWidget* parent = nullptr);
+    ~TSmartEdit_TRV() override;
+
+    TEditType EditType() const;
+    void SetEditType(TEditType type);
+    TValueType ValueType() const;
+    void SetValueType(TValueType type);
+    /// Longest text the user may type, grouping signs and minus not counted; 0 means no limit.
+    int MaxLength() const;
+    void SetMaxLength(int length);
+    /// Milliseconds between the last change of the value and OnEditValueChange. 300 by default.
+    int DelayTimeCount() const;
+    void SetDelayTimeCount(int milliseconds);
+    /// Digits behind the decimal point of an etCurrency edit. 0 by default.
+    int Precision() const;
+    void SetPrecision(int digits);
+    /// Whether F4 or the button at the edit's left end opens a calculator under a number edit.
+    bool Calculator() const;
+    void SetCalculator(bool on);
+    bool MultiCurrency() const;
+    void SetMultiCurrency(bool on);
+    bool ReverseCurrency() const;
+    void SetReverseCurrency(bool on);
+    /// Bounds that a value typed by the user may not leave; equal bounds mean none.
+    double MinValue() const;
+    void SetMinValue(double value);
+    double MaxValue() const;
+    void SetMaxValue(double value);
+    /// The flag that frames consult before they name this edit as the one holding their criterion's value.
+    /// True by default.
+    bool CanTakeFocus() const;
+    void SetCanTakeFocus(bool can);
+
+    /// The text without grouping signs, as statements and getters use it.
+    QString Text() const;
+    /// Shows a text; a number edit groups it. Raises OnChange when the text differs.
+    void SetText(const QString& text);
+    /// Empties a text edit; a number edit shows "0".
+    void Clear();
+    /// The value of a number edit, 0 where there is none; the text of a text edit read as a number.
+    long double GetValue() const;
+    void SetValue(long double value);
+    void SetEnabled(bool enabled);
+    /// Rate and title that a MultiCurrency edit shows in its hint.
+    void SetCurrencyRate(long double rate);
+    void SetCurrencyTypeTitle(const QString& title);
+    int CaretPos() const;
+    void SetCaretPos(int position);
+    /// Shows the edit as wrong, with a balloon of one sentence, until the user types.
+    void ShowError(const QString& sentence);
+    bool HasError() const;
+
+    TNotifyEvent OnChange;           ///< on every change of the text, by the user or by code
+    TNotifyEvent OnEditValueChange;  ///< once, DelayTimeCount after the last change; at once when the edit is left
+    void SetOnEditValueChange(TNotifyEvent handler) { OnEditValueChange = std::move(handler); }
+
+Q_SIGNALS:
+    void editValueChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct TPrivate;
+    std::unique_ptr<TPrivate> d;
+};

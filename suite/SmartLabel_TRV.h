@@ -1,0 +1,41 @@
+#pragma once
+
+#include "NotifyEvent.h"
+#include "SuiteExport.h"
+
+#include <QLabel>
+#include <QPointer>
+
+/// Label painted as a right-to-left paragraph whatever its first letter is. Its mnemonic focuses FocusControl, or
+/// clicks the label where it has none.
+class SUITE_EXPORT TSmartLabel_TRV : public QLabel {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
+    Q_PROPERTY(bool OnBand READ OnBand WRITE SetOnBand)
+
+public:
+    explicit TSmartLabel_TRV(QWidget* parent = nullptr);
+    ~TSmartLabel_TRV() override;
+
+    QString Caption() const { return text(); }
+    void SetCaption(const QString& caption) { setText(caption); }
+    void Clear() { setText(QString()); }
+    QWidget* FocusControl() const;
+    void SetFocusControl(QWidget* control);  ///< also its buddy for assistive tools
+    /// Whether the label stands on the dark band and is painted in the band's text colour.
+    bool OnBand() const { return onBand_; }
+    void SetOnBand(bool on);
+
+    TNotifyEvent OnClick;  ///< by mouse, or by the mnemonic of a label without FocusControl
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool onBand_ = false;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "SuiteExport.h"
+
+#include <QFrame>
+
+/// Panel; on the band it carries the dark ground behind search and entry lines.
+class SUITE_EXPORT TSmartPanel_TRV : public QFrame {
+    Q_OBJECT
+    Q_PROPERTY(TBevel Bevel READ Bevel WRITE SetBevel)
+    Q_PROPERTY(TGround Ground READ Ground WRITE SetGround)
+
+public:
+    enum TBevel { bvNone, bvLowered, bvRaised };
+    Q_ENUM(TBevel)
+    enum TGround { gWindow, gBand, gBase };
+    Q_ENUM(TGround)
+
+    explicit TSmartPanel_TRV(QWidget* parent = nullptr);
+    ~TSmartPanel_TRV() override;
+
+    TBevel Bevel() const { return bevel_; }
+    void SetBevel(TBevel bevel);
+    TGround Ground() const { return ground_; }
+    void SetGround(TGround ground);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    TBevel bevel_ = bvNone;
+    TGround ground_ = gWindow;
+};
