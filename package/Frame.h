@@ -9,6 +9,7 @@ class BASEFRAME_EXPORT TFrame : public QWidget {
     Q_OBJECT
 
 public:
+    /// Throws std::logic_error where no host is installed.
     explicit TFrame(QWidget* owner = nullptr);
     ~TFrame() override;
 
@@ -25,5 +26,5 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    bool loaded_ = false;
+    bool formIsReady_ = false;
 };
