@@ -1,0 +1,98 @@
+#include "SqliteSchema.h"
+
+#include <sqlite3.h>
+
+#include <memory>
+
+namespace Dialect {
+
+namespace {
+
+struct TFinalizer
+{
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using TStatement = std::unique_ptr<sqlite3_stmt, TFinalizer>;
+
+TStatement Prepared(sqlite3* connection, const char* text, const QByteArray& argument)
+{
+    sqlite3_stmt* statement = nullptr;
+    sqlite3_prepare_v2(connection, text, -1, &statement, nullptr);
+    if (statement) {
+        sqlite3_bind_text(statement, 1, argument.constData(), static_cast<int>(argument.size()),
+                          SQLITE_TRANSIENT);
+    }
+    return TStatement(statement);
+}
+
+QString ColumnText(sqlite3_stmt* statement, int column)
+{
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
+                             sqlite3_column_bytes(statement, column));
+}
+
+bool IsIdentity(sqlite3* connection, const QByteArray& table, const QString& column)
+{
+    int autoIncrement = 0;
+    sqlite3_table_column_metadata(connection, nullptr, table.constData(), column.toUtf8().constData(),
+                                  nullptr, nullptr, nullptr, nullptr, &autoIncrement);
+    return autoIncrement != 0;
+}
+
+} // namespace
+
+TSqliteSchema::TSqliteSchema(sqlite3* connection) : connection_(connection)
+{
+}
+
+QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
+{
+    const QString key = table.toLower();
+    const auto known = tables_.constFind(key);
+    if (known != tables_.constEnd())
+        return *known;
+    const QByteArray name = table.toUtf8();
+    const TStatement statement =
+        Prepared(connection_, "SELECT name, type, hidden, pk FROM pragma_table_xinfo(?1)", name);
+    QVector<TSchemaColumn> columns;
+    while (statement && sqlite3_step(statement.get()) == SQLITE_ROW) {
+        TSchemaColumn column;
+        column.Name = ColumnText(statement.get(), 0);
+        column.DeclaredType = ColumnText(statement.get(), 1);
+        // table_xinfo marks generated columns by 2 and 3 and keeps their declaration's words in the type.
+        column.Computed = sqlite3_column_int(statement.get(), 2) >= 2;
+        column.DeclaredType.remove(QStringLiteral(" GENERATED ALWAYS"));
+        column.Identity =
+            sqlite3_column_int(statement.get(), 3) != 0 && IsIdentity(connection_, name, column.Name);
+        columns.append(column);
+    }
+    // A table that is not there may be created by another connection at any moment.
+    if (!columns.isEmpty())
+        tables_.insert(key, columns);
+    return columns;
+}
+
+bool TSqliteSchema::HasFunction(const QString& name, int argumentCount) const
+{
+    const QString key = name.toLower() + u'/' + QString::number(argumentCount);
+    if (functions_.contains(key))
+        return true;
+    const TStatement statement = Prepared(
+        connection_, "SELECT narg FROM pragma_function_list WHERE name = ?1", name.toLower().toUtf8());
+    while (statement && sqlite3_step(statement.get()) == SQLITE_ROW) {
+        const int accepted = sqlite3_column_int(statement.get(), 0);
+        if (accepted == argumentCount || accepted < 0) {
+            functions_.insert(key);
+            return true;
+        }
+    }
+    return false;
+}
+
+void TSqliteSchema::Forget()
+{
+    tables_.clear();
+    functions_.clear();
+}
+
+} // namespace Dialect

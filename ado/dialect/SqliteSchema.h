@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Dialect.h"
+
+#include <QHash>
+#include <QSet>
+
+namespace Dialect {
+
+/// The schema of an open SQLite connection, read on demand and kept until Forget().
+class ADO_EXPORT TSqliteSchema : public TSchemaView
+{
+public:
+    /// The connection must outlive this object.
+    explicit TSqliteSchema(sqlite3* connection);
+
+    QVector<TSchemaColumn> Columns(const QString& table) const override;
+    bool HasFunction(const QString& name, int argumentCount) const override;
+    /// Drops what was read; to be called after every statement that changes the schema.
+    void Forget();
+
+private:
+    sqlite3* connection_;
+    mutable QHash<QString, QVector<TSchemaColumn>> tables_;
+    mutable QSet<QString> functions_;
+};
+
+} // namespace Dialect
