@@ -1,0 +1,22 @@
+#pragma once
+
+#include "AdoError.h"
+#include "OdbcHandles.h"
+
+/// Everything that a handle has to say about its last call.
+struct TOdbcDiagnostics
+{
+    QString State;     ///< SQLSTATE of the first record
+    int Code = 0;      ///< native error of the first record
+    QString Message;   ///< the texts of all records, one a line
+    bool Dead = false; ///< a record tells that the connection is gone
+};
+
+TOdbcDiagnostics ReadDiagnostics(SQLSMALLINT handleType, SQLHANDLE handle);
+
+/// What the diagnostics mean to a caller.
+TAdoErrorKind KindOf(const TOdbcDiagnostics& diagnostics);
+
+/// The exception for a failed call. `kind` overrides what the diagnostics say where it is not Other.
+EADOError OdbcError(const TOdbcDiagnostics& diagnostics, const QString& statement,
+                    TAdoErrorKind kind = TAdoErrorKind::Other);

@@ -1,0 +1,176 @@
+#include "OdbcEngine.h"
+
+#include "OdbcParameters.h"
+#include "OdbcRows.h"
+
+namespace {
+
+EADOError DriverManagerError()
+{
+    return EADOError(
+        TAdoErrorKind::CannotOpen,
+        QStringLiteral(
+            "مدیر راه‌اندازهای ODBC روی این دستگاه در دسترس نیست."));
+}
+
+} // namespace
+
+QString CompleteOdbcConnectionString(const QString& connectionString)
+{
+    QString result = connectionString.trimmed();
+    if (!result.endsWith(u';'))
+        result += u';';
+    const bool overTds = result.contains(QLatin1String("FreeTDS"), Qt::CaseInsensitive) ||
+                         result.contains(QLatin1String("tdsodbc"), Qt::CaseInsensitive);
+    if (overTds && !result.contains(QLatin1String("Encryption="), Qt::CaseInsensitive))
+        result += QLatin1String("Encryption=request;");
+    return result;
+}
+
+std::unique_ptr<IEngine> OpenOdbcEngine(const QString& connectionString, const TEngineOptions& options)
+{
+    return std::make_unique<TOdbcEngine>(connectionString, options);
+}
+
+TOdbcEngine::TOdbcEngine(const QString& connectionString, const TEngineOptions& options)
+    : environment_(SQL_NULL_HANDLE)
+{
+    if (!environment_)
+        throw DriverManagerError();
+    // Attributes that are numbers travel in the pointer's place.
+    const auto number = [](quintptr value) { return reinterpret_cast<SQLPOINTER>(value); };
+    SQLSetEnvAttr(environment_.Get(), SQL_ATTR_ODBC_VERSION, number(SQL_OV_ODBC3), 0);
+    connection_ = TOdbcConnection(environment_.Get());
+    if (!connection_)
+        throw DriverManagerError();
+    SQLSetConnectAttrW(connection_.Get(), SQL_ATTR_LOGIN_TIMEOUT,
+                       number(static_cast<quintptr>(options.LoginTimeout)), SQL_IS_UINTEGER);
+    if (options.ReadOnly)
+        SQLSetConnectAttrW(connection_.Get(), SQL_ATTR_ACCESS_MODE, number(SQL_MODE_READ_ONLY),
+                           SQL_IS_UINTEGER);
+
+    const QString text = CompleteOdbcConnectionString(connectionString);
+    const SQLRETURN result = SQLDriverConnectW(connection_.Get(), nullptr, OdbcText(text), SQL_NTS, nullptr,
+                                               0, nullptr, SQL_DRIVER_NOPROMPT);
+    if (!Succeeded(result))
+        FailConnection(TAdoErrorKind::CannotOpen);
+}
+
+TOdbcEngine::~TOdbcEngine()
+{
+    if (inTransaction_)
+        SQLEndTran(SQL_HANDLE_DBC, connection_.Get(), SQL_ROLLBACK);
+    SQLDisconnect(connection_.Get());
+}
+
+std::unique_ptr<IEngineRows> TOdbcEngine::Execute(const QString& text, const QVariantList& parameters)
+{
+    TOdbcStatement statement(connection_.Get());
+    if (!statement)
+        FailConnection(TAdoErrorKind::Other);
+    {
+        const std::lock_guard lock(running_);
+        if (openStatement_) {
+            throw EADOError(TAdoErrorKind::WrongState,
+                            QStringLiteral("دستور پیشین این اتصال هنوز بسته نشده است."), text,
+                            QStringLiteral("a connection has one open statement at a time"));
+        }
+        openStatement_ = statement.Get();
+        cancelRequested_ = false;
+    }
+    const SQLHANDLE handle = statement.Get();
+    // The rows own the statement from here on and tell when it is closed, also when running it fails.
+    auto rows = std::make_unique<TOdbcRows>(*this, std::move(statement), text);
+    TOdbcParameters bound(parameters);
+    SQLRETURN result = bound.Bind(handle);
+    if (Succeeded(result))
+        result = SQLExecDirectW(handle, OdbcText(text), static_cast<SQLINTEGER>(text.size()));
+    // "No data" is how a statement answers that wrote no row, or that writes none, as DDL.
+    if (!Succeeded(result) && result != SQL_NO_DATA)
+        FailStatement(handle, text);
+    rows->FindResult();
+    return rows;
+}
+
+void TOdbcEngine::Begin()
+{
+    SetAutoCommit(false);
+    inTransaction_ = true;
+}
+
+void TOdbcEngine::Commit()
+{
+    EndTransaction(SQL_COMMIT);
+}
+
+void TOdbcEngine::Rollback()
+{
+    EndTransaction(SQL_ROLLBACK);
+}
+
+void TOdbcEngine::EndTransaction(SQLSMALLINT completion)
+{
+    if (!inTransaction_)
+        return;
+    if (!Succeeded(SQLEndTran(SQL_HANDLE_DBC, connection_.Get(), completion)))
+        FailConnection(TAdoErrorKind::Other);
+    inTransaction_ = false;
+    SetAutoCommit(true);
+}
+
+void TOdbcEngine::SetAutoCommit(bool on)
+{
+    const auto value = static_cast<quintptr>(on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
+    const SQLRETURN result = SQLSetConnectAttrW(connection_.Get(), SQL_ATTR_AUTOCOMMIT,
+                                                reinterpret_cast<SQLPOINTER>(value), SQL_IS_UINTEGER);
+    if (!Succeeded(result))
+        FailConnection(TAdoErrorKind::Other);
+}
+
+void TOdbcEngine::Cancel()
+{
+    const std::lock_guard lock(running_);
+    if (!openStatement_)
+        return;
+    cancelRequested_ = true;
+    SQLCancel(openStatement_);
+}
+
+void TOdbcEngine::RegisterFunction(const QString&, int, TDatabaseFunction)
+{
+}
+
+void TOdbcEngine::StatementClosed(SQLHANDLE statement)
+{
+    const std::lock_guard lock(running_);
+    if (openStatement_ == statement)
+        openStatement_ = nullptr;
+}
+
+bool TOdbcEngine::ConnectionSaysDead() const
+{
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    const SQLRETURN result =
+        SQLGetConnectAttrW(connection_.Get(), SQL_ATTR_CONNECTION_DEAD, &dead, SQL_IS_UINTEGER, nullptr);
+    return Succeeded(result) && dead == SQL_CD_TRUE;
+}
+
+void TOdbcEngine::FailStatement(SQLHANDLE statement, const QString& text)
+{
+    TOdbcDiagnostics diagnostics = ReadDiagnostics(SQL_HANDLE_STMT, statement);
+    dead_ = dead_ || diagnostics.Dead || ConnectionSaysDead();
+    diagnostics.Dead = dead_;
+    bool cancelled = false;
+    {
+        const std::lock_guard lock(running_);
+        cancelled = cancelRequested_ && !dead_;
+    }
+    throw OdbcError(diagnostics, text, cancelled ? TAdoErrorKind::Cancelled : TAdoErrorKind::Other);
+}
+
+void TOdbcEngine::FailConnection(TAdoErrorKind kind)
+{
+    const TOdbcDiagnostics diagnostics = ReadDiagnostics(SQL_HANDLE_DBC, connection_.Get());
+    dead_ = dead_ || diagnostics.Dead;
+    throw OdbcError(diagnostics, {}, kind);
+}

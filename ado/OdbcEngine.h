@@ -1,0 +1,49 @@
+#pragma once
+
+#include "Engine.h"
+#include "OdbcDiagnostics.h"
+#include "OdbcHandles.h"
+
+#include <mutex>
+
+/// One connection through the driver manager: unixODBC here, the system's own on Windows.
+class TOdbcEngine : public IEngine
+{
+public:
+    TOdbcEngine(const QString& connectionString, const TEngineOptions& options);
+    ~TOdbcEngine() override;
+
+    std::unique_ptr<IEngineRows> Execute(const QString& text, const QVariantList& parameters) override;
+    void Begin() override;
+    void Commit() override;
+    void Rollback() override;
+    bool InTransaction() const override { return inTransaction_; }
+    void Cancel() override;
+    bool IsDead() const override { return dead_; }
+    /// The server owns its functions.
+    void RegisterFunction(const QString& name, int argumentCount, TDatabaseFunction function) override;
+
+    /// Throws the exception for a failed call on a statement of this connection.
+    [[noreturn]] void FailStatement(SQLHANDLE statement, const QString& text);
+    /// Called by the rows when they are done with their statement.
+    void StatementClosed(SQLHANDLE statement);
+
+private:
+    [[noreturn]] void FailConnection(TAdoErrorKind kind);
+    void EndTransaction(SQLSMALLINT completion);
+    void SetAutoCommit(bool on);
+    bool ConnectionSaysDead() const;
+
+    TOdbcEnvironment environment_;
+    TOdbcConnection connection_;
+    bool inTransaction_ = false;
+    bool dead_ = false;
+
+    std::mutex running_; ///< guards the two below, which Cancel reads from another thread
+    SQLHANDLE openStatement_ = nullptr;
+    bool cancelRequested_ = false;
+};
+
+/// The connection string as the drivers want it: closed by ";" (a driver over TDS takes the last value with
+/// whatever follows it otherwise), and for that driver with the encryption said explicitly.
+ADO_EXPORT QString CompleteOdbcConnectionString(const QString& connectionString);
