@@ -1,0 +1,11 @@
+#include "RecordingHost.h"
+
+TRecordingHost::TRecordingHost()
+{
+    InstallHost(services_);
+}
+
+TRecordingHost::~TRecordingHost()
+{
+    RemoveHost();
+}
