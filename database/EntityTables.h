@@ -10,7 +10,7 @@ struct DATABASE_EXPORT TEntityTable
 {
     int EntityType;   ///< ordinal of TEntityType, 1 to 28 without 17
     int LookupOption; ///< ordinal of LocateDBsOptions
-    int SoftwarePart; ///< ordinal of TSoftwarePart by which the kind is picked; 0 for expense centers
+    int SoftwarePart; ///< ordinal of TSoftwarePart by which the kind is picked
     QString Table;    ///< table or view, with its schema
     QString Fields;   ///< what a lookup shows, names separated by semicolons
     QString Title;    ///< Persian, singular: what one of the kind is called

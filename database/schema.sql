@@ -67,7 +67,8 @@ GO
 
 -- Chart of accounts.
 
--- Type is the kind of group that the pickers filter by: 1 assets, 2 debts, 3 capital, 4 income, 5 costs, 6 control.
+-- Type is the kind of group that the pickers filter by: 1 assets, 2 liabilities, 3 equity, 4 incomes, 5 costs, 6 cost
+-- of sales, 7 memorandum.
 CREATE TABLE dbo.AccGroups (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
   Name nvarchar(100) NOT NULL,
@@ -75,14 +76,14 @@ CREATE TABLE dbo.AccGroups (
 )
 GO
 -- Kinds of detail accounts, the values of AccDetails.[Type] and of AccTotals.DetailType. 0 is a total without details;
--- 5 is bank accounts (3) and cash desks (4) by the assistant account; 10 takes unique codes of all kinds.
+-- 5 is incomes (3) under assistant 1 and costs (4) under the others; 10 takes unique codes of all kinds.
 CREATE TABLE dbo.AccDetailTypes (
   Code int NOT NULL PRIMARY KEY,
   Name nvarchar(100) NOT NULL
 )
 GO
 -- DetailType plus 128 says that a detail account must be given. Nature: 0 either, 1 debtor, 2 creditor. Properties is a
--- set of bits: 1 takes foreign currency, 2 takes expense centers, 4 is closed to entry by hand.
+-- set of bits: 1 currency, 2 quantity, 4 expense center, 8 follow-up, 16 control of nature.
 CREATE TABLE dbo.AccTotals (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
   Name nvarchar(100) NOT NULL,
@@ -110,20 +111,39 @@ CREATE TABLE dbo.AccDetails (
   PRIMARY KEY ([Type], Code)
 )
 GO
-CREATE TABLE dbo.ExpenseCenterGroups (
+-- Expense centers and the four levels that they are reported by.
+CREATE TABLE dbo.ExpenseLevel1 (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
+  Title nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.ExpenseLevel2 (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
+  Title nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.ExpenseLevel3 (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
+  Title nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.ExpenseLevel4 (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 9999),
   Title nvarchar(100) NOT NULL
 )
 GO
 CREATE TABLE dbo.ExpenseCenters (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 9999),
   Title nvarchar(100) NOT NULL,
-  GroupCode int NOT NULL REFERENCES dbo.ExpenseCenterGroups (Code),
+  Level1Code int NULL REFERENCES dbo.ExpenseLevel1 (Code),
+  Level2Code int NULL REFERENCES dbo.ExpenseLevel2 (Code),
+  Level3Code int NULL REFERENCES dbo.ExpenseLevel3 (Code),
+  Level4Code int NULL REFERENCES dbo.ExpenseLevel4 (Code),
   Active bit NOT NULL DEFAULT 1
 )
 GO
 
--- What the entity selectors choose from. Every table and view of this section has the key Code.
+-- What the entity selectors choose from. Every table of this section has the key Code.
 
 CREATE TABLE dbo.PersonGroups (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
@@ -205,49 +225,6 @@ CREATE TABLE dbo.Stores (
   Active bit NOT NULL DEFAULT 1
 )
 GO
-CREATE TABLE dbo.ServiceGroups (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL
-)
-GO
-CREATE TABLE dbo.Services (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL,
-  GroupCode int NOT NULL REFERENCES dbo.ServiceGroups (Code),
-  Price money NOT NULL DEFAULT 0,
-  Active bit NOT NULL DEFAULT 1
-)
-GO
-CREATE TABLE dbo.ProjectGroups (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL
-)
-GO
-CREATE TABLE dbo.Projects (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL,
-  GroupCode int NOT NULL REFERENCES dbo.ProjectGroups (Code),
-  Active bit NOT NULL DEFAULT 1
-)
-GO
-CREATE TABLE dbo.OtherDetails (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL,
-  Active bit NOT NULL DEFAULT 1
-)
-GO
-CREATE TABLE dbo.VisitorGroups (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL
-)
-GO
-CREATE TABLE dbo.Visitors (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
-  Name nvarchar(100) NOT NULL,
-  GroupCode int NOT NULL REFERENCES dbo.VisitorGroups (Code),
-  Active bit NOT NULL DEFAULT 1
-)
-GO
 CREATE TABLE dbo.EmployeeGroups (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
   Name nvarchar(100) NOT NULL
@@ -262,19 +239,64 @@ CREATE TABLE dbo.Employees (
   Active bit NOT NULL DEFAULT 1
 )
 GO
-CREATE TABLE dbo.WorkKinds (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
-  Title nvarchar(100) NOT NULL
+CREATE TABLE dbo.Incomes (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  Active bit NOT NULL DEFAULT 1
 )
 GO
-CREATE TABLE dbo.WorkPlaces (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 999),
-  Title nvarchar(100) NOT NULL
+CREATE TABLE dbo.Costs (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  Active bit NOT NULL DEFAULT 1
 )
 GO
-CREATE TABLE dbo.Contracts (
-  Code int NOT NULL PRIMARY KEY CHECK (Code > 0 AND Code <= 9999),
-  Title nvarchar(100) NOT NULL
+CREATE TABLE dbo.PettyCash (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  Active bit NOT NULL DEFAULT 1
+)
+GO
+CREATE TABLE dbo.Assets (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  PurchaseDate nvarchar(10) NULL,
+  Value money NOT NULL DEFAULT 0,
+  Active bit NOT NULL DEFAULT 1
+)
+GO
+CREATE TABLE dbo.WorkshopGroups (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.Workshops (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  GroupCode int NOT NULL REFERENCES dbo.WorkshopGroups (Code),
+  Active bit NOT NULL DEFAULT 1
+)
+GO
+CREATE TABLE dbo.Countries (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  TitleCountry nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.Provinces (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL
+)
+GO
+CREATE TABLE dbo.Cities (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  ProvinceCode int NOT NULL REFERENCES dbo.Provinces (Code)
+)
+GO
+CREATE TABLE dbo.Districts (
+  Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
+  Name nvarchar(100) NOT NULL,
+  CityCode int NOT NULL REFERENCES dbo.Cities (Code)
 )
 GO
 
@@ -530,14 +552,8 @@ GO
 CREATE INDEX IX_TradeRows_Kala ON dbo.TradeRows (KalaCode, TradeId)
 GO
 
--- Views: what lists and selectors read.
+-- Views: what lists and reports read.
 
-CREATE VIEW dbo.ActivePersons AS
-SELECT Code, FullName AS Name FROM dbo.Persons WHERE Active = 1
-GO
-CREATE VIEW dbo.Currencies AS
-SELECT CurCode AS Code, CurTitle + N'-' + CurCountry AS TitleCountry FROM dbo.AccCurrency
-GO
 CREATE VIEW dbo.KalaList AS
 SELECT k.Code, k.Name, k.SearchName, k.Barcode, k.UnitName, k.GroupCode, g.Name AS GroupName, k.Price, k.Stock, k.tags, k.Active, c.id AS CategoryCode, c.name AS CategoryName, c.path AS Categories
 FROM dbo.kala AS k
