@@ -1,3 +1,4 @@
+#include "ActiveWindow.h"
 #include "ControlDispatch.h"
 #include "TypedKeys.h"
 
@@ -56,9 +57,8 @@ struct TForm
         layout.addWidget(&second);
         Record(first, QStringLiteral("first"));
         Record(second, QStringLiteral("second"));
-        window.show();
-        QApplication::setActiveWindow(&window);
         first.setFocus();
+        window.show();
     }
 
     void Record(TProbe& probe, const QString& name)
@@ -69,7 +69,7 @@ struct TForm
 
     bool Ready()
     {
-        return QTest::qWaitForWindowActive(&window) && QTest::qWaitFor([this] { return first.hasFocus(); });
+        return ActiveWindow::Activate(&window) && QTest::qWaitFor([this] { return first.hasFocus(); });
     }
 };
 
@@ -292,13 +292,11 @@ void ControlEventsTest::windowsPopupsAndMenusRaiseNeitherEnterNorExit()
 
     QWidget other;
     other.setFocusPolicy(Qt::StrongFocus);
-    other.show();
-    other.activateWindow();
     other.setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    other.show();
+    QVERIFY(ActiveWindow::Activate(&other));
     QTRY_VERIFY(!form.first.hasFocus());
     other.close();
-    form.window.activateWindow();
     QVERIFY(form.Ready());
 
     for (const Qt::FocusReason reason : {Qt::MenuBarFocusReason, Qt::PopupFocusReason}) {
@@ -316,14 +314,12 @@ void ControlEventsTest::focusThatMovesInAnInactiveWindowLeavesTheFirstControl()
     QVERIFY(form.Ready());
     QWidget other;
     other.show();
-    other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(ActiveWindow::Activate(&other));
     QTRY_VERIFY(!form.window.isActiveWindow());
     form.log.clear();
     form.second.setFocus();
     other.close();
-    form.window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form.window));
+    QVERIFY(ActiveWindow::Activate(&form.window));
     QTRY_VERIFY(form.second.hasFocus());
     QCOMPARE(form.log, QStringList({QStringLiteral("first left"), QStringLiteral("second entered")}));
 }
