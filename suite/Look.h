@@ -7,9 +7,12 @@
 #include <QString>
 
 class QApplication;
+class QPainter;
 class QPalette;
+class QRect;
 
-/// The one visual language: font, palettes, measures. Installed once on the application, before the first widget.
+/// The one visual language: font, palettes, measures. Installed once on the application, before the first
+/// widget.
 namespace Look {
 
 enum class TScheme { FollowSystem, Light, Dark };
@@ -17,14 +20,31 @@ enum class TDigits { Persian, Latin };
 
 /// Everything that has a colour of its own. Values in docs/look.md and in the palettes' test.
 enum class TRole {
-    Window, Band, Text, BandText, SecondaryText, DisabledText, Base, AlternateBase, Accent, Selection, SelectionText,
-    Wrong, Warning, Good, Grid, EditorActive, EditorActiveText, Balloon, BalloonText,
+    Window,
+    Band,
+    Text,
+    BandText,
+    SecondaryText,
+    DisabledText,
+    Base,
+    AlternateBase,
+    Accent,
+    Selection,
+    SelectionText,
+    Wrong,
+    Warning,
+    Good,
+    Grid,
+    EditorActive,
+    EditorActiveText,
+    Balloon,
+    BalloonText,
 };
 
 /// Fusion style, embedded fonts, palette, right-to-left layout on the whole application.
 SUITE_EXPORT void Install(QApplication& application, TScheme scheme = TScheme::FollowSystem,
                           TDigits digits = TDigits::Persian);
-SUITE_EXPORT void SetScheme(TScheme scheme);  ///< takes effect at once
+SUITE_EXPORT void SetScheme(TScheme scheme); ///< takes effect at once
 SUITE_EXPORT bool IsDark();
 SUITE_EXPORT void SetDigits(TDigits digits);
 SUITE_EXPORT TDigits Digits();
@@ -32,16 +52,24 @@ SUITE_EXPORT TDigits Digits();
 SUITE_EXPORT QColor Color(TRole role);
 SUITE_EXPORT QColor ColorOf(TRole role, bool dark);
 SUITE_EXPORT QPalette Palette(bool dark);
-SUITE_EXPORT QFont BodyFont();   ///< 14 px
-SUITE_EXPORT QFont SmallFont();  ///< 13 px: grids and hints
-SUITE_EXPORT QFont BoldFont();   ///< 14 px bold: labels over a band
+SUITE_EXPORT QFont BodyFont();  ///< 14 px
+SUITE_EXPORT QFont SmallFont(); ///< 13 px: grids and hints
+SUITE_EXPORT QFont BoldFont();  ///< 14 px bold: labels over a band
 
-constexpr int Unit = 4;             ///< everything is a multiple of it, in pixels at scale 1
+constexpr int Unit = 4; ///< everything is a multiple of it, in pixels at scale 1
 constexpr int ControlHeight = 28;
 constexpr int Margin = 8;
 constexpr int LineGap = 6;
 constexpr int GroupGap = 16;
 constexpr int GridRowHeight = 30;
+
+/// Thickness in pixels of the ring that shows the focus or an error.
+constexpr int RingWidth = 2;
+/// Paints the ring just inside `rect`; `color` is usually Accent or Wrong.
+SUITE_EXPORT void PaintRing(QPainter& painter, const QRect& rect, const QColor& color);
+/// The colour of the focus ring on a ground: the accent, or the ground's text colour where the accent would
+/// vanish.
+SUITE_EXPORT QColor RingColor(const QPalette& palette);
 
 /// Colour of the toolkit notation: a name (clRed, ...) or a number 0x00BBGGRR, decimal or $-hexadecimal.
 /// Invalid where the text is neither.
@@ -52,4 +80,4 @@ SUITE_EXPORT QColor FromColorValue(quint32 value);
 /// The contrast of two colours, 1 to 21 (WCAG 2.1 relative luminance).
 SUITE_EXPORT double Contrast(const QColor& first, const QColor& second);
 
-}  // namespace Look
+} // namespace Look
