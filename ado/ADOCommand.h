@@ -5,7 +5,8 @@
 #include <QPointer>
 
 /// A statement without rows.
-class ADO_EXPORT TADOCommand : public QObject {
+class ADO_EXPORT TADOCommand : public QObject
+{
     Q_OBJECT
 
 public:
@@ -16,7 +17,7 @@ public:
     TADOConnection* Connection() const;
 
     QString CommandText;
-    QVariantList Parameters;  ///< values of the text's `?` marks
+    QVariantList Parameters; ///< values of the text's `?` marks
 
     /// Runs the text; returns the rows it wrote (-1 where the engine cannot tell).
     qint64 Execute();

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "AdoError.h"
 #include "AdoExport.h"
 #include "Engine.h"
 
 #include <functional>
 #include <memory>
 #include <QObject>
+#include <QPointer>
 
 class TADOConnection;
 
@@ -13,7 +15,8 @@ class TADOConnection;
 using TWillExecuteEvent = std::function<void(TADOConnection* Sender, const QString& Text)>;
 
 /// The connection to the host's database. Belongs to one thread; only Cancel() may be called from another.
-class ADO_EXPORT TADOConnection : public QObject {
+class ADO_EXPORT TADOConnection : public QObject
+{
     Q_OBJECT
 
 public:
@@ -26,12 +29,12 @@ public:
     void SetOptions(const TEngineOptions& options);
     TEngineOptions Options() const;
 
-    void Open();   ///< throws EADOError; an open connection stays as it is
-    void Close();  ///< rolls back an open transaction
+    void Open();  ///< throws EADOError; an open connection stays as it is
+    void Close(); ///< rolls back an open transaction
     bool Connected() const;
     /// True after an error has told that the connection is dead. Nothing is reopened or repeated by itself.
     bool IsLost() const;
-    void Reopen();  ///< Close() and Open(), on the user's word
+    void Reopen(); ///< Close() and Open(), on the user's word
 
     /// Runs a statement and delivers its rows; raises OnWillExecute first.
     std::unique_ptr<IEngineRows> Run(const QString& text, const QVariantList& parameters = {});
@@ -50,6 +53,7 @@ public:
     void RegisterFunction(const QString& name, int argumentCount, TDatabaseFunction function);
     /// A second connection to the same database, with the same options and functions, not yet open. Its
     /// statements are announced by this connection too (willExecute, queued when it works in another thread).
+    /// A database in memory is found again while one of the connections is open.
     std::unique_ptr<TADOConnection> Clone();
 
     TWillExecuteEvent OnWillExecute;
@@ -59,13 +63,35 @@ Q_SIGNALS:
     /// The connection was found dead; `message` is the Persian sentence for the user.
     void connectionLost(const QString& message);
 
+protected:
+    /// Opens the engine; a test or a host with an engine of its own answers otherwise.
+    virtual std::unique_ptr<IEngine> CreateEngine(const QString& connectionString,
+                                                  const TEngineOptions& options);
+
 private:
+    friend class TADOQuery; // reads rows to their end and tells what went wrong meanwhile
+
+    IEngine& LiveEngine(const QString& statement) const;
+    void Announce(const QString& text);
+    void NoteError(const EADOError& error);
+    /// Runs `work`; an error that tells of a dead connection is noted on its way.
+    template <typename TWork> auto Noting(TWork work)
+    {
+        try {
+            return work();
+        } catch (const EADOError& error) {
+            NoteError(error);
+            throw;
+        }
+    }
+
     struct TPrivate;
     std::unique_ptr<TPrivate> d;
 };
 
 /// Rolls back when it goes out of scope without Commit().
-class ADO_EXPORT TTransaction {
+class ADO_EXPORT TTransaction
+{
 public:
     explicit TTransaction(TADOConnection& connection);
     TTransaction(const TTransaction&) = delete;
@@ -74,5 +100,5 @@ public:
     void Commit();
 
 private:
-    TADOConnection* connection_;
+    QPointer<TADOConnection> connection_;
 };

@@ -8,7 +8,8 @@
 #include <QStringList>
 
 /// The lines of a statement. A text set whole stands as it is; lines added are joined by CR LF.
-class ADO_EXPORT TSqlText {
+class ADO_EXPORT TSqlText
+{
 public:
     void Clear() { lines_.clear(); }
     void Add(const QString& line) { lines_.append(line); }
@@ -25,7 +26,8 @@ Q_DECLARE_FLAGS(TLocateOptions, TLocateOption)
 
 /// A client-side static cursor: Open() reads the whole result, forward-only, and closes the statement.
 /// For results of human size; large lists use TPagedDataSet.
-class ADO_EXPORT TADOQuery : public TDataSet {
+class ADO_EXPORT TADOQuery : public TDataSet
+{
     Q_OBJECT
 
 public:
@@ -36,12 +38,12 @@ public:
     TADOConnection* Connection() const;
 
     TSqlText SQL;
-    QVariantList Parameters;  ///< values of the text's `?` marks
+    QVariantList Parameters; ///< values of the text's `?` marks
 
     bool Active() const override;
-    void Open() override;  ///< an open query stays as it is; closes first when you changed SQL
+    void Open() override; ///< an open query stays as it is; closes first when you changed SQL
     void Close() override;
-    void Requery();  ///< closes and opens, and stays on the same row number as far as there is one
+    void Requery(); ///< closes and opens, and stays on the same row number as far as there is one
     /// For statements without rows; returns the rows written.
     qint64 ExecSQL();
 
@@ -61,11 +63,12 @@ public:
     QVariant FieldValue(int index) const override;
     QVariant ValueAt(int row, int index) const override;
 
-    /// Moves to the first row whose fields (";" between names) have the values; stays and returns false otherwise.
+    /// Moves to the first row whose fields (";" between names) have the values; stays and returns false
+    /// otherwise.
     bool Locate(const QString& keyFields, const QVariantList& values, TLocateOptions options = {});
 
-    /// Shows only the rows that the predicate lets through; it reads fields by ValueAt of the unfiltered row it is
-    /// handed. Null shows all. Takes effect at once and keeps the current row where it stays visible.
+    /// Shows only the rows that the predicate lets through; it reads fields by ValueAt of the unfiltered row
+    /// it is handed. Null shows all. Takes effect at once and keeps the current row where it stays visible.
     using TRowFilter = std::function<bool(const TADOQuery& query, int sourceRow)>;
     void SetRowFilter(TRowFilter filter);
     QVariant SourceValue(int sourceRow, int index) const;
@@ -73,6 +76,11 @@ public:
     TNotifyEvent AfterOpen;
 
 private:
+    TADOConnection& LiveConnection() const;
+    void CheckActive() const;
+    void MoveTo(int row, bool bof, bool eof);
+    int SourceRow(int row) const;
+
     struct TPrivate;
     std::unique_ptr<TPrivate> d;
 };

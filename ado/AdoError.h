@@ -7,20 +7,21 @@
 
 /// What went wrong, as far as a caller may want to act on it.
 enum class TAdoErrorKind {
-    Other,           ///< anything the engine says that is none of the below
-    CannotOpen,      ///< file missing, unreadable, wrong connection string, server not reachable
-    NotADatabase,    ///< the file is there but is not a database of the engine
-    Busy,            ///< another user holds the lock for longer than the connection's busy timeout
-    Syntax,          ///< the engine does not understand the statement
-    Unsupported,     ///< the dialect layer does not know a construct; Detail() names it
-    Constraint,      ///< a key, uniqueness, null or check rule refused the write
-    Cancelled,       ///< the statement was abandoned by TADOConnection::Cancel
-    ConnectionLost,  ///< the connection is dead; nothing was repeated, Reopen() is the user's decision
-    WrongState,      ///< a programming error: closed data set, unknown field, wrong conversion
+    Other,          ///< anything the engine says that is none of the below
+    CannotOpen,     ///< file missing, unreadable, wrong connection string, server not reachable
+    NotADatabase,   ///< the file is there but is not a database of the engine
+    Busy,           ///< another user holds the lock for longer than the connection's busy timeout
+    Syntax,         ///< the engine does not understand the statement
+    Unsupported,    ///< the dialect layer does not know a construct; Detail() names it
+    Constraint,     ///< a key, uniqueness, null or check rule refused the write
+    Cancelled,      ///< the statement was abandoned by TADOConnection::Cancel
+    ConnectionLost, ///< the connection is dead; nothing was repeated, Reopen() is the user's decision
+    WrongState,     ///< a programming error: closed data set, unknown field, wrong conversion
 };
 
 /// The one exception of the data access room. Frames do not catch it: it reaches the application's handler.
-class ADO_EXPORT EADOError : public std::runtime_error {
+class ADO_EXPORT EADOError : public std::runtime_error
+{
 public:
     EADOError(TAdoErrorKind kind, const QString& message, const QString& statement = {},
               const QString& serverMessage = {}, const QString& state = {}, int code = 0);

@@ -9,7 +9,8 @@
 #include <QVector>
 
 /// Rows with a current one. What a grid shows and what a search manager filters.
-class ADO_EXPORT TDataSet : public QObject {
+class ADO_EXPORT TDataSet : public QObject
+{
     Q_OBJECT
 
 public:
@@ -23,9 +24,10 @@ public:
     virtual bool IsEmpty() = 0;
     virtual int RecordCount() = 0;
     virtual int FieldCount() const = 0;
-    virtual TField* Field(int index) = 0;          ///< owned by the data set
-    virtual TField* FindField(const QString& name) = 0;  ///< null when there is none; letter case does not matter
-    TField* FieldByName(const QString& name);      ///< throws EADOError(WrongState) when there is none
+    virtual TField* Field(int index) = 0; ///< owned by the data set
+    virtual TField*
+    FindField(const QString& name) = 0;       ///< null when there is none; letter case does not matter
+    TField* FieldByName(const QString& name); ///< throws EADOError(WrongState) when there is none
 
     virtual bool Bof() const = 0;
     virtual bool Eof() const = 0;
@@ -47,8 +49,8 @@ public:
     bool ControlsDisabled() const;
 
 Q_SIGNALS:
-    void dataChanged();  ///< rows or fields are others than before: opened, closed, requeried, filtered
-    void scrolled();     ///< the current row is another one
+    void dataChanged(); ///< rows or fields are others than before: opened, closed, requeried, filtered
+    void scrolled();    ///< the current row is another one
 
 protected:
     void AnnounceData();

@@ -12,12 +12,13 @@
 
 /// The rows of one executed statement, forward-only. One statement is open on a connection at a time.
 /// Column indexes count from 0; reading a column twice is allowed until Next() is called.
-class ADO_EXPORT IEngineRows {
+class ADO_EXPORT IEngineRows
+{
 public:
     IEngineRows() = default;
     IEngineRows(const IEngineRows&) = delete;
     IEngineRows& operator=(const IEngineRows&) = delete;
-    virtual ~IEngineRows();  ///< closes the statement, read to its end or not
+    virtual ~IEngineRows(); ///< closes the statement, read to its end or not
 
     /// Empty for a statement that delivers no rows.
     virtual const QVector<TColumnInfo>& Columns() const = 0;
@@ -28,15 +29,16 @@ public:
     virtual double Double(int column) = 0;
     virtual QString Text(int column) = 0;
     virtual QByteArray Blob(int column) = 0;
-    /// The value in the variant that the column's type asks for: bool, int, qint64, double, QString, QByteArray;
-    /// an invalid variant for NULL.
+    /// The value in the variant that the column's type asks for: bool, int, qint64, double, QString,
+    /// QByteArray; an invalid variant for NULL.
     virtual QVariant Value(int column) = 0;
     /// Rows written by the statement; -1 where the engine cannot tell.
     virtual qint64 AffectedRows() = 0;
 };
 
 /// What a registered database function may do while it runs: read the same database.
-class ADO_EXPORT IFunctionContext {
+class ADO_EXPORT IFunctionContext
+{
 public:
     virtual ~IFunctionContext();
     /// First column of each row of an engine-native statement; `?` marks take the arguments in order.
@@ -47,7 +49,8 @@ public:
 using TDatabaseFunction = std::function<QVariant(IFunctionContext& context, const QVariantList& arguments)>;
 
 /// One open connection of one engine. Used by one thread at a time; only Cancel() may come from another.
-class ADO_EXPORT IEngine {
+class ADO_EXPORT IEngine
+{
 public:
     IEngine() = default;
     IEngine(const IEngine&) = delete;
@@ -71,14 +74,16 @@ public:
 };
 
 /// How a connection string opens: `sqlite:FILE`, `sqlite::memory:` or `odbc:CONNECTION STRING`.
-struct TEngineOptions {
+struct TEngineOptions
+{
     bool ReadOnly = false;
-    bool CreateMissing = false;  ///< embedded engine only: create the file when there is none
-    int BusyTimeout = 5000;      ///< milliseconds to wait for another user's lock
-    int LoginTimeout = 15;       ///< seconds; ODBC only
+    bool CreateMissing = false; ///< embedded engine only: create the file when there is none
+    int BusyTimeout = 5000;     ///< milliseconds to wait for another user's lock
+    int LoginTimeout = 15;      ///< seconds; ODBC only
 };
 
 /// Opens the engine that the string's prefix names. Throws EADOError (CannotOpen, NotADatabase, Busy).
-ADO_EXPORT std::unique_ptr<IEngine> OpenEngine(const QString& connectionString, const TEngineOptions& options);
+ADO_EXPORT std::unique_ptr<IEngine> OpenEngine(const QString& connectionString,
+                                               const TEngineOptions& options);
 std::unique_ptr<IEngine> OpenSqliteEngine(const QString& file, const TEngineOptions& options);
 std::unique_ptr<IEngine> OpenOdbcEngine(const QString& connectionString, const TEngineOptions& options);

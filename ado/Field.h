@@ -8,7 +8,8 @@
 class TDataSet;
 
 /// One column of a data set, read at the data set's current row. Lives as long as the data set stays open.
-class ADO_EXPORT TField {
+class ADO_EXPORT TField
+{
 public:
     TField(TDataSet* dataSet, int index, const TColumnInfo& column);
 
@@ -21,7 +22,8 @@ public:
     /// The value at the current row; an invalid variant for NULL and where the data set has no row.
     QVariant Value() const;
     bool IsNull() const;
-    /// NULL reads as empty text, 0, false or no bytes; a text that is no number reads as EADOError(WrongState).
+    /// NULL reads as empty text, 0, false or no bytes; a text that is no number reads as
+    /// EADOError(WrongState).
     QString AsString() const;
     int AsInteger() const;
     qint64 AsLargeInt() const;

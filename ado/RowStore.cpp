@@ -1,0 +1,112 @@
+#include "RowStore.h"
+
+void TRowStore::Read(IEngineRows& rows)
+{
+    Clear();
+    columns_ = rows.Columns();
+    const int columnCount = static_cast<int>(columns_.size());
+    while (rows.Next()) {
+        for (int column = 0; column < columnCount; ++column)
+            AppendCell(rows, column);
+        ++rowCount_;
+    }
+}
+
+void TRowStore::Clear()
+{
+    *this = {};
+}
+
+void TRowStore::AppendCell(IEngineRows& rows, int column)
+{
+    switch (columns_[column].Type) {
+    case TFieldType::ftBCD:
+    case TFieldType::ftDate:
+    case TFieldType::ftDateTime:
+    case TFieldType::ftWideString:
+    case TFieldType::ftWideMemo:
+        if (rows.IsNull(column))
+            cells_.emplace_back();
+        else
+            AppendText(rows.Text(column));
+        break;
+    default:
+        AppendVariant(rows.Value(column));
+    }
+}
+
+void TRowStore::AppendText(const QString& text)
+{
+    TCell cell;
+    cell.Kind = TKind::Text;
+    cell.Length = static_cast<quint32>(text.size());
+    cell.Number = static_cast<qint64>(texts_.size());
+    texts_.append(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
+    cells_.push_back(cell);
+}
+
+void TRowStore::AppendNumber(TKind kind, qint64 number)
+{
+    TCell cell;
+    cell.Kind = kind;
+    cell.Number = number;
+    cells_.push_back(cell);
+}
+
+void TRowStore::AppendVariant(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        cells_.emplace_back();
+        break;
+    case QMetaType::Bool:
+        AppendNumber(TKind::Boolean, value.toBool() ? 1 : 0);
+        break;
+    case QMetaType::Int:
+        AppendNumber(TKind::Integer, value.toInt());
+        break;
+    case QMetaType::LongLong:
+        AppendNumber(TKind::Largeint, value.toLongLong());
+        break;
+    case QMetaType::Double: {
+        AppendNumber(TKind::Float, 0);
+        cells_.back().Real = value.toDouble();
+        break;
+    }
+    case QMetaType::QByteArray: {
+        const QByteArray blob = value.toByteArray();
+        AppendNumber(TKind::Blob, static_cast<qint64>(bytes_.size()));
+        cells_.back().Length = static_cast<quint32>(blob.size());
+        bytes_.append(blob.constData(), static_cast<std::size_t>(blob.size()));
+        break;
+    }
+    default:
+        AppendText(value.toString());
+    }
+}
+
+QVariant TRowStore::Value(int row, int column) const
+{
+    if (row < 0 || row >= rowCount_ || column < 0 || column >= columns_.size())
+        return {};
+    const std::size_t index = static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_.size()) +
+                              static_cast<std::size_t>(column);
+    const TCell& cell = cells_[index];
+    switch (cell.Kind) {
+    case TKind::Boolean:
+        return cell.Number != 0;
+    case TKind::Integer:
+        return static_cast<int>(cell.Number);
+    case TKind::Largeint:
+        return cell.Number;
+    case TKind::Float:
+        return cell.Real;
+    case TKind::Text:
+        return QString(reinterpret_cast<const QChar*>(texts_.data()) + cell.Number, cell.Length);
+    case TKind::Blob:
+        return QByteArray(bytes_.data() + cell.Number, cell.Length);
+    case TKind::Null:
+        break;
+    }
+    return {};
+}

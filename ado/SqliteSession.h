@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Engine.h"
+#include "SqliteError.h"
+#include "SqliteSchema.h"
+#include "SqliteStatementCache.h"
+
+#include <atomic>
+#include <mutex>
+#include <QElapsedTimer>
+
+class TSqliteRows;
+
+/// What the engine, its rows and its functions share: the handle, the statements, the abandoning of
+/// statements.
+class TSqliteSession
+{
+public:
+    /// Takes the handle over, be it open or the remains of a failed opening.
+    TSqliteSession(sqlite3* handle, int busyTimeout);
+    TSqliteSession(const TSqliteSession&) = delete;
+    TSqliteSession& operator=(const TSqliteSession&) = delete;
+    ~TSqliteSession();
+
+    sqlite3* Handle() const { return handle_; }
+    TSqliteStatementCache& Statements() { return statements_; }
+    /// Statements in SQLite's own words, used by registered functions.
+    TSqliteStatementCache& NativeStatements() { return nativeStatements_; }
+
+    /// Bracket a statement. A request between two statements finds none to abandon and leaves no trace.
+    void StatementStarts();
+    void StatementEnds();
+    /// From any thread.
+    void RequestCancel();
+
+    /// Rows under way are told when the connection closes before them.
+    void Attach(TSqliteRows* rows) { openRows_.push_back(rows); }
+    void Detach(TSqliteRows* rows) { std::erase(openRows_, rows); }
+
+    /// Tables or columns are others than before: translations made for the old ones are forgotten.
+    void SchemaChanged();
+    void RegisterFunction(const QString& name, int argumentCount, TDatabaseFunction function);
+    /// The exception for a result code of a running statement.
+    EADOError Failure(int code, const QString& text) const;
+    /// Runs words of the engine's own; throws EADOError.
+    void RunNative(const char* words);
+
+private:
+    std::unique_ptr<TSqliteStatement> PrepareTranslated(const QString& text);
+    std::unique_ptr<TSqliteStatement> PrepareNative(const QString& text) const;
+    static int OnBusy(void* session, int count);
+    static int OnProgress(void* session);
+
+    sqlite3* handle_;
+    int busyTimeout_;
+    QElapsedTimer busyTime_;
+    TSqliteStatementCache statements_;
+    TSqliteStatementCache nativeStatements_;
+    std::vector<TSqliteRows*> openRows_;
+    Dialect::TSqliteSchema schema_;
+
+    std::mutex cancelMutex_;
+    int running_ = 0;
+    std::atomic<bool> cancelRequested_ = false;
+};
