@@ -8,6 +8,8 @@ namespace {
 
 constexpr QLatin1StringView MemoryName(":memory:");
 
+constexpr qint64 SmallestDatabase = 512;
+
 /// What SQLite is asked to open.
 struct TTarget
 {
@@ -29,6 +31,9 @@ void CheckFile(const QFileInfo& file, const TEngineOptions& options)
     if (file.exists()) {
         if (!file.isReadable())
             Refuse(QStringLiteral("اجازهٔ خواندن پروندهٔ پایگاه دادهٔ «%1» داده نشده است."), path);
+        // SQLite takes a file shorter than its smallest page for an empty database and would write over it.
+        if (file.size() > 0 && file.size() < SmallestDatabase)
+            throw SqliteError(nullptr, SQLITE_NOTADB, TSqlitePhase::Opening);
         return;
     }
     if (!options.CreateMissing || options.ReadOnly)
