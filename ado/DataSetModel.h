@@ -6,9 +6,12 @@
 #include <QAbstractTableModel>
 #include <QPointer>
 
+class TPagedDataSet;
+
 /// Shows a data set, client cursor or paged, as an item model. Data of Qt::DisplayRole is the field's text,
 /// Qt::EditRole its value, FieldTypeRole its TFieldType as int. Rows not yet here are empty.
-class ADO_EXPORT TDataSetModel : public QAbstractTableModel {
+class ADO_EXPORT TDataSetModel : public QAbstractTableModel
+{
     Q_OBJECT
 
 public:
@@ -17,7 +20,7 @@ public:
     explicit TDataSetModel(QObject* parent = nullptr);
     ~TDataSetModel() override;
 
-    void SetDataSource(TDataSource* source);  ///< not owned
+    void SetDataSource(TDataSource* source); ///< not owned
     TDataSource* DataSource() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -28,5 +31,14 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    TDataSet* DataSet() const;
+    void FollowDataSet();
+    void ResetRows();
+    void AdjustRows(int count);
+    void RepaintRows(int first, int last);
+
     QPointer<TDataSource> source_;
+    QPointer<TPagedDataSet> paged_;
+    int rows_ = 0; ///< as announced to the views, while the data set may already have others
+    int columns_ = 0;
 };

@@ -6,47 +6,58 @@
 #include <memory>
 
 /// Where the rows of a large list come from. All texts are the host's own words.
-struct TPagedSource {
-    QStringList Fields;  ///< column names to read, the key among them
-    QString From;        ///< table or view, e.g. `dbo.kala`
-    QString KeyField;    ///< unique, not null; breaks ties of the order
+struct TPagedSource
+{
+    QStringList Fields; ///< column names to read, the key among them
+    QString From;       ///< table or view, e.g. `dbo.kala`
+    QString KeyField;   ///< unique, not null; breaks ties of the order
 };
 
-/// A large list that is never read whole: pages by key on a connection and a thread of its own, so that nothing
-/// waits for it. A new condition or order abandons the query under way; an old answer never replaces a newer one.
-/// RecordCount() is what is known so far until the background count has come (CountIsExact()). Rows that have not
-/// arrived read as invalid variants and are announced by rowsArrived().
-class ADO_EXPORT TPagedDataSet : public TDataSet {
+/// A large list that is never read whole: pages by key on a connection and a thread of its own, so that
+/// nothing waits for it. A new condition or order abandons the query under way; an old answer never replaces
+/// a newer one. RecordCount() is what is known so far until the background count has come (CountIsExact()).
+/// Rows that have not arrived read as invalid variants and are announced by rowsArrived(). Until the first
+/// page of a new condition or order is here the list is the one before it; then the current row is the first
+/// one. Memory is bounded: some pages around those used last, and a place for every page.
+class ADO_EXPORT TPagedDataSet : public TDataSet
+{
     Q_OBJECT
 
 public:
     explicit TPagedDataSet(QObject* parent = nullptr);
     ~TPagedDataSet() override;
 
-    void SetConnection(TADOConnection* connection);  ///< cloned for the worker at Open()
-    void SetSource(const TPagedSource& source);
+    void SetConnection(TADOConnection* connection); ///< cloned for the work in the background at Open()
+    void SetSource(const TPagedSource& source); ///< closes an open list; the order becomes that of the key
     TPagedSource Source() const;
-    void SetPageSize(int rows);  ///< 100 by default
+    void SetPageSize(int rows); ///< 100 by default; takes effect at Open()
 
     /// WHERE text without the word; empty for all rows. Starts the new query and returns at once.
     void SetCondition(const QString& condition);
     QString Condition() const;
+    /// Orders by one of the source's fields; an empty name orders by the key. Throws EADOError(WrongState)
+    /// for another.
     void SetOrder(const QString& field, Qt::SortOrder order);
     QString OrderField() const;
     Qt::SortOrder Order() const;
-    void Refresh();  ///< reads again, keeping condition, order and, where it still exists, the current key
+    /// Reads again, keeping condition and order. The current row stays on its key where that still exists,
+    /// else on the row that has taken its place. Also opens a lost connection again.
+    void Refresh();
 
     bool CountIsExact() const;
-    bool Busy() const;  ///< a page or the count is under way
-    /// Waits until the first page of the newest condition is here; false after `milliseconds`.
+    bool Busy() const; ///< a page or the count is under way
+    /// Waits until the first page of the newest condition is here; false when it has not come after
+    /// `milliseconds` and when its statement failed. Handles no events meanwhile.
     bool WaitForFirstPage(int milliseconds = 30000);
-    /// The key of the current row; invalid when there is none.
+    /// Waits in the same way until the current row is here, so that its values can be read.
+    bool WaitForCurrentRow(int milliseconds = 30000);
+    /// The key of the current row; invalid when there is none or it has not arrived.
     QVariant CurrentKey() const;
 
     bool Active() const override;
-    void Open() override;
+    void Open() override; ///< throws EADOError when the source cannot be read; the rows come later
     void Close() override;
-    bool IsEmpty() override;  ///< waits for the first page of the newest condition
+    bool IsEmpty() override; ///< waits for the first page of the newest condition
     int RecordCount() override;
     int FieldCount() const override;
     TField* Field(int index) override;
@@ -55,12 +66,12 @@ public:
     bool Eof() const override;
     void First() override;
     void Prior() override;
-    void Next() override;
-    void Last() override;
+    void Next() override; ///< waits at the end of the known rows until it is clear whether there is another
+    void Last() override; ///< goes to the last known row, and on to the very last one when the count comes
     int RecNo() const override;
     void SetRecNo(int recNo) override;
     QVariant FieldValue(int index) const override;
-    QVariant ValueAt(int row, int index) const override;  ///< asks for the row's page when it is not here
+    QVariant ValueAt(int row, int index) const override; ///< asks for the row's page when it is not here
 
 Q_SIGNALS:
     void rowsArrived(int first, int last);
@@ -71,5 +82,11 @@ Q_SIGNALS:
 
 private:
     struct TPrivate;
+
+    void ShowReplaced(int row);
+    void ShowArrived(int first, int last);
+    void ShowCount();
+    void MoveTo(int row);
+
     std::unique_ptr<TPrivate> d;
 };

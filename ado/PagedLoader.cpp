@@ -1,0 +1,338 @@
+#include "PagedLoader.h"
+
+#include <algorithm>
+#include <QPointer>
+
+void TPageQueue::Add(int page)
+{
+    pages_.erase(
+        std::remove_if(pages_.begin(), pages_.end(),
+                       [this, page](int other) { return other == page || qAbs(other - page) > reach_; }),
+        pages_.end());
+    pages_.append(page);
+}
+
+namespace {
+
+// Rows that one window shows at most; pages further apart than that are not wanted together.
+constexpr int rowsInSight = 200;
+
+} // namespace
+
+TPagedLoader::TPagedLoader(TADOConnection& connection, const TPagedSource& source, int pageSize,
+                           QObject* parent)
+    : QObject(parent), source_(source), pageSize_(pageSize), queue_(qMax(1, rowsInSight / pageSize)),
+      pageThread_(MakeThread(connection)), countThread_(MakeThread(connection))
+{
+    list_.Reset(pageSize);
+}
+
+TPagedLoader::~TPagedLoader() = default;
+
+void TPagedLoader::Stop()
+{
+    pageThread_.reset();
+    countThread_.reset();
+    statements_.reset();
+    queue_.Clear();
+    list_.Reset(pageSize_);
+    list_.SetCount(0, true);
+    growWanted_ = false;
+    firstPending_ = false;
+    firstFailed_ = true;
+}
+
+std::unique_ptr<TQueryThread> TPagedLoader::MakeThread(TADOConnection& connection)
+{
+    auto thread = std::make_unique<TQueryThread>(connection.Clone());
+    connect(thread.get(), &TQueryThread::answered, this, [worker = thread.get()] {
+        if (const TQueryThread::TAnswer answer = worker->TakeAnswer())
+            answer();
+    });
+    return thread;
+}
+
+TQueryThread::TTask TPagedLoader::Task(std::function<TQueryThread::TAnswer(TPageReader&)> work,
+                                       void (TPagedLoader::*fail)(const EADOError&), bool reopen,
+                                       std::shared_ptr<const TPageStatements> statements)
+{
+    return [this, work = std::move(work), fail, reopen,
+            statements = std::move(statements)](TADOConnection& connection) -> TQueryThread::TAnswer {
+        try {
+            MakeReady(connection, reopen);
+            TPageReader reader(connection, *statements);
+            return work(reader);
+        } catch (const EADOError& error) {
+            return [this, fail, error] { (this->*fail)(error); };
+        }
+    };
+}
+
+void TPagedLoader::MakeReady(TADOConnection& connection, bool reopen)
+{
+    if (connection.IsLost() && reopen)
+        connection.Reopen();
+    else if (!connection.Connected() && !connection.IsLost())
+        connection.Open();
+}
+
+void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TSortKey>& keep, bool reopen)
+{
+    const auto statements =
+        std::make_shared<const TPageStatements>(source_, query.Condition, query.OrderIndex, query.Order);
+    countThread_->Abandon();
+    queue_.Clear();
+    growWanted_ = false;
+    firstPending_ = true;
+    firstFailed_ = false;
+    const auto work = [this, query, keep, statements,
+                       rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, question = TQuestion{query, statements}, pages = ReadFirst(reader, rows, keep)] {
+            ShowFirst(question, pages);
+        };
+    };
+    pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, reopen, statements));
+    AnnounceBusy();
+}
+
+TPagedLoader::TFirstPages TPagedLoader::ReadFirst(TPageReader& reader, int pageSize,
+                                                  const std::optional<TSortKey>& keep)
+{
+    TFirstPages pages;
+    pages.First = reader.Read({{}, 0, pageSize});
+    if (keep && pages.First.Count() > 0)
+        pages.Around = reader.ReadAround(reader.Find(keep->Key).value_or(*keep), pageSize);
+    return pages;
+}
+
+void TPagedLoader::ShowFirst(const TQuestion& question, const TFirstPages& pages)
+{
+    firstPending_ = false;
+    pagesStopped_ = false;
+    shown_ = question.Query;
+    statements_ = question.Statements;
+    list_.Reset(pageSize_);
+    list_.PutPage(0, {{}, 0, pageSize_}, pages.First, *statements_);
+    const int row = pages.Around ? PutAround(*pages.Around) : qMin(0, list_.Count() - 1);
+    if (!list_.CountIsExact())
+        BeginCount();
+    const QPointer<TPagedLoader> alive(this);
+    Q_EMIT replaced(row);
+    if (alive)
+        AnnounceBusy();
+}
+
+int TPagedLoader::PutAround(const TPageReader::TAround& around)
+{
+    if (around.Row >= pageSize_)
+        list_.PutPage(list_.PageOf(around.Row), {{}, 0, pageSize_}, around.Rows, *statements_);
+    return qMin(around.Row, list_.Count() - 1);
+}
+
+void TPagedLoader::FailFirst(const EADOError& error)
+{
+    firstPending_ = false;
+    firstFailed_ = true;
+    if (statements_ && !list_.CountIsExact() && error.Kind() != TAdoErrorKind::ConnectionLost)
+        BeginCount();
+    Fail(error);
+}
+
+// Counting alone is quick, finding the places of a list that is not ordered by its key means sorting it. So
+// the count goes ahead there, while the places of the key's order count as they come.
+void TPagedLoader::BeginCount()
+{
+    if (statements_->OrderedByKey()) {
+        BeginSurvey();
+        return;
+    }
+    const auto work = [this](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, count = reader.Count()] {
+            list_.SetCount(count, true);
+            BeginSurvey();
+            Q_EMIT countChanged();
+        };
+    };
+    countThread_->Begin(Task(work, &TPagedLoader::FailCount, true, statements_));
+}
+
+void TPagedLoader::BeginSurvey()
+{
+    const auto work = [this, rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, survey = reader.Survey(rows)] { TakeSurvey(survey); };
+    };
+    countThread_->Begin(Task(work, &TPagedLoader::FailCount, true, statements_));
+}
+
+void TPagedLoader::TakeSurvey(const TPageReader::TSurvey& survey)
+{
+    const bool news = survey.Count != list_.Count() || !list_.CountIsExact();
+    list_.SetCount(survey.Count, true);
+    list_.SetBoundaries(survey.Boundaries);
+    const QPointer<TPagedLoader> alive(this);
+    if (news)
+        Q_EMIT countChanged();
+    if (alive)
+        AnnounceBusy();
+}
+
+void TPagedLoader::FailCount(const EADOError& error)
+{
+    Fail(error);
+}
+
+QVariant TPagedLoader::Value(int row, int field)
+{
+    if (row < 0 || row >= list_.Count())
+        return {};
+    if (!list_.CountIsExact() && list_.PageOf(row) == list_.PageOf(list_.Count() - 1) && !growWanted_) {
+        growWanted_ = true;
+        PostReadNext();
+    }
+    if (const QVariant* value = list_.Value(row, field))
+        return *value;
+    if (!list_.HasRow(row))
+        Want(list_.PageOf(row));
+    return {};
+}
+
+std::optional<TSortKey> TPagedLoader::Place(int row)
+{
+    if (!statements_ || !list_.HasRow(row) || !list_.Value(row, 0))
+        return std::nullopt;
+    return statements_->SortKey([this, row](int field) { return *list_.Value(row, field); });
+}
+
+bool TPagedLoader::IsBusy() const
+{
+    return pageThread_ && (pageThread_->IsBusy() || countThread_->IsBusy());
+}
+
+void TPagedLoader::Want(int page)
+{
+    queue_.Add(page);
+    PostReadNext();
+}
+
+// Painting asks for all cells in sight; reading begins when it has asked for all of them.
+void TPagedLoader::PostReadNext()
+{
+    if (readPosted_)
+        return;
+    readPosted_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            readPosted_ = false;
+            ReadNext();
+        },
+        Qt::QueuedConnection);
+}
+
+bool TPagedLoader::NextWanted(int* page)
+{
+    while (!queue_.IsEmpty()) {
+        *page = queue_.TakeNewest();
+        if (!list_.HasPage(*page) && *page * pageSize_ < list_.Count())
+            return true;
+    }
+    const bool grow = growWanted_ && !list_.CountIsExact();
+    growWanted_ = false;
+    *page = list_.Count() / pageSize_;
+    return grow;
+}
+
+void TPagedLoader::ReadNext()
+{
+    int page = 0;
+    if (!statements_ || pagesStopped_ || pageThread_->IsBusy() || !NextWanted(&page))
+        return;
+    const auto work = [this, page, plan = list_.Plan(page)](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, page, plan, rows = reader.Read(plan)] { TakePage(page, plan, rows); };
+    };
+    pageThread_->Begin(Task(work, &TPagedLoader::FailPage, false, statements_));
+    AnnounceBusy();
+}
+
+void TPagedLoader::TakePage(int page, const TPagePlan& plan, const TPageRows& rows)
+{
+    const int countBefore = list_.Count();
+    const bool exactBefore = list_.CountIsExact();
+    list_.PutPage(page, plan, rows, *statements_);
+    ReadNext();
+    const QPointer<TPagedLoader> alive(this);
+    if (list_.Count() != countBefore || list_.CountIsExact() != exactBefore)
+        Q_EMIT countChanged();
+    if (alive && rows.Count() > 0)
+        Q_EMIT rowsArrived(page * pageSize_, page * pageSize_ + rows.Count() - 1);
+    if (alive)
+        AnnounceBusy();
+}
+
+void TPagedLoader::FailPage(const EADOError& error)
+{
+    queue_.Clear();
+    growWanted_ = false;
+    pagesStopped_ = true;
+    Fail(error);
+}
+
+bool TPagedLoader::WaitForAnswer(const QDeadlineTimer& deadline)
+{
+    if (!pageThread_ || !pageThread_->WaitForAnswer(deadline))
+        return false;
+    if (const TQueryThread::TAnswer answer = pageThread_->TakeAnswer())
+        answer();
+    return true;
+}
+
+bool TPagedLoader::WaitForFirst(const QDeadlineTimer& deadline)
+{
+    const QPointer<TPagedLoader> alive(this);
+    while (alive && firstPending_) {
+        if (!WaitForAnswer(deadline))
+            return false;
+    }
+    return alive && !firstFailed_;
+}
+
+bool TPagedLoader::WaitForRow(int row, const QDeadlineTimer& deadline)
+{
+    const QPointer<TPagedLoader> alive(this);
+    while (alive && row >= 0 && row < list_.Count() && !list_.HasRow(row)) {
+        queue_.Add(list_.PageOf(row));
+        ReadNext();
+        if (!WaitForAnswer(deadline))
+            return false;
+    }
+    return alive && list_.HasRow(row);
+}
+
+void TPagedLoader::WaitForMore(const QDeadlineTimer& deadline)
+{
+    const QPointer<TPagedLoader> alive(this);
+    const int count = list_.Count();
+    while (alive && !list_.CountIsExact() && list_.Count() == count) {
+        growWanted_ = true;
+        ReadNext();
+        if (!WaitForAnswer(deadline))
+            return;
+    }
+}
+
+void TPagedLoader::AnnounceBusy()
+{
+    const bool busy = IsBusy();
+    if (busy == busyAnnounced_)
+        return;
+    busyAnnounced_ = busy;
+    Q_EMIT busyChanged(busy);
+}
+
+void TPagedLoader::Fail(const EADOError& error)
+{
+    const QPointer<TPagedLoader> alive(this);
+    Q_EMIT failed(error.Message(), error.ServerMessage());
+    if (alive)
+        AnnounceBusy();
+}
