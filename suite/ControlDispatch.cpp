@@ -52,8 +52,9 @@ bool RaiseKeyEvent(const TKeyEvent& handler, QWidget* control, const QKeyEvent* 
 
 QChar RaiseKeyPress(const TKeyPressEvent& handler, QWidget* control, QChar character)
 {
-    const TKeyPressEvent running = handler;
-    running(control, character);
+    // A copy, because the handler may replace or clear itself.
+    if (const TKeyPressEvent running = handler)
+        running(control, character);
     return character;
 }
 
@@ -111,6 +112,11 @@ void ControlDispatch::KeyPress(QWidget* control, TControlEvents& events, QKeyEve
     QKeyEvent changed(QEvent::KeyPress, left.front().toUpper().unicode(), Qt::NoModifier, left);
     own(&changed);
     event->setAccepted(changed.isAccepted());
+}
+
+QString ControlDispatch::Characters(QWidget* control, const TControlEvents& events, const QString& text)
+{
+    return events.OnKeyPress ? RaiseKeyPresses(events, control, text) : text;
 }
 
 void ControlDispatch::KeyRelease(QWidget* control, TControlEvents& events, QKeyEvent* event,

@@ -33,6 +33,8 @@ using TOwnHandling = std::function<void(QKeyEvent* event)>;
 /// are left.
 SUITE_EXPORT void KeyPress(QWidget* control, TControlEvents& events, QKeyEvent* event,
                            const TOwnHandling& own);
+/// OnKeyPress for each character of a text that an input method gives; what is left of it.
+SUITE_EXPORT QString Characters(QWidget* control, const TControlEvents& events, const QString& text);
 /// OnKeyUp, then the control's own handling; a repeated key counts as still held.
 SUITE_EXPORT void KeyRelease(QWidget* control, TControlEvents& events, QKeyEvent* event,
                              const TOwnHandling& own);

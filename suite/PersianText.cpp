@@ -1,5 +1,7 @@
 #include "PersianText.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 constexpr char16_t PersianZero = u'\u06F0';
@@ -11,10 +13,42 @@ constexpr char16_t PersianThousands = u'\u066C';
 
 bool IsGrouping(QChar character)
 {
-    return character == u',' || character == PersianThousands || character == u'\u060C' || character == u'\u2019';
+    return character == u',' || character == PersianThousands || character == u'\u060C' ||
+           character == u'\u2019';
 }
 
-}  // namespace
+bool IsDirectionMark(char16_t unit)
+{
+    return unit == u'\u200E' || unit == u'\u200F' || unit == u'\u061C' ||
+           (unit >= u'\u202A' && unit <= u'\u202E') || (unit >= u'\u2066' && unit <= u'\u2069');
+}
+
+bool IsLineBreak(QChar character)
+{
+    const char16_t unit = character.unicode();
+    return unit == u'\n' || unit == u'\r' || unit == u'\t' || unit == u'\v' || unit == u'\f' ||
+           unit == u'\u0085' || unit == u'\u2028' || unit == u'\u2029';
+}
+
+bool IsKept(QChar character)
+{
+    const char16_t unit = character.unicode();
+    return character.category() != QChar::Other_Control && !IsDirectionMark(unit) && unit != u'\uFEFF' &&
+           unit != u'\uFFFE' && unit != u'\uFFFF';
+}
+
+QString WithoutOuterLineBreaks(const QString& text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && IsLineBreak(text.at(start)))
+        ++start;
+    while (end > start && IsLineBreak(text.at(end - 1)))
+        --end;
+    return text.mid(start, end - start);
+}
+
+} // namespace
 
 int PersianText::DigitValue(QChar character)
 {
@@ -76,11 +110,11 @@ QString PersianText::Fold(const QString& text)
         case ZeroWidthNonJoiner:
         case Kashida:
             break;
-        case u'\u064A':  // Arabic yeh
-        case u'\u0649':  // alef maksura
+        case u'\u064A': // Arabic yeh
+        case u'\u0649': // alef maksura
             result += u'\u06CC';
             break;
-        case u'\u0643':  // Arabic kaf
+        case u'\u0643': // Arabic kaf
             result += u'\u06A9';
             break;
         default:
@@ -96,4 +130,34 @@ QString PersianText::Fold(const QString& text)
 QString PersianText::Isolated(const QString& text)
 {
     return u'\u2068' + text + u'\u2069';
+}
+
+QString PersianText::WithIsolatedCodes(const QString& sentence)
+{
+    if (sentence.contains(u'\u2068'))
+        return sentence;
+    static const QRegularExpression code(
+        QStringLiteral(R"(-?[A-Za-z0-9](?:[A-Za-z0-9_.:/\\\-+*#@,&]*[A-Za-z0-9])?)"));
+    return QString(sentence).replace(code, QStringLiteral("\u2068\\0\u2069"));
+}
+
+QString PersianText::SingleLine(const QString& text)
+{
+    QString result;
+    result.reserve(text.size());
+    const QString line = WithoutOuterLineBreaks(text);
+    for (qsizetype place = 0; place < line.size(); ++place) {
+        const QChar character = line.at(place);
+        if (IsLineBreak(character)) {
+            if (character != u'\n' || line.at(place - 1) != u'\r')
+                result += u' ';
+        } else if (character.isHighSurrogate() && place + 1 < line.size() &&
+                   line.at(place + 1).isLowSurrogate()) {
+            result += character;
+            result += line.at(++place);
+        } else if (!character.isSurrogate() && IsKept(character)) {
+            result += character;
+        }
+    }
+    return AsciiDigits(result);
 }

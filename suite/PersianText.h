@@ -9,7 +9,8 @@ namespace PersianText {
 
 /// Persian and Arabic-Indic digits become ASCII; everything else stays.
 SUITE_EXPORT QString AsciiDigits(const QString& text);
-/// ASCII digits become Persian ones, for texts painted without the product's font (PDF, CSV, messages of others).
+/// ASCII digits become Persian ones, for texts painted without the product's font (PDF, CSV, messages of
+/// others).
 SUITE_EXPORT QString PersianDigits(const QString& text);
 /// The value of a digit of any of the three scripts; -1 where the character is none.
 SUITE_EXPORT int DigitValue(QChar character);
@@ -21,4 +22,12 @@ SUITE_EXPORT QString Fold(const QString& text);
 /// The text between U+2068 and U+2069, so that it keeps its own direction inside a sentence.
 SUITE_EXPORT QString Isolated(const QString& text);
 
-}  // namespace PersianText
+/// A sentence as it is painted: its codes, numbers and paths isolated, so that 12/3-A is not turned round in
+/// the middle of Persian words. Texts that already hold isolates stay as they are.
+SUITE_EXPORT QString WithIsolatedCodes(const QString& sentence);
+/// What a one-line edit keeps of a text: ASCII digits, no control characters, no invisible direction marks,
+/// no halves of surrogate pairs; line breaks become blanks, those at the ends go. ZWNJ, ZWJ and all letters
+/// stay.
+SUITE_EXPORT QString SingleLine(const QString& text);
+
+} // namespace PersianText

@@ -6,10 +6,11 @@
 #include <memory>
 #include <QLineEdit>
 
-/// One-line edit for text, whole numbers and money. Digits of all three scripts and both decimal and grouping signs
-/// are taken and become ASCII as they are typed or pasted. Text(), Value and the statements made from them hold
-/// ASCII digits; the font draws them as the user reads them.
-class SUITE_EXPORT TSmartEdit_TRV : public QLineEdit, public TControlEvents {
+/// One-line edit for text, whole numbers and money. Digits of all three scripts and both decimal and grouping
+/// signs are taken and become ASCII as they are typed or pasted. Text(), Value and the statements made from
+/// them hold ASCII digits; the font draws them as the user reads them.
+class SUITE_EXPORT TSmartEdit_TRV : public QLineEdit, public TControlEvents
+{
     Q_OBJECT
     Q_PROPERTY(TEditType EditType READ EditType WRITE SetEditType)
     Q_PROPERTY(TValueType ValueType READ ValueType WRITE SetValueType)
@@ -64,7 +65,8 @@ public:
 
     /// The text without grouping signs, as statements and getters use it.
     QString Text() const;
-    /// Shows a text; a number edit groups it. Raises OnChange when the text differs.
+    /// Shows a text, of any length; a number edit groups it, rounds it to its precision and takes what is no
+    /// number as 0. Raises OnChange when the text differs; OnEditValueChange is for what the user changes.
     void SetText(const QString& text);
     /// Empties a text edit; a number edit shows "0".
     void Clear();
@@ -81,8 +83,10 @@ public:
     void ShowError(const QString& sentence);
     bool HasError() const;
 
-    TNotifyEvent OnChange;           ///< on every change of the text, by the user or by code
-    TNotifyEvent OnEditValueChange;  ///< once, DelayTimeCount after the last change; at once when the edit is left
+    /// On every change of Text(), by the user or by code.
+    TNotifyEvent OnChange;
+    /// Once, DelayTimeCount after the user's last change of the value; at once when the edit is left.
+    TNotifyEvent OnEditValueChange;
     void SetOnEditValueChange(TNotifyEvent handler) { OnEditValueChange = std::move(handler); }
 
 Q_SIGNALS:
@@ -96,8 +100,11 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionFrame* option) const override;
 
 private:
     struct TPrivate;

@@ -1,0 +1,167 @@
+#include "SmartEditPrivate.h"
+
+#include "Balloon.h"
+#include "DecimalText.h"
+#include "PersianText.h"
+
+#include <QPointer>
+#include <utility>
+
+namespace {
+
+constexpr int MostDecimals = 18;
+
+} // namespace
+
+TSmartEdit_TRV::TPrivate::TPrivate(TSmartEdit_TRV* owner) : edit(owner)
+{
+    delay.setSingleShot(true);
+    QObject::connect(&delay, &QTimer::timeout, edit, [this] { AnnounceValue(); });
+    QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { lineByUser = true; });
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [this](const QString& line) { LineChanged(line); });
+}
+
+TNumberRules TSmartEdit_TRV::TPrivate::Rules() const
+{
+    return {maxLength, Decimals(), !IsBounded() || minValue < 0};
+}
+
+bool TSmartEdit_TRV::TPrivate::IsNegative() const
+{
+    return IsNumber() && number.Text().startsWith(u'-');
+}
+
+// What the program writes is taken as far as it is a number; "1e+15" and "0042500.0000" are.
+QString TSmartEdit_TRV::TPrivate::CodeNumber(const QString& text) const
+{
+    QString plain = PersianText::NumberFromAnyScript(text);
+    if (plain.isEmpty())
+        plain = DecimalText::FromValue(DecimalText::ToValue(text.trimmed()), MostDecimals);
+    return DecimalText::DecimalCount(plain) > Decimals() ? DecimalText::Rounded(plain, Decimals())
+                                                         : DecimalText::Settled(plain);
+}
+
+void TSmartEdit_TRV::TPrivate::SetText(const QString& text)
+{
+    if (!IsNumber()) {
+        edit->QLineEdit::setText(PersianText::SingleLine(text));
+        return;
+    }
+    number.Reset(CodeNumber(text));
+    ShowNumber();
+    TextMayHaveChanged(false);
+}
+
+void TSmartEdit_TRV::TPrivate::ShowNumber()
+{
+    const QString display = number.Display();
+    if (edit->text() != display) {
+        writingLine = true;
+        edit->QLineEdit::setText(display);
+        writingLine = false;
+    }
+    edit->setCursorPosition(number.Caret());
+}
+
+// The line was changed by its own editing, or by somebody who knows it only as the toolkit's line edit.
+void TSmartEdit_TRV::TPrivate::LineChanged(const QString& line)
+{
+    const bool byUser = std::exchange(lineByUser, false);
+    if (writingLine)
+        return;
+    if (IsNumber()) {
+        if (!byUser || !PersianText::NumberFromAnyScript(line).isEmpty())
+            number.Reset(CodeNumber(line));
+        ShowNumber();
+    } else if (const QString clean = PersianText::SingleLine(line); clean != line) {
+        writingLine = true;
+        edit->QLineEdit::setText(clean);
+        writingLine = false;
+    }
+    TextMayHaveChanged(byUser);
+}
+
+void TSmartEdit_TRV::TPrivate::TextMayHaveChanged(bool byUser)
+{
+    if (byUser)
+        ClearError();
+    const QString text = edit->Text();
+    if (text == toldText)
+        return;
+    toldText = text;
+    edit->update();
+    if (byUser) {
+        typedSinceEnter = true;
+        delay.start(delayTime);
+    }
+    // A copy, because the handler may replace or clear itself, or destroy the edit.
+    if (const TNotifyEvent handler = edit->OnChange)
+        handler(edit);
+}
+
+void TSmartEdit_TRV::TPrivate::AnnounceValue()
+{
+    delay.stop();
+    const QPointer<TSmartEdit_TRV> alive = edit;
+    if (const TNotifyEvent handler = alive->OnEditValueChange)
+        handler(alive);
+    if (alive)
+        Q_EMIT alive->editValueChanged();
+}
+
+void TSmartEdit_TRV::TPrivate::AnnouncePendingValue()
+{
+    if (delay.isActive())
+        AnnounceValue();
+}
+
+void TSmartEdit_TRV::TPrivate::Settle()
+{
+    if (!IsNumber())
+        return;
+    number.Settle();
+    if (typedSinceEnter)
+        KeepBounds();
+    ShowNumber();
+    typedSinceEnter = false;
+    if (edit->Text() != toldText)
+        TextMayHaveChanged(true);
+}
+
+void TSmartEdit_TRV::TPrivate::KeepBounds()
+{
+    const long double value = edit->GetValue();
+    if (!IsBounded() || (value >= minValue && value <= maxValue))
+        return;
+    const double bound = value < minValue ? minValue : maxValue;
+    const QString text = DecimalText::FromValue(bound, MostDecimals);
+    number.Assign(DecimalText::Rounded(text, Decimals()));
+    Balloon::Show(edit, (value < minValue
+                             ? QStringLiteral("کمترین مقدار این کادر %1 است و به جای عدد شما گذاشته شد.")
+                             : QStringLiteral("بیشترین مقدار این کادر %1 است و به جای عدد شما گذاشته شد."))
+                            .arg(DecimalText::Grouped(text)));
+}
+
+void TSmartEdit_TRV::TPrivate::ClearError()
+{
+    if (!error)
+        return;
+    error = false;
+    if (Balloon::ShownText() == edit->accessibleDescription())
+        Balloon::Hide();
+    edit->setAccessibleDescription({});
+    edit->update();
+}
+
+void TSmartEdit_TRV::TPrivate::RefreshHint()
+{
+    if (!multiCurrency)
+        return;
+    QStringList lines;
+    if (!currencyTitle.isEmpty())
+        lines << QStringLiteral("نوع ارز: ") + PersianText::Isolated(currencyTitle);
+    if (currencyRate != 0)
+        lines << QStringLiteral("نرخ ارز: ") + PersianText::Isolated(DecimalText::Grouped(
+                                                   DecimalText::FromValue(currencyRate, MostDecimals)));
+    edit->setToolTip(lines.join(u'\n'));
+}
