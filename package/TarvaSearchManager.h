@@ -48,9 +48,18 @@ public:
     void Flush();
 
 Q_SIGNALS:
+    /// The text that belongs into the owner's statement is another one: the condition of the iftQuery items where a
+    /// client cursor is filtered, else the whole condition.
     void conditionChanged(const QString& condition);
+    /// The condition and its words are up to date with every criterion; comes once per burst of changes.
+    void rebuilt();
 
 private:
+    void Invalidate();
+    void Forget(const TTarvaSearch* criterion);
+    void CallSearchProc();
+    void ApplyCondition();
+
     struct TPrivate;
     std::unique_ptr<TPrivate> d;
 };
