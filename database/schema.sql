@@ -303,7 +303,7 @@ GO
 -- Tags and categories. A tags column is NULL or holds the codes of the record's tags, each followed by a comma, with
 -- one more comma in front.
 
--- cl_code is the colour as 0x00BBGGRR or by name; the pictures are PNG, for a tag on all and on some records.
+-- cl_code is the colour by name or as $00BBGGRR; the pictures are PNG, for a tag on all and on some records.
 CREATE TABLE dbo.colors (
   code int IDENTITY(1,1) NOT NULL PRIMARY KEY,
   cl_code nvarchar(50) NOT NULL,
