@@ -1,0 +1,184 @@
+#include "DatabaseFile.h"
+
+#include "ADOConnection.h"
+#include "AdoError.h"
+#include "DatabaseFunctions.h"
+#include "DatabaseSchema.h"
+#include "FileCreation.h"
+#include "FileHeader.h"
+
+#include <atomic>
+#include <QFileInfo>
+
+namespace {
+
+constexpr QLatin1String EmbeddedPrefix("sqlite:");
+constexpr QLatin1String MemoryName(":memory:");
+
+[[noreturn]] void Refuse(TAdoErrorKind kind, const QString& message, const QString& path)
+{
+    throw EADOError(kind, message.arg(path));
+}
+
+void RefuseUnlessGood(const QString& path)
+{
+    using FileHeader::TVerdict;
+    switch (FileHeader::Examine(path)) {
+    case TVerdict::Good:
+        return;
+    case TVerdict::Unreadable:
+        Refuse(TAdoErrorKind::CannotOpen,
+               QStringLiteral("پروندهٔ «%1» را نمی‌توان خواند. اجازهٔ خواندن آن را بررسی "
+                              "کنید."),
+               path);
+    case TVerdict::NotADatabase:
+        Refuse(TAdoErrorKind::NotADatabase,
+               QStringLiteral("پروندهٔ «%1» پایگاه داده نیست و دست‌نخورده ماند. نام دیگری برای پایگاه داده "
+                              "بدهید."),
+               path);
+    case TVerdict::Incomplete:
+        Refuse(TAdoErrorKind::NotADatabase,
+               QStringLiteral("پایگاه دادهٔ «%1» ناقص است و دست‌نخورده ماند. نسخهٔ پشتیبان آن را "
+                              "بازگردانید."),
+               path);
+    case TVerdict::Foreign:
+        Refuse(TAdoErrorKind::NotADatabase,
+               QStringLiteral("«%1» پایگاه دادهٔ برنامهٔ دیگری است و دست‌نخورده ماند. نام دیگری برای پایگاه "
+                              "داده بدهید."),
+               path);
+    case TVerdict::OtherVersion:
+        Refuse(TAdoErrorKind::NotADatabase,
+               QStringLiteral("نسخهٔ پایگاه دادهٔ «%1» شناخته نیست؛ پرونده دست‌نخورده "
+                              "ماند."),
+               path);
+    case TVerdict::NewerVersion:
+        Refuse(TAdoErrorKind::NotADatabase,
+               QStringLiteral("پایگاه دادهٔ «%1» را نسخهٔ تازه‌تری از برنامه ساخته است؛ برنامه را به‌روز "
+                              "کنید."),
+               path);
+    }
+}
+
+/// The version that the tables themselves tell; throws where there are no such tables.
+int SchemaVersion(TADOConnection& connection)
+{
+    const std::unique_ptr<IEngineRows> rows =
+        connection.Run(QStringLiteral("SELECT Version FROM dbo.SchemaInfo"));
+    return rows->Next() ? static_cast<int>(rows->Int64(0)) : 0;
+}
+
+bool IsAnswerOfTheDatabase(const EADOError& error)
+{
+    return error.Kind() != TAdoErrorKind::ConnectionLost && error.Kind() != TAdoErrorKind::Cancelled &&
+           error.Kind() != TAdoErrorKind::Busy;
+}
+
+bool HasTables(TADOConnection& connection)
+{
+    try {
+        return SchemaVersion(connection) == DatabaseSchema::Version;
+    } catch (const EADOError& error) {
+        if (!IsAnswerOfTheDatabase(error))
+            throw;
+        return false;
+    }
+}
+
+void CheckFileTables(TADOConnection& connection, const QString& path)
+{
+    if (HasTables(connection))
+        return;
+    Refuse(TAdoErrorKind::NotADatabase,
+           QStringLiteral("پایگاه دادهٔ «%1» آسیب دیده است: جدول‌های برنامه در آن خوانده نمی‌شود. نسخهٔ "
+                          "پشتیبان آن را "
+                          "بازگردانید."),
+           path);
+}
+
+void OpenFile(TADOConnection& connection, const QString& path, const TDatabaseOptions& options)
+{
+    const QFileInfo file(path);
+    if (file.isDir())
+        Refuse(TAdoErrorKind::CannotOpen, QStringLiteral("«%1» پوشه است، نه پروندهٔ پایگاه داده."), path);
+    if (!file.exists()) {
+        if (!options.CreateMissing)
+            Refuse(TAdoErrorKind::CannotOpen, QStringLiteral("پروندهٔ پایگاه دادهٔ «%1» پیدا نشد."), path);
+        CreateDatabaseFile(path, options);
+    }
+    RefuseUnlessGood(path);
+    connection.SetConnectionString(EmbeddedPrefix + path);
+    connection.Open();
+    CheckFileTables(connection, path);
+}
+
+/// The maker's statements are not the business of who listens to the connection, so a connection of its own
+/// runs them.
+void OpenMemory(TADOConnection& connection, const QString& name, const TDatabaseOptions& options)
+{
+    static std::atomic<int> lastNumber{0};
+    const QString shared =
+        name == MemoryName ? MemoryName + QStringLiteral("database-%1").arg(++lastNumber) : name;
+    TADOConnection maker;
+    maker.SetConnectionString(EmbeddedPrefix + shared);
+    maker.Open();
+    if (!HasTables(maker))
+        CreateSampleDatabase(maker, options.Size, options.Progress);
+    connection.SetConnectionString(EmbeddedPrefix + shared);
+    connection.Open();
+}
+
+/// A statement that only works where the script has been run; otherwise the script is named.
+void CheckScript(TADOConnection& connection, const QString& statement, const QString& script)
+{
+    try {
+        const std::unique_ptr<IEngineRows> rows = connection.Run(statement);
+        rows->Next();
+    } catch (const EADOError& error) {
+        if (!IsAnswerOfTheDatabase(error))
+            throw;
+        throw EADOError(
+            TAdoErrorKind::CannotOpen,
+            QStringLiteral("پایگاه دادهٔ سرور آماده نیست. نخست دستورهای database/%1 را در آن اجرا کنید.")
+                .arg(script),
+            statement, error.ServerMessage(), error.State(), error.Code());
+    }
+}
+
+void OpenServer(TADOConnection& connection, const QString& connectionString)
+{
+    connection.SetConnectionString(connectionString);
+    connection.Open();
+    CheckScript(connection, QStringLiteral("SELECT Version FROM dbo.SchemaInfo"),
+                QStringLiteral("schema.sql"));
+    CheckScript(connection, QStringLiteral("SELECT dbo.Category_SubNodes(0,0,1) AS value"),
+                QStringLiteral("functions.sql"));
+    if (SchemaVersion(connection) != DatabaseSchema::Version) {
+        throw EADOError(TAdoErrorKind::CannotOpen, QStringLiteral("نسخهٔ جدول‌های پایگاه دادهٔ سرور با این "
+                                                                  "برنامه نمی‌خواند."));
+    }
+}
+
+} // namespace
+
+void OpenDatabase(TADOConnection& connection, const QString& connectionString,
+                  const TDatabaseOptions& options)
+{
+    connection.Close();
+    RegisterDatabaseFunctions(connection);
+    try {
+        if (!connectionString.startsWith(EmbeddedPrefix, Qt::CaseInsensitive)) {
+            OpenServer(connection, connectionString);
+            return;
+        }
+        const QString name = connectionString.mid(EmbeddedPrefix.size());
+        if (name.trimmed().isEmpty())
+            throw EADOError(TAdoErrorKind::CannotOpen, QStringLiteral("نام پروندهٔ پایگاه داده خالی است."));
+        if (name.startsWith(MemoryName))
+            OpenMemory(connection, name, options);
+        else
+            OpenFile(connection, name, options);
+    } catch (...) {
+        connection.Close();
+        throw;
+    }
+}
