@@ -6,7 +6,8 @@
 #include <QCheckBox>
 
 /// Check box whose OnClick comes on every change of the checked state, by the user or by code.
-class SUITE_EXPORT TSmartCheckBox_TRV : public QCheckBox, public TControlEvents {
+class SUITE_EXPORT TSmartCheckBox_TRV : public QCheckBox, public TControlEvents
+{
     Q_OBJECT
 
 public:
@@ -19,9 +20,9 @@ public:
     TNotifyEvent OnClick;
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 };

@@ -4,9 +4,12 @@
 #include "SuiteExport.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 
-/// Drop-down list. OnChange and OnSelect come only when the user chooses; writing the item index raises nothing.
-class SUITE_EXPORT TSmartComboBox_TRV : public QComboBox, public TControlEvents {
+/// Drop-down list. OnChange and OnSelect come only when the user chooses; writing the item index raises
+/// nothing.
+class SUITE_EXPORT TSmartComboBox_TRV : public QComboBox, public TControlEvents
+{
     Q_OBJECT
     Q_PROPERTY(int ItemIndex READ ItemIndex WRITE SetItemIndex DESIGNABLE false)
 
@@ -14,8 +17,8 @@ public:
     explicit TSmartComboBox_TRV(QWidget* parent = nullptr);
     ~TSmartComboBox_TRV() override;
 
-    int ItemIndex() const { return currentIndex(); }  ///< -1 for none
-    void SetItemIndex(int index);                     ///< out of range selects none
+    int ItemIndex() const { return currentIndex(); } ///< -1 for none
+    void SetItemIndex(int index);                    ///< out of range selects none
     int Count() const { return count(); }
     void Clear();
     /// `object` is a number that travels with the entry, as a code does.
@@ -23,8 +26,10 @@ public:
     qint64 ItemObject(int index) const;
     QString ItemText(int index) const { return itemText(index); }
 
-    TNotifyEvent OnChange;
-    TNotifyEvent OnSelect;
+    void showPopup() override;
+
+    TNotifyEvent OnChange; ///< another entry than before is chosen
+    TNotifyEvent OnSelect; ///< an entry is chosen, be it the same again; after OnChange
 
 protected:
     bool event(QEvent* event) override;
@@ -32,5 +37,13 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override; ///< without the focus the page scrolls instead
+
+private:
+    void RaiseChosen(int index);
+    bool TypeAhead(const QKeyEvent& event);
+
+    int indexBefore_ = -1; // when the user's action began
+    QString typed_;
+    QElapsedTimer sinceTyped_;
 };

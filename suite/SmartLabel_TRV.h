@@ -6,9 +6,12 @@
 #include <QLabel>
 #include <QPointer>
 
-/// Label painted as a right-to-left paragraph whatever its first letter is. Its mnemonic focuses FocusControl, or
-/// clicks the label where it has none.
-class SUITE_EXPORT TSmartLabel_TRV : public QLabel {
+/// Label painted as a right-to-left paragraph whatever its first letter is. Its mnemonic focuses
+/// FocusControl; a label without one is clicked, or, where it names the smart check box beside it that
+/// carries the same letter, clicks that box. A caption that does not fit ends in an ellipsis and is shown
+/// whole as a tool tip.
+class SUITE_EXPORT TSmartLabel_TRV : public QLabel
+{
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     Q_PROPERTY(bool OnBand READ OnBand WRITE SetOnBand)
@@ -21,21 +24,28 @@ public:
     void SetCaption(const QString& caption) { setText(caption); }
     void Clear() { setText(QString()); }
     QWidget* FocusControl() const;
-    void SetFocusControl(QWidget* control);  ///< also its buddy for assistive tools
+    void SetFocusControl(QWidget* control); ///< also its buddy for assistive tools
     /// Whether the label stands on the dark band and is painted in the band's text colour.
     bool OnBand() const { return onBand_; }
     void SetOnBand(bool on);
 
-    TNotifyEvent OnClick;  ///< by mouse, or by the mnemonic of a label without FocusControl
+    TNotifyEvent OnClick; ///< by mouse, or by the mnemonic of a label without FocusControl
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
     bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool IsElided() const;
+    QRect TextRect() const;
+    QPalette TextPalette() const;
+    void ActivateByMnemonic();
+    void RaiseClick();
+
     bool onBand_ = false;
 };

@@ -5,7 +5,8 @@
 #include <QFrame>
 
 /// Panel; on the band it carries the dark ground behind search and entry lines.
-class SUITE_EXPORT TSmartPanel_TRV : public QFrame {
+class SUITE_EXPORT TSmartPanel_TRV : public QFrame
+{
     Q_OBJECT
     Q_PROPERTY(TBevel Bevel READ Bevel WRITE SetBevel)
     Q_PROPERTY(TGround Ground READ Ground WRITE SetGround)

@@ -1,0 +1,161 @@
+#include "SmartLabel_TRV.h"
+
+#include "ControlEvents.h"
+#include "Look.h"
+#include "SmartCheckBox_TRV.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QShortcutEvent>
+#include <QStyle>
+#include <QToolTip>
+
+namespace {
+
+/// The check box beside the label that carries the same mnemonic: the label is its caption.
+TSmartCheckBox_TRV* NamedCheckBox(const TSmartLabel_TRV& label)
+{
+    if (label.parentWidget() == nullptr)
+        return nullptr;
+    const QKeySequence mnemonic = QKeySequence::mnemonic(label.text());
+    const auto boxes =
+        label.parentWidget()->findChildren<TSmartCheckBox_TRV*>(QString(), Qt::FindDirectChildrenOnly);
+    for (TSmartCheckBox_TRV* box : boxes) {
+        if (box->isVisible() && box->isEnabled() && QKeySequence::mnemonic(box->text()) == mnemonic)
+            return box;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TSmartLabel_TRV::TSmartLabel_TRV(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    // The toolkit claims the mnemonic of labels with a buddy only; one without FocusControl is its own.
+    setBuddy(this);
+}
+
+TSmartLabel_TRV::~TSmartLabel_TRV()
+{
+    setBuddy(nullptr);
+}
+
+QWidget* TSmartLabel_TRV::FocusControl() const
+{
+    return buddy() == this ? nullptr : buddy();
+}
+
+void TSmartLabel_TRV::SetFocusControl(QWidget* control)
+{
+    setBuddy(control != nullptr ? control : this);
+}
+
+void TSmartLabel_TRV::SetOnBand(bool on)
+{
+    onBand_ = on;
+    update();
+}
+
+QSize TSmartLabel_TRV::sizeHint() const
+{
+    if (text().isEmpty() || wordWrap())
+        return QLabel::sizeHint();
+    const int space = 2 * (frameWidth() + margin());
+    const QSize textSize = fontMetrics().size(Qt::TextShowMnemonic, text());
+    return textSize + QSize(space + qMax(indent(), 0), space);
+}
+
+QSize TSmartLabel_TRV::minimumSizeHint() const
+{
+    return wordWrap() ? QLabel::minimumSizeHint() : sizeHint();
+}
+
+bool TSmartLabel_TRV::event(QEvent* event)
+{
+    if (event->type() == QEvent::Shortcut) {
+        ActivateByMnemonic();
+        return true;
+    }
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsElided()) {
+        QString whole = text();
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole.remove(u'&'), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void TSmartLabel_TRV::mousePressEvent(QMouseEvent* event)
+{
+    QLabel::mousePressEvent(event);
+    if (OnClick && event->button() == Qt::LeftButton)
+        event->accept();
+}
+
+void TSmartLabel_TRV::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLabel::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        RaiseClick();
+}
+
+void TSmartLabel_TRV::paintEvent(QPaintEvent* event)
+{
+    if (text().isEmpty()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    drawFrame(&painter);
+    const QRect area = TextRect();
+    int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
+    flags |= Qt::TextShowMnemonic | Qt::TextForceRightToLeft | (wordWrap() ? Qt::TextWordWrap : 0);
+    const QString shown =
+        IsElided() ? fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), Qt::TextShowMnemonic)
+                   : text();
+    style()->drawItemText(&painter, area, flags, TextPalette(), isEnabled(), shown, QPalette::WindowText);
+}
+
+bool TSmartLabel_TRV::IsElided() const
+{
+    return !wordWrap() && !text().contains(u'\n') &&
+           fontMetrics().size(Qt::TextShowMnemonic, text()).width() > TextRect().width();
+}
+
+QRect TSmartLabel_TRV::TextRect() const
+{
+    const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    const int leading = qMax(indent(), 0);
+    return isRightToLeft() ? area.adjusted(0, 0, -leading, 0) : area.adjusted(leading, 0, 0, 0);
+}
+
+QPalette TSmartLabel_TRV::TextPalette() const
+{
+    QPalette result = palette();
+    if (onBand_) {
+        result.setColor(QPalette::WindowText, Look::Color(Look::TRole::BandText));
+        // The band is dark in both schemes.
+        result.setColor(QPalette::Disabled, QPalette::WindowText,
+                        Look::ColorOf(Look::TRole::SecondaryText, true));
+    }
+    return result;
+}
+
+void TSmartLabel_TRV::ActivateByMnemonic()
+{
+    if (QWidget* control = FocusControl()) {
+        if (CanFocus(control))
+            control->setFocus(Qt::ShortcutFocusReason);
+    } else if (TSmartCheckBox_TRV* box = NamedCheckBox(*this)) {
+        box->click();
+    } else {
+        RaiseClick();
+    }
+}
+
+void TSmartLabel_TRV::RaiseClick()
+{
+    // A copy, because the handler may replace itself or destroy the label.
+    if (const TNotifyEvent running = OnClick)
+        running(this);
+}
