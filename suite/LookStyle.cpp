@@ -1,6 +1,7 @@
 #include "LookStyle.h"
 
 #include "Look.h"
+#include "MnemonicText.h"
 
 #include <QAbstractScrollArea>
 #include <QLabel>
@@ -32,6 +33,90 @@ bool HasFocus(const QStyleOption& option)
     return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
 }
 
+/// A line around editors and indicators that is seen on every ground of both schemes.
+QColor LineColor(const QStyleOption& option)
+{
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor faint = Look::Color(Look::TRole::DisabledText);
+    const QColor strong = Look::Color(Look::TRole::SecondaryText);
+    if (!enabled)
+        return faint;
+    return {(faint.red() + strong.red()) / 2, (faint.green() + strong.green()) / 2,
+            (faint.blue() + strong.blue()) / 2};
+}
+
+QColor MarkColor(const QStyleOption& option)
+{
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    return enabled ? Look::Color(Look::TRole::SelectionText) : option.palette.color(QPalette::Base);
+}
+
+/// The ground of a check mark: filled where there is one.
+void PrepareIndicator(QPainter& painter, const QStyleOption& option, bool marked)
+{
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor filled = Look::Color(enabled ? Look::TRole::Selection : Look::TRole::DisabledText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(marked && enabled ? Look::RingColor(option.palette) : LineColor(option));
+    painter.setBrush(marked ? QBrush(filled) : option.palette.brush(QPalette::Base));
+}
+
+QRectF Square(const QRect& rect)
+{
+    const int side = qMin(rect.width(), rect.height());
+    QRect square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    return QRectF(square).adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
+void PaintCheckIndicator(QPainter& painter, const QStyleOption& option)
+{
+    constexpr qreal Radius = 2.5;
+    constexpr qreal Stroke = 1.8;
+    const bool on = option.state.testFlag(QStyle::State_On);
+    const bool partial = option.state.testFlag(QStyle::State_NoChange);
+    const QRectF box = Square(option.rect);
+    painter.save();
+    PrepareIndicator(painter, option, on || partial);
+    painter.drawRoundedRect(box, Radius, Radius);
+    painter.setPen(QPen(MarkColor(option), Stroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [&box](qreal x, qreal y) {
+        return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+    };
+    if (on) {
+        const QPointF tick[] = {at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.30)};
+        painter.drawPolyline(tick, 3);
+    } else if (partial) {
+        painter.drawLine(at(0.25, 0.5), at(0.75, 0.5));
+    }
+    painter.restore();
+}
+
+void PaintRadioIndicator(QPainter& painter, const QStyleOption& option)
+{
+    const bool on = option.state.testFlag(QStyle::State_On);
+    const QRectF circle = Square(option.rect);
+    painter.save();
+    PrepareIndicator(painter, option, on);
+    painter.drawEllipse(circle);
+    if (on) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(MarkColor(option));
+        painter.drawEllipse(circle.center(), circle.width() / 5, circle.height() / 5);
+    }
+    painter.restore();
+}
+
+void PaintEditFrame(QPainter& painter, const QStyleOption& option)
+{
+    constexpr qreal Radius = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(LineColor(option));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+    painter.restore();
+}
+
 } // namespace
 
 TLookStyle::TLookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
@@ -41,29 +126,97 @@ TLookStyle::TLookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fus
 void TLookStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
                               bool enabled, const QString& text, QPalette::ColorRole textRole) const
 {
-    QProxyStyle::drawItemText(painter, rect, ParagraphFlags(*painter, flags), palette, enabled, text,
-                              textRole);
+    const int paragraph = ParagraphFlags(*painter, flags);
+    const bool isOneLine = (flags & Qt::TextWordWrap) == 0 && !text.contains(u'\n');
+    const bool showsMnemonic = (flags & Qt::TextShowMnemonic) != 0 && isOneLine && text.contains(u'&');
+    const TMnemonicText mnemonic = showsMnemonic ? TMnemonicText::Parse(text) : TMnemonicText();
+    if (!mnemonic.BreaksJoining()) {
+        QProxyStyle::drawItemText(painter, rect, paragraph, palette, enabled, text, textRole);
+        return;
+    }
+    const int unmarked = paragraph & ~Qt::TextShowMnemonic;
+    QProxyStyle::drawItemText(painter, rect, unmarked, palette, enabled, mnemonic.Text, textRole);
+    const QPen pen = painter->pen();
+    if (textRole != QPalette::NoRole)
+        painter->setPen(palette.color(textRole));
+    mnemonic.PaintLine(*painter, rect, unmarked);
+    painter->setPen(pen);
+}
+
+QRect TLookStyle::itemTextRect(const QFontMetrics& metrics, const QRect& rect, int flags, bool enabled,
+                               const QString& text) const
+{
+    const bool showsMnemonic = (flags & Qt::TextShowMnemonic) != 0 && text.contains(u'&');
+    if (!showsMnemonic)
+        return QProxyStyle::itemTextRect(metrics, rect, flags, enabled, text);
+    return QProxyStyle::itemTextRect(metrics, rect, flags & ~Qt::TextShowMnemonic, enabled,
+                                     TMnemonicText::Parse(text).Text);
 }
 
 void TLookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
-    if (element == PE_FrameFocusRect) {
+    switch (element) {
+    case PE_FrameFocusRect:
         Look::PaintRing(*painter, option->rect, Look::RingColor(option->palette));
-        return;
+        break;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        PaintCheckIndicator(*painter, *option);
+        break;
+    case PE_IndicatorRadioButton:
+        PaintRadioIndicator(*painter, *option);
+        break;
+    case PE_FrameLineEdit:
+        if (HasFocus(*option))
+            Look::PaintRing(*painter, option->rect, Look::Color(Look::TRole::Accent));
+        else
+            PaintEditFrame(*painter, *option);
+        break;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_FrameLineEdit && HasFocus(*option))
-        Look::PaintRing(*painter, option->rect, Look::Color(Look::TRole::Accent));
 }
 
 void TLookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const
 {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button != nullptr && (element == CE_CheckBox || element == CE_RadioButton)) {
+        DrawMarkedButton(element, *button, painter, widget);
+        return;
+    }
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (item != nullptr && element == CE_MenuItem && TMnemonicText::Parse(item->text).BreaksJoining()) {
+        // Menus paint their texts past drawItemText; the letter works all the same, the word stays joined.
+        QStyleOptionMenuItem whole(*item);
+        whole.text = TMnemonicText::Parse(item->text).Text.replace(u'&', QStringLiteral("&&"));
+        QProxyStyle::drawControl(element, &whole, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     if (element == CE_ShapedFrame && isScrollArea && HasFocus(*option))
         Look::PaintRing(*painter, option->rect, Look::Color(Look::TRole::Accent));
+}
+
+/// The base style rings the caption only; here the ring goes around the indicator too.
+void TLookStyle::DrawMarkedButton(ControlElement element, QStyleOptionButton option, QPainter* painter,
+                                  const QWidget* widget) const
+{
+    constexpr int Gap = Look::RingWidth + 1;
+    const bool hasFocus = HasFocus(option);
+    option.state.setFlag(State_HasFocus, false);
+    QProxyStyle::drawControl(element, &option, painter, widget);
+    if (!hasFocus)
+        return;
+    const bool isCheck = element == CE_CheckBox;
+    const QRect indicator =
+        subElementRect(isCheck ? SE_CheckBoxIndicator : SE_RadioButtonIndicator, &option, widget);
+    const QRect caption =
+        subElementRect(isCheck ? SE_CheckBoxFocusRect : SE_RadioButtonFocusRect, &option, widget);
+    const QRect ring = (indicator | caption).adjusted(-Gap, -Gap, Gap, Gap) & option.rect;
+    Look::PaintRing(*painter, ring, Look::RingColor(option.palette));
 }
 
 void TLookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -71,28 +224,17 @@ void TLookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     const bool hasOwnRing = control == CC_ComboBox || control == CC_SpinBox;
+    if (control == CC_SpinBox)
+        PaintEditFrame(*painter, *option);
     if (hasOwnRing && HasFocus(*option))
         Look::PaintRing(*painter, option->rect, Look::Color(Look::TRole::Accent));
 }
 
 QRect TLookStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
-    switch (element) {
-    case SE_PushButtonFocusRect:
+    if (element == SE_PushButtonFocusRect)
         return option->rect;
-    case SE_CheckBoxFocusRect:
-        return option->rect &
-               (subElementRect(SE_CheckBoxIndicator, option, widget) |
-                QProxyStyle::subElementRect(element, option, widget))
-                   .adjusted(-Look::RingWidth, -Look::RingWidth, Look::RingWidth, Look::RingWidth);
-    case SE_RadioButtonFocusRect:
-        return option->rect &
-               (subElementRect(SE_RadioButtonIndicator, option, widget) |
-                QProxyStyle::subElementRect(element, option, widget))
-                   .adjusted(-Look::RingWidth, -Look::RingWidth, Look::RingWidth, Look::RingWidth);
-    default:
-        return QProxyStyle::subElementRect(element, option, widget);
-    }
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QSize TLookStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

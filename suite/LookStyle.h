@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionButton>
 
 /// Fusion with the product's focus ring, measures and right-to-left paragraphs.
 class TLookStyle : public QProxyStyle
@@ -12,6 +13,8 @@ public:
 
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
                       const QString& text, QPalette::ColorRole textRole) const override;
+    QRect itemTextRect(const QFontMetrics& metrics, const QRect& rect, int flags, bool enabled,
+                       const QString& text) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -25,4 +28,8 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     QPalette standardPalette() const override;
+
+private:
+    void DrawMarkedButton(ControlElement element, QStyleOptionButton option, QPainter* painter,
+                          const QWidget* widget) const;
 };

@@ -3,6 +3,7 @@
 #include "ButtonGlyph.h"
 #include "ControlDispatch.h"
 #include "Look.h"
+#include "MnemonicText.h"
 
 #include <algorithm>
 #include <QKeyEvent>
@@ -227,11 +228,11 @@ QSize TSmartButton_TRV::sizeHint() const
     ensurePolished();
     const QIcon shown = ShownIcon();
     const int iconWidth = shown.isNull() ? 0 : iconSize().width();
-    const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const int textWidth = fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text);
     const int gap = iconWidth > 0 && !text().isEmpty() ? IconGap : 0;
     const int padding = d->margin < 0 ? 2 * SidePadding : d->margin + qMax(d->margin, SidePadding / 2);
     const int arrow = d->kind == bkDropDown ? ArrowWidth : 0;
-    const int height = qMax(
+    const int height = std::max(
         {Look::ControlHeight, fontMetrics().height() + Look::Margin, iconSize().height() + Look::Margin});
     return {iconWidth + gap + textWidth + padding + arrow, height};
 }
@@ -327,7 +328,7 @@ void TSmartButton_TRV::PaintLabel(QPainter& painter, QStyleOptionButton option) 
     const int iconWidth = shown.isNull() ? 0 : iconSize().width();
     const int gap = iconWidth > 0 && !text().isEmpty() ? IconGap : 0;
     const int room = width() - (d->kind == bkDropDown ? ArrowWidth : 0);
-    const int textWidth = qMin(fontMetrics().size(Qt::TextShowMnemonic, text()).width(),
+    const int textWidth = qMin(fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text),
                                room - iconWidth - gap - 2 * Look::RingWidth);
     const int start = d->margin >= 0 ? d->margin : (room - iconWidth - gap - textWidth) / 2;
     // Measured from the leading edge, mirrored when painted.

@@ -89,7 +89,9 @@ void TSmartComboBox_TRV::focusInEvent(QFocusEvent* event)
 void TSmartComboBox_TRV::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    ControlDispatch::FocusOut(this, *this, event);
+    // The open list holds the focus for its combo.
+    if (!view()->isVisible())
+        ControlDispatch::FocusOut(this, *this, event);
 }
 
 void TSmartComboBox_TRV::wheelEvent(QWheelEvent* event)

@@ -2,6 +2,7 @@
 
 #include "ControlEvents.h"
 #include "Look.h"
+#include "MnemonicText.h"
 #include "SmartCheckBox_TRV.h"
 
 #include <QHelpEvent>
@@ -62,7 +63,7 @@ QSize TSmartLabel_TRV::sizeHint() const
     if (text().isEmpty() || wordWrap())
         return QLabel::sizeHint();
     const int space = 2 * (frameWidth() + margin());
-    const QSize textSize = fontMetrics().size(Qt::TextShowMnemonic, text());
+    const QSize textSize = fontMetrics().size(0, TMnemonicText::Parse(text()).Text);
     return textSize + QSize(space + qMax(indent(), 0), space);
 }
 
@@ -78,8 +79,9 @@ bool TSmartLabel_TRV::event(QEvent* event)
         return true;
     }
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsElided()) {
-        QString whole = text();
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole.remove(u'&'), this);
+
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), TMnemonicText::Parse(text()).Text,
+                           this);
         return true;
     }
     return QLabel::event(event);
@@ -119,7 +121,7 @@ void TSmartLabel_TRV::paintEvent(QPaintEvent* event)
 bool TSmartLabel_TRV::IsElided() const
 {
     return !wordWrap() && !text().contains(u'\n') &&
-           fontMetrics().size(Qt::TextShowMnemonic, text()).width() > TextRect().width();
+           fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text) > TextRect().width();
 }
 
 QRect TSmartLabel_TRV::TextRect() const
