@@ -228,7 +228,7 @@ QSize TSmartButton_TRV::sizeHint() const
     ensurePolished();
     const QIcon shown = ShownIcon();
     const int iconWidth = shown.isNull() ? 0 : iconSize().width();
-    const int textWidth = fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text);
+    const int textWidth = fontMetrics().size(0, TMnemonicText::Parse(text()).Text).width();
     const int gap = iconWidth > 0 && !text().isEmpty() ? IconGap : 0;
     const int padding = d->margin < 0 ? 2 * SidePadding : d->margin + qMax(d->margin, SidePadding / 2);
     const int arrow = d->kind == bkDropDown ? ArrowWidth : 0;
@@ -328,8 +328,8 @@ void TSmartButton_TRV::PaintLabel(QPainter& painter, QStyleOptionButton option) 
     const int iconWidth = shown.isNull() ? 0 : iconSize().width();
     const int gap = iconWidth > 0 && !text().isEmpty() ? IconGap : 0;
     const int room = width() - (d->kind == bkDropDown ? ArrowWidth : 0);
-    const int textWidth = qMin(fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text),
-                               room - iconWidth - gap - 2 * Look::RingWidth);
+    const int wanted = fontMetrics().size(0, TMnemonicText::Parse(text()).Text).width();
+    const int textWidth = qMin(wanted, room - iconWidth - gap - 2 * Look::RingWidth);
     const int start = d->margin >= 0 ? d->margin : (room - iconWidth - gap - textWidth) / 2;
     // Measured from the leading edge, mirrored when painted.
     const auto placed = [this](int x, int w) {
@@ -338,7 +338,9 @@ void TSmartButton_TRV::PaintLabel(QPainter& painter, QStyleOptionButton option) 
     if (iconWidth > 0)
         shown.paint(&painter, placed(start, iconWidth), Qt::AlignCenter,
                     isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    const QString caption = fontMetrics().elidedText(text(), Qt::ElideRight, textWidth, Qt::TextShowMnemonic);
+    const QString caption =
+        textWidth < wanted ? fontMetrics().elidedText(text(), Qt::ElideRight, textWidth, Qt::TextShowMnemonic)
+                           : text();
     style()->drawItemText(&painter, placed(start + iconWidth + gap, textWidth),
                           Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextForceRightToLeft, option.palette,
                           isEnabled(), caption, QPalette::ButtonText);

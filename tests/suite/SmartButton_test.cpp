@@ -25,6 +25,8 @@ private Q_SLOTS:
     void typeGivesCaptionAndIcon();
     void typeKeepsAnOwnCaption();
     void autoWidthFollowsTheCaption();
+    void captionFitsIntoTheHint_data();
+    void captionFitsIntoTheHint();
     void downIsPaintedPressedIn();
     void marginPlacesTheCaptionAtTheRightEdge();
     void arrowPartAtTheLeftOpensTheMenu();
@@ -153,6 +155,27 @@ void TestSmartButton::autoWidthFollowsTheCaption()
     button_->resize(300, 28);
     button_->setText(QStringLiteral("ب"));
     QCOMPARE(button_->width(), 300);
+}
+
+void TestSmartButton::captionFitsIntoTheHint_data()
+{
+    QTest::addColumn<int>("type");
+    for (int type = TSmartButton_TRV::btOk; type <= TSmartButton_TRV::btDelete; ++type)
+        QTest::addRow("type %d", type) << type;
+}
+
+void TestSmartButton::captionFitsIntoTheHint()
+{
+    QFETCH(int, type);
+    TSmartButton_TRV button;
+    button.SetButtonType(static_cast<TSmartButton_TRV::TButtonType>(type));
+    const auto pieces = [&button](int extraWidth) {
+        button.resize(button.sizeHint() + QSize(extraWidth, 0));
+        const QImage image = button.grab().toImage();
+        const QImage inner = image.copy(image.rect().adjusted(4, 6, -4, -6));
+        return Ink::Runs(inner, Ink::Ground(inner)).size();
+    };
+    QCOMPARE(pieces(0), pieces(60));
 }
 
 void TestSmartButton::downIsPaintedPressedIn()
