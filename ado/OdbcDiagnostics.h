@@ -12,11 +12,11 @@ struct TOdbcDiagnostics
     bool Dead = false; ///< a record tells that the connection is gone
 };
 
-TOdbcDiagnostics ReadDiagnostics(SQLSMALLINT handleType, SQLHANDLE handle);
+ADO_EXPORT TOdbcDiagnostics ReadDiagnostics(SQLSMALLINT handleType, SQLHANDLE handle);
 
 /// What the diagnostics mean to a caller.
-TAdoErrorKind KindOf(const TOdbcDiagnostics& diagnostics);
+ADO_EXPORT TAdoErrorKind KindOf(const TOdbcDiagnostics& diagnostics);
 
 /// The exception for a failed call. `kind` overrides what the diagnostics say where it is not Other.
-EADOError OdbcError(const TOdbcDiagnostics& diagnostics, const QString& statement,
+ADO_EXPORT EADOError OdbcError(const TOdbcDiagnostics& diagnostics, const QString& statement,
                     TAdoErrorKind kind = TAdoErrorKind::Other);
