@@ -1,6 +1,6 @@
 #pragma once
 
-#ifdef Q_OS_WIN
+#ifdef _WIN32
 #include <windows.h>
 #endif
 
