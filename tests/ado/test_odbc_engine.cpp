@@ -355,4 +355,4 @@ void OdbcEngineTest::theConnectionStringIsClosedAndSaysItsEncryption()
 }
 
 QTEST_GUILESS_MAIN(OdbcEngineTest)
-#include "odbc_engine_test.moc"
+#include "test_odbc_engine.moc"
