@@ -94,6 +94,8 @@ std::unique_ptr<IEngineRows> TOdbcEngine::Execute(const QString& text, const QVa
 
 void TOdbcEngine::Begin()
 {
+    if (inTransaction_)
+        throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنش پیشین هنوز باز است."));
     SetAutoCommit(false);
     inTransaction_ = true;
 }
@@ -111,7 +113,7 @@ void TOdbcEngine::Rollback()
 void TOdbcEngine::EndTransaction(SQLSMALLINT completion)
 {
     if (!inTransaction_)
-        return;
+        throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنشی باز نیست."));
     if (!Succeeded(SQLEndTran(SQL_HANDLE_DBC, connection_.Get(), completion)))
         FailConnection(TAdoErrorKind::Other);
     inTransaction_ = false;

@@ -273,7 +273,7 @@ void OdbcEngineTest::aTransactionIsCommitted()
     engine_->Begin();
     Run(QStringLiteral("insert into t values (1)"));
     engine_->Commit();
-    engine_->Rollback();
+    QCOMPARE(KindThrownBy([this] { engine_->Rollback(); }), TAdoErrorKind::WrongState);
     QCOMPARE(Scalar(QStringLiteral("select count(*) from t")).toInt(), 1);
 }
 
