@@ -119,10 +119,13 @@ void TADOConnection::Reopen()
     Open();
 }
 
-IEngine& TADOConnection::LiveEngine(const QString& statement) const
+IEngine& TADOConnection::LiveEngine(const QString& statement)
 {
-    if (IsLost())
-        throw EADOError(TAdoErrorKind::ConnectionLost, d->LostWords(), statement);
+    if (IsLost()) {
+        const EADOError error(TAdoErrorKind::ConnectionLost, d->LostWords(), statement);
+        NoteError(error);
+        throw EADOError(error);
+    }
     if (!d->Engine)
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("اتصال پایگاه داده باز نیست."), statement);
     return *d->Engine;

@@ -71,7 +71,7 @@ protected:
 private:
     friend class TADOQuery; // reads rows to their end and tells what went wrong meanwhile
 
-    IEngine& LiveEngine(const QString& statement) const;
+    IEngine& LiveEngine(const QString& statement);
     void Announce(const QString& text);
     void NoteError(const EADOError& error);
     /// Runs `work`; an error that tells of a dead connection is noted on its way.
