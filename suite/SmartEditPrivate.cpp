@@ -16,6 +16,7 @@ constexpr int MostDecimals = 18;
 TSmartEdit_TRV::TPrivate::TPrivate(TSmartEdit_TRV* owner) : edit(owner)
 {
     delay.setSingleShot(true);
+    delay.setTimerType(Qt::PreciseTimer);
     QObject::connect(&delay, &QTimer::timeout, edit, [this] { AnnounceValue(); });
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { lineByUser = true; });
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this](const QString& line) { LineChanged(line); });
