@@ -1,0 +1,29 @@
+#pragma once
+
+#include "HostExport.h"
+#include "HostMessages.h"
+#include "MessageDialog.h"
+
+/// Persian message boxes and balloons. A box gives the focus back to its control when it is closed.
+class HOST_EXPORT THostMessages : public IMessages
+{
+public:
+    void MsgCodeNotAvailable(const QString& subject, QWidget* control, QWidget* form) override;
+    void MsgNotSelected(const QString& subject, QWidget* control, QWidget* form) override;
+    void MsgRepeatedCode(const QString& subject, QWidget* control, QWidget* form) override;
+    void MsgRequiredField(const QString& subject, QWidget* control, QWidget* form) override;
+    void MsgHasSubRecords(const QString& subject) override;
+    void MSGInUse(const QString& subject) override;
+    /// A number without a text is a std::logic_error that names it.
+    TMessageResult ShowSmartMessage(TConfirmationMessage message, TMessageButtons buttons,
+                                    int defaultButton) override;
+    /// A number without a text is a std::logic_error that names it.
+    void ShowSmartMessage(TNotificationMessage message, const TMessageArguments& arguments, QWidget* control,
+                          QWidget* form) override;
+    void ShowTooltipMessage(const TTooltip& tooltip) override;
+    void ShowMessage(const QString& text) override;
+
+private:
+    static void Tell(TMessageDialog::TKind kind, const QString& text, QWidget* control = nullptr,
+                     QWidget* form = nullptr);
+};

@@ -1,0 +1,67 @@
+#include "HostSettingsFile.h"
+
+#include <algorithm>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace {
+
+const QString recordKey = QStringLiteral("Host/SettingRecord");
+const QString lockOptionKey = QStringLiteral("Host/CodeLockOption");
+
+QByteArray BytesOf(const TSettingRecord& record)
+{
+    return {reinterpret_cast<const char*>(record.Bytes.data()), TSettingRecord::Size};
+}
+
+} // namespace
+
+THostSettings::THostSettings(const QString& fileName)
+    : file_(std::make_unique<QSettings>(fileName.isEmpty() ? DefaultFileName() : fileName,
+                                        QSettings::IniFormat))
+{
+    Read();
+}
+
+QString THostSettings::DefaultFileName()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+        .filePath(QStringLiteral("settings.ini"));
+}
+
+bool THostSettings::IsReadable() const
+{
+    return file_->status() == QSettings::NoError;
+}
+
+void THostSettings::Read()
+{
+    const QByteArray bytes = QByteArray::fromHex(file_->value(recordKey).toByteArray());
+    if (bytes.size() == TSettingRecord::Size)
+        std::transform(bytes.begin(), bytes.end(), record_.Bytes.begin(),
+                       [](char byte) { return static_cast<quint8>(byte); });
+    options_.CodeLockOption = file_->value(lockOptionKey, 0).toInt();
+}
+
+void THostSettings::SetGregorian(bool gregorian)
+{
+    record_.SetGregorian(gregorian);
+    SetValue(recordKey, QString::fromLatin1(BytesOf(record_).toHex()));
+}
+
+void THostSettings::SetIniOptions(const TIniOptions& options)
+{
+    options_ = options;
+    SetValue(lockOptionKey, options.CodeLockOption);
+}
+
+QVariant THostSettings::Value(const QString& key, const QVariant& otherwise) const
+{
+    return file_->value(key, otherwise);
+}
+
+void THostSettings::SetValue(const QString& key, const QVariant& value)
+{
+    file_->setValue(key, value);
+    file_->sync();
+}

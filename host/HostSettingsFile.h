@@ -1,0 +1,40 @@
+#pragma once
+
+#include "HostExport.h"
+#include "HostSettings.h"
+
+#include <memory>
+#include <QSettings>
+
+/// Settings in an INI file of the user's configuration folder. Changes are written at once.
+class HOST_EXPORT THostSettings : public ISettings
+{
+public:
+    /// An empty name means DefaultFileName(). A file that does not exist yet is created at the first change.
+    explicit THostSettings(const QString& fileName = {});
+
+    static QString DefaultFileName();
+    /// False where the file is there but cannot be read as settings; the defaults are in force then.
+    bool IsReadable() const;
+
+    const TSettingRecord& SettingRecord() const override { return record_; }
+    const TIniOptions& IniOptions() const override { return options_; }
+    const TUserInfo& UserInfo() const override { return user_; }
+
+    void SetGregorian(bool gregorian);
+    void SetIniOptions(const TIniOptions& options);
+    /// Signs a user in, for this run of the program.
+    void SetUserInfo(const TUserInfo& user) { user_ = user; }
+
+    /// What the application itself keeps (sizes of windows, states of lists).
+    QVariant Value(const QString& key, const QVariant& otherwise = {}) const;
+    void SetValue(const QString& key, const QVariant& value);
+
+private:
+    void Read();
+
+    std::unique_ptr<QSettings> file_;
+    TSettingRecord record_;
+    TIniOptions options_;
+    TUserInfo user_;
+};

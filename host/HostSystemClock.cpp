@@ -1,0 +1,29 @@
+#include "HostSystemClock.h"
+
+#include "HostSettings.h"
+#include "SolarCalendar.h"
+
+#include <chrono>
+
+QString THostClock::NowDate(const QString& separator)
+{
+    return DateText(Today(), separator);
+}
+
+QDate THostClock::Today()
+{
+    return QDate::currentDate();
+}
+
+quint32 THostClock::TickCount()
+{
+    using namespace std::chrono;
+    return static_cast<quint32>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+QString THostClock::DateText(const QDate& date, const QString& separator) const
+{
+    if (settings_->SettingRecord().IsGregorian())
+        return SolarCalendar::Text({date.year(), date.month(), date.day()}, separator);
+    return SolarCalendar::Text(SolarCalendar::FromGregorian(date), separator);
+}

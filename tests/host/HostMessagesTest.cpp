@@ -1,0 +1,195 @@
+#include "HostMessageBoxes.h"
+
+#include "Balloon.h"
+#include "HostTestMain.h"
+#include "ModalBox.h"
+#include "PersianText.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+struct TForm
+{
+    QWidget Window;
+    QLineEdit First{&Window};
+    QLineEdit Second{&Window};
+
+    TForm()
+    {
+        auto* column = new QVBoxLayout(&Window);
+        column->addWidget(&First);
+        column->addWidget(&Second);
+        Window.show();
+        Activate();
+        Second.setFocus();
+    }
+    void Activate()
+    {
+        QVERIFY(QTest::qWaitForWindowExposed(&Window));
+        Window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window));
+    }
+};
+
+using TSubjectMessage = void (THostMessages::*)(const QString&, QWidget*, QWidget*);
+
+} // namespace
+
+class HostMessagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aBoxNamesItsSubjectAndGivesTheFocusBack_data()
+    {
+        QTest::addColumn<int>("message");
+        QTest::newRow("code not available") << 0;
+        QTest::newRow("not selected") << 1;
+        QTest::newRow("repeated code") << 2;
+        QTest::newRow("required field") << 3;
+    }
+
+    void aBoxNamesItsSubjectAndGivesTheFocusBack()
+    {
+        constexpr TSubjectMessage operations[] = {
+            &THostMessages::MsgCodeNotAvailable, &THostMessages::MsgNotSelected,
+            &THostMessages::MsgRepeatedCode, &THostMessages::MsgRequiredField};
+        QFETCH(int, message);
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
+        (messages_.*operations[message])(QStringLiteral("نرخ ارز"), &form.First, nullptr);
+        QCOMPARE(answer.Boxes(), 1);
+        QVERIFY(answer.Texts.constFirst().contains(PersianText::Isolated(QStringLiteral("نرخ ارز"))));
+        form.Activate();
+        QCOMPARE(QApplication::focusWidget(), &form.First);
+    }
+
+    void escapeClosesABoxToo()
+    {
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Escape));
+        messages_.MSGInUse(QStringLiteral("کد تفصیلی یکتا"));
+        messages_.MsgHasSubRecords(QStringLiteral("کد تفصيلي يکتا"));
+        messages_.ShowMessage(QStringLiteral("\"ExpenseCenter_TRV.dll\" DLL File not found / not loaded"));
+        QCOMPARE(answer.Boxes(), 3);
+        QCOMPARE(answer.Texts.constLast(),
+                 QStringLiteral("\"ExpenseCenter_TRV.dll\" DLL File not found / not loaded"));
+        form.Activate();
+        QCOMPARE(QApplication::focusWidget(), &form.Second);
+    }
+
+    void aControlThatWasDestroyedMeanwhileIsLeftAlone()
+    {
+        TForm form;
+        auto* third = new QLineEdit(&form.Window);
+        third->show();
+        ModalBox::TAnswer answer([third](TMessageDialog& box) {
+            delete third;
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        messages_.MsgNotSelected(QStringLiteral("کد"), third, nullptr);
+        QCOMPARE(answer.Boxes(), 1);
+    }
+
+    void aConfirmationAnswersTheButtonThatWasPressed_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("defaultButton");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("result");
+        const auto row = [](const char* name, TMessageButtons buttons, int button, Qt::Key key,
+                            TMessageResult result) {
+            QTest::newRow(name) << static_cast<int>(buttons) << button << static_cast<int>(key)
+                                << static_cast<int>(result);
+        };
+        row("Enter is the default, yes", TMessageButtons::mbYesNo, 0, Qt::Key_Return, TMessageResult::mrYes);
+        row("Enter is the default, no", TMessageButtons::mbYesNo, 1, Qt::Key_Return, TMessageResult::mrNo);
+        row("Escape is no", TMessageButtons::mbYesNo, 0, Qt::Key_Escape, TMessageResult::mrNo);
+        row("Escape is cancel", TMessageButtons::mbYesNoCancel, 0, Qt::Key_Escape, TMessageResult::mrCancel);
+        row("keypad Enter", TMessageButtons::mbOkCancel, 0, Qt::Key_Enter, TMessageResult::mrOk);
+        row("Space", TMessageButtons::mbYesNo, 0, Qt::Key_Space, TMessageResult::mrYes);
+    }
+
+    void aConfirmationAnswersTheButtonThatWasPressed()
+    {
+        QFETCH(int, buttons);
+        QFETCH(int, defaultButton);
+        QFETCH(int, key);
+        QFETCH(int, result);
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(static_cast<Qt::Key>(key)));
+        const TMessageResult given = messages_.ShowSmartMessage(
+            TConfirmationMessage::cmCreateTag, static_cast<TMessageButtons>(buttons), defaultButton);
+        QCOMPARE(static_cast<int>(given), result);
+        form.Activate();
+        QCOMPARE(QApplication::focusWidget(), &form.Second);
+    }
+
+    void theFirstButtonStandsAtTheRight()
+    {
+        TForm form;
+        int yes = 0;
+        int no = 0;
+        ModalBox::TAnswer answer([&](TMessageDialog& box) {
+            for (const auto* button : box.findChildren<QPushButton*>()) {
+                if (button->text() == TMessageDialog::YesButton().Caption)
+                    yes = button->x();
+                else if (button->text() == TMessageDialog::NoButton().Caption)
+                    no = button->x();
+            }
+            box.reject();
+        });
+        messages_.ShowSmartMessage(TConfirmationMessage::cmCreateTag, TMessageButtons::mbYesNo, 0);
+        QVERIFY2(yes > no && no > 0, qPrintable(QStringLiteral("%1 %2").arg(yes).arg(no)));
+    }
+
+    void aNotificationFillsItsPlaceholders()
+    {
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
+        messages_.ShowSmartMessage(TNotificationMessage::nmLimitReached,
+                                   {QStringLiteral("محدودیت در تعداد تگ ها")}, &form.First, &form.Window);
+        QCOMPARE(answer.Boxes(), 1);
+        QVERIFY(answer.Texts.constFirst().contains(QStringLiteral("محدودیت در تعداد تگ ها")));
+        QVERIFY(!answer.Texts.constFirst().contains(u'%'));
+        form.Activate();
+        QCOMPARE(QApplication::focusWidget(), &form.First);
+    }
+
+    void aNumberWithoutATextIsNamed()
+    {
+        try {
+            messages_.ShowSmartMessage(static_cast<TConfirmationMessage>(999), TMessageButtons::mbYesNo, 0);
+            QFAIL("no error");
+        } catch (const std::logic_error& error) {
+            QVERIFY(QByteArray(error.what()).contains("999"));
+        }
+    }
+
+    void aTooltipIsABalloonThatLeavesTheFocusAlone()
+    {
+        TForm form;
+        IMessages::TTooltip tooltip;
+        tooltip.Title = QStringLiteral("اعتبارسنجي");
+        tooltip.Text = QStringLiteral("کد صفر قابل انتخاب نمي باشد");
+        messages_.ShowTooltipMessage(tooltip);
+        QCOMPARE(Balloon::ShownText(), QString());
+        tooltip.Control = &form.First;
+        messages_.ShowTooltipMessage(tooltip);
+        QVERIFY(Balloon::ShownText().contains(tooltip.Text));
+        QCOMPARE(QApplication::focusWidget(), &form.Second);
+        Balloon::Hide();
+    }
+
+private:
+    THostMessages messages_;
+};
+
+int main(int argc, char** argv)
+{
+    return RunUnderHostApplication<HostMessagesTest>(argc, argv);
+}
+#include "HostMessagesTest.moc"
