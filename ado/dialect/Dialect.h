@@ -20,6 +20,8 @@ namespace Dialect {
 /// Collation of every nvarchar column: case-insensitive over Unicode, Persian alphabetical order, trailing
 /// blanks ignored.
 inline constexpr char TextCollation[] = "PERSIAN_CI";
+/// Collation of columns under a BIN2 collation: by code points, trailing blanks ignored.
+inline constexpr char BinaryCollation[] = "RTRIM";
 /// Collation of money and decimal columns: decimal texts in the order of their values.
 inline constexpr char DecimalCollation[] = "DECIMAL_ORDER";
 
@@ -29,6 +31,7 @@ struct TSchemaColumn
     QString DeclaredType;  ///< as SqliteDeclaredType writes it; empty where unknown
     bool Identity = false; ///< numbered by the database
     bool Computed = false; ///< generated column
+    bool Binary = false;   ///< text that compares byte by byte (a BIN2 collation)
 };
 
 /// What a translation asks of the database. Names come without brackets and prefixes, in any letter case.

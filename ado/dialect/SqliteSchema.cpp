@@ -31,12 +31,14 @@ QString ColumnText(sqlite3_stmt* statement, int column)
                              sqlite3_column_bytes(statement, column));
 }
 
-bool IsIdentity(sqlite3* connection, const QByteArray& table, const QString& column)
+void AddMetadata(sqlite3* connection, const QByteArray& table, TSchemaColumn& column)
 {
+    const char* collation = nullptr;
     int autoIncrement = 0;
-    sqlite3_table_column_metadata(connection, nullptr, table.constData(), column.toUtf8().constData(),
-                                  nullptr, nullptr, nullptr, nullptr, &autoIncrement);
-    return autoIncrement != 0;
+    sqlite3_table_column_metadata(connection, nullptr, table.constData(), column.Name.toUtf8().constData(),
+                                  nullptr, &collation, nullptr, nullptr, &autoIncrement);
+    column.Identity = autoIncrement != 0;
+    column.Binary = collation && sqlite3_stricmp(collation, BinaryCollation) == 0;
 }
 
 } // namespace
@@ -53,7 +55,7 @@ QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
         return *known;
     const QByteArray name = table.toUtf8();
     const TStatement statement =
-        Prepared(connection_, "SELECT name, type, hidden, pk FROM pragma_table_xinfo(?1)", name);
+        Prepared(connection_, "SELECT name, type, hidden FROM pragma_table_xinfo(?1)", name);
     QVector<TSchemaColumn> columns;
     while (statement && sqlite3_step(statement.get()) == SQLITE_ROW) {
         TSchemaColumn column;
@@ -62,8 +64,7 @@ QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
         // table_xinfo marks generated columns by 2 and 3 and keeps their declaration's words in the type.
         column.Computed = sqlite3_column_int(statement.get(), 2) >= 2;
         column.DeclaredType.remove(QStringLiteral(" GENERATED ALWAYS"));
-        column.Identity =
-            sqlite3_column_int(statement.get(), 3) != 0 && IsIdentity(connection_, name, column.Name);
+        AddMetadata(connection_, name, column);
         columns.append(column);
     }
     // A table that is not there may be created by another connection at any moment.
