@@ -2,6 +2,22 @@
 
 #include "PagedDataSet.h"
 
+namespace {
+
+QString TextOf(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    case QMetaType::QByteArray:
+        return {};
+    default:
+        return value.toString();
+    }
+}
+
+} // namespace
+
 TDataSetModel::TDataSetModel(QObject* parent) : QAbstractTableModel(parent)
 {
 }
@@ -94,7 +110,7 @@ QVariant TDataSetModel::data(const QModelIndex& index, int role) const
     if (role == Qt::EditRole)
         return dataSet->ValueAt(index.row(), index.column());
     if (role == Qt::DisplayRole)
-        return dataSet->ValueAt(index.row(), index.column()).toString();
+        return TextOf(dataSet->ValueAt(index.row(), index.column()));
     const TField* field = dataSet->Field(index.column());
     if (role == FieldTypeRole && field)
         return static_cast<int>(field->DataType());

@@ -200,7 +200,7 @@ void TPagedDataSet::ShowReplaced(int row)
     const QPointer<TPagedDataSet> alive(this);
     AnnounceData();
     if (alive && d->loader)
-        Q_EMIT countChanged(d->Count(), CountIsExact());
+        AnnounceCount();
 }
 
 void TPagedDataSet::ShowArrived(int first, int last)
@@ -212,17 +212,21 @@ void TPagedDataSet::ShowArrived(int first, int last)
         Q_EMIT rowsArrived(first, last);
 }
 
-void TPagedDataSet::ShowCount()
+void TPagedDataSet::AnnounceCount()
 {
-    const bool exact = CountIsExact();
-    const QPointer<TPagedDataSet> alive(this);
     if (ControlsDisabled())
         AnnounceData();
     else
-        Q_EMIT countChanged(d->Count(), exact);
+        Q_EMIT countChanged(d->Count(), CountIsExact());
+}
+
+void TPagedDataSet::ShowCount()
+{
+    const QPointer<TPagedDataSet> alive(this);
+    AnnounceCount();
     if (!alive || !d->loader)
         return;
-    const bool toLast = exact && std::exchange(d->goToLast, false);
+    const bool toLast = CountIsExact() && std::exchange(d->goToLast, false);
     if (toLast || d->current >= d->Count())
         MoveTo(d->Count() - 1);
 }

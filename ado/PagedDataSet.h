@@ -86,6 +86,7 @@ private:
     void ShowReplaced(int row);
     void ShowArrived(int first, int last);
     void ShowCount();
+    void AnnounceCount();
     void MoveTo(int row);
 
     std::unique_ptr<TPrivate> d;

@@ -53,16 +53,21 @@ std::unique_ptr<TQueryThread> TPagedLoader::MakeThread(TADOConnection& connectio
 }
 
 TQueryThread::TTask TPagedLoader::Task(std::function<TQueryThread::TAnswer(TPageReader&)> work,
-                                       void (TPagedLoader::*fail)(const EADOError&), bool reopen,
-                                       std::shared_ptr<const TPageStatements> statements)
+                                       void (TPagedLoader::*fail)(const EADOError&),
+                                       const std::shared_ptr<const TPageStatements>& statements, bool reopen)
 {
-    return [this, work = std::move(work), fail, reopen,
-            statements = std::move(statements)](TADOConnection& connection) -> TQueryThread::TAnswer {
+    return [this, work = std::move(work), fail, statements,
+            reopen](TADOConnection& connection) -> TQueryThread::TAnswer {
         try {
             MakeReady(connection, reopen);
             TPageReader reader(connection, *statements);
             return work(reader);
         } catch (const EADOError& error) {
+            return [this, fail, error] { (this->*fail)(error); };
+        } catch (const std::exception& exception) {
+            // Out of memory, or thrown by a registered function: a thread must not end by it.
+            const EADOError error(TAdoErrorKind::Other, QStringLiteral("خواندن فهرست ناتمام ماند."), {},
+                                  QString::fromLocal8Bit(exception.what()));
             return [this, fail, error] { (this->*fail)(error); };
         }
     };
@@ -91,7 +96,7 @@ void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TSortKey>& 
             ShowFirst(question, pages);
         };
     };
-    pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, reopen, statements));
+    pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, statements, reopen));
     AnnounceBusy();
 }
 
@@ -153,7 +158,7 @@ void TPagedLoader::BeginCount()
             Q_EMIT countChanged();
         };
     };
-    countThread_->Begin(Task(work, &TPagedLoader::FailCount, true, statements_));
+    countThread_->Begin(Task(work, &TPagedLoader::Fail, statements_, true));
 }
 
 void TPagedLoader::BeginSurvey()
@@ -161,7 +166,7 @@ void TPagedLoader::BeginSurvey()
     const auto work = [this, rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
         return [this, survey = reader.Survey(rows)] { TakeSurvey(survey); };
     };
-    countThread_->Begin(Task(work, &TPagedLoader::FailCount, true, statements_));
+    countThread_->Begin(Task(work, &TPagedLoader::Fail, statements_, true));
 }
 
 void TPagedLoader::TakeSurvey(const TPageReader::TSurvey& survey)
@@ -174,11 +179,6 @@ void TPagedLoader::TakeSurvey(const TPageReader::TSurvey& survey)
         Q_EMIT countChanged();
     if (alive)
         AnnounceBusy();
-}
-
-void TPagedLoader::FailCount(const EADOError& error)
-{
-    Fail(error);
 }
 
 QVariant TPagedLoader::Value(int row, int field)
@@ -250,7 +250,7 @@ void TPagedLoader::ReadNext()
     const auto work = [this, page, plan = list_.Plan(page)](TPageReader& reader) -> TQueryThread::TAnswer {
         return [this, page, plan, rows = reader.Read(plan)] { TakePage(page, plan, rows); };
     };
-    pageThread_->Begin(Task(work, &TPagedLoader::FailPage, false, statements_));
+    pageThread_->Begin(Task(work, &TPagedLoader::FailPage, statements_, false));
     AnnounceBusy();
 }
 

@@ -87,8 +87,8 @@ private:
     std::unique_ptr<TQueryThread> MakeThread(TADOConnection& connection);
     /// A task that opens the connection, runs `work` and turns its errors into a call of `failed`.
     TQueryThread::TTask Task(std::function<TQueryThread::TAnswer(TPageReader& reader)> work,
-                             void (TPagedLoader::*fail)(const EADOError& error), bool reopen = false,
-                             std::shared_ptr<const TPageStatements> statements = {});
+                             void (TPagedLoader::*fail)(const EADOError& error),
+                             const std::shared_ptr<const TPageStatements>& statements, bool reopen);
     static void MakeReady(TADOConnection& connection, bool reopen);
     static TFirstPages ReadFirst(TPageReader& reader, int pageSize, const std::optional<TSortKey>& keep);
 
@@ -98,7 +98,6 @@ private:
     void BeginCount();
     void BeginSurvey();
     void TakeSurvey(const TPageReader::TSurvey& survey);
-    void FailCount(const EADOError& error);
 
     void Want(int page);
     void PostReadNext();
