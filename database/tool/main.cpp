@@ -79,21 +79,33 @@ bool ReadSize(const QCommandLineParser& parser, TSampleSize& size, QString& comp
     return complaint.isEmpty();
 }
 
-int Create(const QString& file, const TSampleSize& size)
+/// As the application opens a database: a missing one is made.
+int Open(const QString& file, const TSampleSize& size)
 {
-    if (QFileInfo::exists(file))
-        return Complain(QStringLiteral("\"%1\" is there already and stays as it is.").arg(file));
     QElapsedTimer timer;
     timer.start();
+    bool made = false;
     TDatabaseOptions options;
     options.Size = size;
+    options.Progress = [&made](int percent, const QString&) {
+        made = made || percent > 0;
+        return true;
+    };
     TADOConnection connection;
     OpenDatabase(connection, QStringLiteral("sqlite:") + file, options);
-    Out() << file << ": " << DatabaseCheck::RowCount(connection, QStringLiteral("dbo.kala")) << " goods, "
+    Out() << (made ? "made " : "opened ") << file << ": "
+          << DatabaseCheck::RowCount(connection, QStringLiteral("dbo.kala")) << " goods, "
           << DatabaseCheck::RowCount(connection, QStringLiteral("dbo.Persons")) << " persons, "
           << DatabaseCheck::RowCount(connection, QStringLiteral("dbo.Sanad")) << " vouchers in "
           << static_cast<double>(timer.elapsed()) / 1000 << " s" << Qt::endl;
     return Done;
+}
+
+int Create(const QString& file, const TSampleSize& size)
+{
+    if (QFileInfo::exists(file))
+        return Complain(QStringLiteral("\"%1\" is there already and stays as it is.").arg(file));
+    return Open(file, size);
 }
 
 int Check(const QString& file)
@@ -115,13 +127,17 @@ int Run(QCommandLineParser& parser)
     const QStringList arguments = parser.positionalArguments();
     if (arguments.size() != 2)
         return Complain(QStringLiteral("Give a command and a file. --help tells more."));
-    if (arguments.first() == u"check")
-        return Check(arguments.last());
-    if (arguments.first() != u"create")
-        return Complain(QStringLiteral("Unknown command \"%1\". --help tells more.").arg(arguments.first()));
+    const QString& command = arguments.first();
+    const QString& file = arguments.last();
+    if (command == u"check")
+        return Check(file);
+    if (command != u"create" && command != u"open")
+        return Complain(QStringLiteral("Unknown command \"%1\". --help tells more.").arg(command));
     TSampleSize size;
     QString complaint;
-    return ReadSize(parser, size, complaint) ? Create(arguments.last(), size) : Complain(complaint);
+    if (!ReadSize(parser, size, complaint))
+        return Complain(complaint);
+    return command == u"create" ? Create(file, size) : Open(file, size);
 }
 
 } // namespace
@@ -133,7 +149,8 @@ int main(int argumentCount, char** arguments)
     parser.setApplicationDescription(
         QStringLiteral("Makes and checks databases of the accounting application."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("create or check."));
+    parser.addPositionalArgument(QStringLiteral("command"),
+                                 QStringLiteral("create, open (creates a missing file) or check."));
     parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The database file."));
     parser.addOption({QStringLiteral("size"), QStringLiteral("small, normal or large."),
                       QStringLiteral("preset"), QStringLiteral("normal")});
