@@ -27,35 +27,47 @@ void RefuseUnlessGood(const QString& path)
     case TVerdict::Good:
         return;
     case TVerdict::Unreadable:
-        Refuse(TAdoErrorKind::CannotOpen,
-               QStringLiteral("پروندهٔ «%1» را نمی‌توان خواند. اجازهٔ خواندن آن را بررسی "
-                              "کنید."),
-               path);
+        Refuse(
+            TAdoErrorKind::CannotOpen,
+            QStringLiteral(
+                "پروندهٔ «%1» را نمی‌توان خواند. اجازهٔ خواندن آن را بررسی "
+                "کنید."),
+            path);
     case TVerdict::NotADatabase:
-        Refuse(TAdoErrorKind::NotADatabase,
-               QStringLiteral("پروندهٔ «%1» پایگاه داده نیست و دست‌نخورده ماند. نام دیگری برای پایگاه داده "
-                              "بدهید."),
-               path);
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "پروندهٔ «%1» پایگاه داده نیست و دست‌نخورده ماند. نام دیگری برای پایگاه داده "
+                "بدهید."),
+            path);
     case TVerdict::Incomplete:
-        Refuse(TAdoErrorKind::NotADatabase,
-               QStringLiteral("پایگاه دادهٔ «%1» ناقص است و دست‌نخورده ماند. نسخهٔ پشتیبان آن را "
-                              "بازگردانید."),
-               path);
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "پایگاه دادهٔ «%1» ناقص است و دست‌نخورده ماند. نسخهٔ پشتیبان آن را "
+                "بازگردانید."),
+            path);
     case TVerdict::Foreign:
-        Refuse(TAdoErrorKind::NotADatabase,
-               QStringLiteral("«%1» پایگاه دادهٔ برنامهٔ دیگری است و دست‌نخورده ماند. نام دیگری برای پایگاه "
-                              "داده بدهید."),
-               path);
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "«%1» پایگاه دادهٔ برنامهٔ دیگری است و دست‌نخورده ماند. نام دیگری برای پایگاه "
+                "داده بدهید."),
+            path);
     case TVerdict::OtherVersion:
-        Refuse(TAdoErrorKind::NotADatabase,
-               QStringLiteral("نسخهٔ پایگاه دادهٔ «%1» شناخته نیست؛ پرونده دست‌نخورده "
-                              "ماند."),
-               path);
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "نسخهٔ پایگاه دادهٔ «%1» شناخته نیست؛ پرونده دست‌نخورده "
+                "ماند."),
+            path);
     case TVerdict::NewerVersion:
-        Refuse(TAdoErrorKind::NotADatabase,
-               QStringLiteral("پایگاه دادهٔ «%1» را نسخهٔ تازه‌تری از برنامه ساخته است؛ برنامه را به‌روز "
-                              "کنید."),
-               path);
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "پایگاه دادهٔ «%1» را نسخهٔ تازه‌تری از برنامه ساخته است؛ برنامه را به‌روز "
+                "کنید."),
+            path);
     }
 }
 
@@ -88,11 +100,13 @@ void CheckFileTables(TADOConnection& connection, const QString& path)
 {
     if (HasTables(connection))
         return;
-    Refuse(TAdoErrorKind::NotADatabase,
-           QStringLiteral("پایگاه دادهٔ «%1» آسیب دیده است: جدول‌های برنامه در آن خوانده نمی‌شود. نسخهٔ "
-                          "پشتیبان آن را "
-                          "بازگردانید."),
-           path);
+    Refuse(
+        TAdoErrorKind::NotADatabase,
+        QStringLiteral(
+            "پایگاه دادهٔ «%1» آسیب دیده است: جدول‌های برنامه در آن خوانده نمی‌شود. نسخهٔ "
+            "پشتیبان آن را "
+            "بازگردانید."),
+        path);
 }
 
 void OpenFile(TADOConnection& connection, const QString& path, const TDatabaseOptions& options)
@@ -153,8 +167,10 @@ void OpenServer(TADOConnection& connection, const QString& connectionString)
     CheckScript(connection, QStringLiteral("SELECT dbo.Category_SubNodes(0,0,1) AS value"),
                 QStringLiteral("functions.sql"));
     if (SchemaVersion(connection) != DatabaseSchema::Version) {
-        throw EADOError(TAdoErrorKind::CannotOpen, QStringLiteral("نسخهٔ جدول‌های پایگاه دادهٔ سرور با این "
-                                                                  "برنامه نمی‌خواند."));
+        throw EADOError(
+            TAdoErrorKind::CannotOpen,
+            QStringLiteral("نسخهٔ جدول‌های پایگاه دادهٔ سرور با این "
+                           "برنامه نمی‌خواند."));
     }
 }
 

@@ -21,9 +21,11 @@ constexpr int LockPollMilliseconds = 100;
 
 [[noreturn]] void RefuseFolder(const QString& path)
 {
-    Refuse(QStringLiteral("در پوشهٔ «%1» نمی‌توان پروندهٔ تازه ساخت. اجازهٔ نوشتن و جای خالی دیسک را بررسی "
-                          "کنید.")
-               .arg(QFileInfo(path).absolutePath()));
+    Refuse(
+        QStringLiteral(
+            "در پوشهٔ «%1» نمی‌توان پروندهٔ تازه ساخت. اجازهٔ نوشتن و جای خالی دیسک را بررسی "
+            "کنید.")
+            .arg(QFileInfo(path).absolutePath()));
 }
 
 /// Waits while another program makes the same file.

@@ -14,6 +14,8 @@ constexpr qint64 PriceStep = 1000;
 /// Has no divisor in common with any count of names of one kind, so that it spreads them without repeating
 /// one.
 constexpr qint64 Spread = 7919;
+/// Where the names of one kind begin, so that neighbours in the list do not all carry the same trade name.
+constexpr qint64 KindSpread = 131;
 
 int GroupCodeOf(const QString& name)
 {
@@ -112,7 +114,7 @@ QString TGoodsMaker::Name(int code) const
     const TKind& kind = KindOf(code);
     const qint64 number = (code - 1) / kinds_.size();
     const qint64 nameCount = kind.Variants.size() * brands_.size() * kind.Sizes.size();
-    qint64 choice = number * Spread % nameCount;
+    qint64 choice = (number * Spread + (code - 1) % kinds_.size() * KindSpread) % nameCount;
     QString name = kind.Noun;
     Append(name, kind.Variants.at(choice % kind.Variants.size()));
     choice /= kind.Variants.size();

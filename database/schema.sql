@@ -156,7 +156,7 @@ CREATE TABLE dbo.Persons (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
   Name nvarchar(200) NOT NULL,
   FullName nvarchar(200) NOT NULL,
-  SearchName AS CAST(LOWER(REPLACE(REPLACE(TRANSLATE(FullName COLLATE Latin1_General_BIN2, N'يىك۰۱۲۳۴۵۶۷۸۹٠١٢٣٤٥٦٧٨٩', N'ییک01234567890123456789'), NCHAR(8204), N''), NCHAR(1600), N'')) AS nvarchar(200)) PERSISTED,
+  SearchName AS CAST(LOWER(REPLACE(REPLACE(TRANSLATE(FullName COLLATE Latin1_General_BIN2, N'يىك۰۱۲۳۴۵۶۷۸۹٠١٢٣٤٥٦٧٨٩', N'ییک01234567890123456789'), NCHAR(8204), N''), NCHAR(1600), N'')) AS nvarchar(200)) COLLATE Latin1_General_BIN2 PERSISTED,
   NationalCode nvarchar(11) NULL,
   Phone nvarchar(20) NULL,
   City nvarchar(50) NULL,
@@ -175,7 +175,7 @@ GO
 CREATE TABLE dbo.kala (
   Code int NOT NULL PRIMARY KEY CHECK (Code > 0),
   Name nvarchar(200) NOT NULL,
-  SearchName AS CAST(LOWER(REPLACE(REPLACE(TRANSLATE(Name COLLATE Latin1_General_BIN2, N'يىك۰۱۲۳۴۵۶۷۸۹٠١٢٣٤٥٦٧٨٩', N'ییک01234567890123456789'), NCHAR(8204), N''), NCHAR(1600), N'')) AS nvarchar(200)) PERSISTED,
+  SearchName AS CAST(LOWER(REPLACE(REPLACE(TRANSLATE(Name COLLATE Latin1_General_BIN2, N'يىك۰۱۲۳۴۵۶۷۸۹٠١٢٣٤٥٦٧٨٩', N'ییک01234567890123456789'), NCHAR(8204), N''), NCHAR(1600), N'')) AS nvarchar(200)) COLLATE Latin1_General_BIN2 PERSISTED,
   Barcode nvarchar(20) NULL,
   UnitName nvarchar(30) NOT NULL,
   GroupCode int NULL REFERENCES dbo.KalaGroups (Code),

@@ -126,7 +126,7 @@ void TDatabaseFunctionsTest::theNodesBeneathACategoryAreListed_data()
     };
     add("top level", "Category_SubNodes(0,0,1)", "(1,2,7)");
     add("children in ascending order", "Category_SubNodes(1,0,1)", "(3,4)");
-    add("no children", "Category_SubNodes(5,0,1)", "()");
+    add("no children", "Category_SubNodes(6,0,1)", "()");
     add("unknown category", "Category_SubNodes(99,0,1)", "()");
     add("below zero", "Category_SubNodes(-1,0,1)", "()");
     add("nothing", "Category_SubNodes(NULL,0,1)", "()");

@@ -176,7 +176,7 @@ void TDatabaseSchemaTest::aCodeIsLockedOnceOnly()
                                         "'2026-01-01T08:00:00', '2026-01-01T09:00:00')");
     database->Execute(lock.arg(1270001));
     database->Execute(lock.arg(1270002));
-    QVERIFY_EXCEPTION_THROWN(database->Execute(lock.arg(1270001)), EADOError);
+    QVERIFY_THROWS_EXCEPTION(EADOError, database->Execute(lock.arg(1270001)));
 }
 
 void TDatabaseSchemaTest::aSecondTagOfTheSameNameIsRefused()
@@ -184,21 +184,18 @@ void TDatabaseSchemaTest::aSecondTagOfTheSameNameIsRefused()
     const std::unique_ptr<TTestDatabase> database = TTestDatabase::Empty();
     database->Execute(QStringLiteral("INSERT INTO colors (cl_code) VALUES ('clRed')"));
     database->Execute(QStringLiteral("INSERT INTO TagS (Name, color_code) VALUES (N'VIP', 1)"));
-    QVERIFY_EXCEPTION_THROWN(
-        database->Execute(QStringLiteral("INSERT INTO TagS (Name, color_code) VALUES (N'vip', 1)")),
-        EADOError);
+    QVERIFY_THROWS_EXCEPTION(EADOError, database->Execute(QStringLiteral(
+                                            "INSERT INTO TagS (Name, color_code) VALUES (N'vip', 1)")));
 }
 
 void TDatabaseSchemaTest::aRowCannotReferToWhatIsNotThere()
 {
     const std::unique_ptr<TTestDatabase> database = TTestDatabase::Empty();
-    QVERIFY_EXCEPTION_THROWN(
-        database->Execute(QStringLiteral("INSERT INTO TagS (Name, color_code) VALUES (N'ویژه', 5)")),
-        EADOError);
-    QVERIFY_EXCEPTION_THROWN(
-        database->Execute(
-            QStringLiteral("INSERT INTO dbo.AccTotals (Code, Name, GroupCode) VALUES (101, N'صندوق', 1)")),
-        EADOError);
+    QVERIFY_THROWS_EXCEPTION(EADOError, database->Execute(QStringLiteral(
+                                            "INSERT INTO TagS (Name, color_code) VALUES (N'ویژه', 5)")));
+    QVERIFY_THROWS_EXCEPTION(
+        EADOError, database->Execute(QStringLiteral(
+                       "INSERT INTO dbo.AccTotals (Code, Name, GroupCode) VALUES (101, N'صندوق', 1)")));
 }
 
 QTEST_GUILESS_MAIN(TDatabaseSchemaTest)

@@ -312,7 +312,7 @@ void TSampleDataTest::workCanBeAbandoned()
         QCOMPARE(error.Kind(), TAdoErrorKind::Cancelled);
     }
     QVERIFY(!connection.InTransaction());
-    QVERIFY_EXCEPTION_THROWN(connection.Execute(QStringLiteral("SELECT Code FROM dbo.kala")), EADOError);
+    QVERIFY_THROWS_EXCEPTION(EADOError, connection.Execute(QStringLiteral("SELECT Code FROM dbo.kala")));
 }
 
 QTEST_GUILESS_MAIN(TSampleDataTest)
