@@ -45,6 +45,20 @@ void RefuseImpossible(const TCursor& cursor, const TPiece& piece, const TType& t
         cursor.Refuse(piece.Sql, "cannot be converted to the type of its destination");
 }
 
+TPiece CastToText(const TCursor& cursor, const TPiece& piece, TType target)
+{
+    // A text keeps the collation that it has.
+    target.Binary = piece.Type.IsText() && piece.Type.Binary;
+    const QString text = AsText(cursor, piece);
+    constexpr int longestNumber = 20;
+    const bool fits = target.Length == Unbounded ||
+                      (piece.Type.IsText() && piece.Type.Length > 0 && piece.Type.Length <= target.Length) ||
+                      (piece.Type.IsWhole() && target.Length >= longestNumber);
+    if (fits)
+        return WholePiece(text, target);
+    return WholePiece(Call("substr", {text, QStringLiteral("1"), QString::number(target.Length)}), target);
+}
+
 } // namespace
 
 QString Assigned(const TCursor& cursor, const TPiece& piece, const TType& target)
@@ -78,21 +92,12 @@ QString Assigned(const TCursor& cursor, const TPiece& piece, const TType& target
 
 TPiece Cast(const TCursor& cursor, const TPiece& piece, const TType& target)
 {
-    if (!target.IsText()) {
-        TPiece cast = WholePiece(Assigned(cursor, piece, target), target);
-        if (cast.Type.Kind == TKind::Float && !piece.Type.IsText())
-            cast.Sql = QStringLiteral("CAST(%1 AS REAL)").arg(piece.Sql);
-        return cast;
-    }
-    const QString text = AsText(cursor, piece);
-    const bool fits = target.Length == Unbounded ||
-                      (piece.Type.IsText() && piece.Type.Length > 0 && piece.Type.Length <= target.Length);
-    constexpr int longestNumber = 20;
-    const bool fitsNumber = piece.Type.IsWhole() && target.Length >= longestNumber;
-    return WholePiece(fits || fitsNumber
-                          ? text
-                          : Call("substr", {text, QStringLiteral("1"), QString::number(target.Length)}),
-                      target);
+    if (target.IsText())
+        return CastToText(cursor, piece, target);
+    TPiece cast = WholePiece(Assigned(cursor, piece, target), target);
+    if (target.Kind == TKind::Float && !piece.Type.IsText())
+        cast.Sql = QStringLiteral("CAST(%1 AS REAL)").arg(piece.Sql);
+    return cast;
 }
 
 } // namespace Dialect

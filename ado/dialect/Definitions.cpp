@@ -1,3 +1,4 @@
+#include "SqliteSchema.h"
 #include "TableDefinition.h"
 
 #include <QLatin1StringView>
@@ -25,6 +26,19 @@ QString CreateTable(TCursor& cursor)
     return QLatin1String("CREATE TABLE ") + QuotedName(table) + u' ' + definition;
 }
 
+/// SQLite keeps the types of a view's plain columns only: all of them are noted in its text.
+QString TypesComment(const TSelectText& select)
+{
+    if (!select.IsKnown)
+        return {};
+    QStringList types;
+    for (const TColumn& column : select.Columns) {
+        const QString collation = column.Type.Binary ? u' ' + QLatin1String(BinaryCollation) : QString();
+        types.append(DeclarationOf(column.Type) + collation);
+    }
+    return u' ' + QLatin1String(ViewTypesOpening) + types.join(u';') + QLatin1String(ViewTypesClosing);
+}
+
 QString CreateView(TCursor& cursor)
 {
     QString sql = QLatin1String("CREATE VIEW ") + QuotedName(cursor.ExpectObjectName());
@@ -42,7 +56,7 @@ QString CreateView(TCursor& cursor)
         if (column.Name.isEmpty() && !namesColumns)
             cursor.Refuse(cursor.WrittenSince(start), "every column of a view needs a name");
     }
-    return sql + QLatin1String(" AS ") + select.Sql;
+    return sql + TypesComment(select) + QLatin1String(" AS ") + select.Sql;
 }
 
 QString CreateIndex(TCursor& cursor, bool isUnique)

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <cstring>
 #include <memory>
 
 namespace Dialect {
@@ -67,10 +68,29 @@ QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
         AddMetadata(connection_, name, column);
         columns.append(column);
     }
+    ReadViewTypes(name, columns);
     // A table that is not there may be created by another connection at any moment.
     if (!columns.isEmpty())
         tables_.insert(key, columns);
     return columns;
+}
+
+void TSqliteSchema::ReadViewTypes(const QByteArray& view, QVector<TSchemaColumn>& columns) const
+{
+    const TStatement statement = Prepared(
+        connection_, "SELECT sql FROM sqlite_master WHERE type = 'view' AND name = ?1 COLLATE NOCASE", view);
+    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW)
+        return;
+    const QString text = ColumnText(statement.get(), 0);
+    const qsizetype opening = text.indexOf(QLatin1String(ViewTypesOpening));
+    const qsizetype start = opening + static_cast<qsizetype>(std::strlen(ViewTypesOpening));
+    const qsizetype end = text.indexOf(QLatin1String(ViewTypesClosing), start);
+    const QStringList types = opening < 0 || end < 0 ? QStringList() : text.mid(start, end - start).split(u';');
+    for (qsizetype i = 0; types.size() == columns.size() && i < types.size(); ++i) {
+        const qsizetype blank = types[i].indexOf(u' ');
+        columns[i].DeclaredType = types[i].left(blank);
+        columns[i].Binary = blank >= 0;
+    }
 }
 
 bool TSqliteSchema::HasFunction(const QString& name, int argumentCount) const

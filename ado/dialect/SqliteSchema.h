@@ -7,6 +7,10 @@
 
 namespace Dialect {
 
+/// What stands around the column types that CREATE VIEW notes in a view's text.
+inline constexpr char ViewTypesOpening[] = "/* types: ";
+inline constexpr char ViewTypesClosing[] = " */";
+
 /// The schema of an open SQLite connection, read on demand and kept until Forget().
 class ADO_EXPORT TSqliteSchema : public TSchemaView
 {
@@ -20,6 +24,8 @@ public:
     void Forget();
 
 private:
+    void ReadViewTypes(const QByteArray& view, QVector<TSchemaColumn>& columns) const;
+
     sqlite3* connection_;
     mutable QHash<QString, QVector<TSchemaColumn>> tables_;
     mutable QSet<QString> functions_;

@@ -14,9 +14,10 @@ QString TextOf(sqlite3_stmt* statement, int column)
     case SQLITE_NULL:
         return QStringLiteral("NULL");
     case SQLITE_BLOB:
-        return QString::fromLatin1(QByteArray(static_cast<const char*>(sqlite3_column_blob(statement, column)),
-                                              sqlite3_column_bytes(statement, column))
-                                       .toHex());
+        return QString::fromLatin1(
+            QByteArray(static_cast<const char*>(sqlite3_column_blob(statement, column)),
+                       sqlite3_column_bytes(statement, column))
+                .toHex());
     default:
         return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
                                  sqlite3_column_bytes(statement, column));
@@ -31,7 +32,7 @@ QString RowOf(sqlite3_stmt* statement)
     return values.join(u'|');
 }
 
-}  // namespace
+} // namespace
 
 TEmbeddedDatabase::TEmbeddedDatabase()
 {
@@ -66,7 +67,8 @@ QStringList TEmbeddedDatabase::RunTranslated(const QString& text, const QStringL
     int result = sqlite3_prepare_v2(connection_, utf8.constData(), -1, &statement, nullptr);
     for (int i = 0; statement && i < parameters.size(); ++i) {
         const QByteArray value = parameters[i].toUtf8();
-        sqlite3_bind_text(statement, i + 1, value.constData(), static_cast<int>(value.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(statement, i + 1, value.constData(), static_cast<int>(value.size()),
+                          SQLITE_TRANSIENT);
     }
     if (result == SQLITE_OK) {
         while ((result = sqlite3_step(statement)) == SQLITE_ROW)
@@ -95,7 +97,8 @@ QStringList TEmbeddedDatabase::ColumnNames(const QString& tsql)
 {
     sqlite3_stmt* statement = nullptr;
     QStringList names;
-    if (sqlite3_prepare_v2(connection_, Translated(tsql).toUtf8().constData(), -1, &statement, nullptr) == SQLITE_OK) {
+    if (sqlite3_prepare_v2(connection_, Translated(tsql).toUtf8().constData(), -1, &statement, nullptr) ==
+        SQLITE_OK) {
         for (int column = 0; column < sqlite3_column_count(statement); ++column)
             names.append(QString::fromUtf8(sqlite3_column_name(statement, column)));
     }

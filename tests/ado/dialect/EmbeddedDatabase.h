@@ -7,7 +7,8 @@
 #include <QStringList>
 
 /// An in-memory database behind the dialect layer, for tests: texts go in as T-SQL, rows come out as texts.
-class TEmbeddedDatabase {
+class TEmbeddedDatabase
+{
 public:
     TEmbeddedDatabase();
     TEmbeddedDatabase(const TEmbeddedDatabase&) = delete;
