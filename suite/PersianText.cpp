@@ -137,8 +137,8 @@ QString PersianText::WithIsolatedCodes(const QString& sentence)
     if (sentence.contains(u'\u2068'))
         return sentence;
     static const QRegularExpression code(
-        QStringLiteral(R"(-?[A-Za-z0-9](?:[A-Za-z0-9_.:/\\\-+*#@,&]*[A-Za-z0-9])?)"));
-    return QString(sentence).replace(code, QStringLiteral("\u2068\\0\u2069"));
+        QStringLiteral(R"((-?[A-Za-z0-9](?:[A-Za-z0-9_.:/\\\-+*#@,&]*[A-Za-z0-9])?))"));
+    return QString(sentence).replace(code, QStringLiteral("\u2068\\1\u2069"));
 }
 
 QString PersianText::SingleLine(const QString& text)

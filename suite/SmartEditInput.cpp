@@ -47,13 +47,19 @@ QString RefusalOf(TNumberText::TTaken taken, const TNumberRules& rules)
                               "بچسبانید.")
             .arg(PersianCount(rules.maxDigits));
     case TNumberText::TTaken::TooManyDecimals:
-        return rules.decimals == 0 ? QStringLiteral("این کادر عدد بدون اعشار می‌خواهد؛ عدد را گرد کنید و "
+        return rules.decimals == 0 ? QStringLiteral("این کادر عدد بدون اعشار می‌خواهد؛ عدد را گرد "
+                                                    "کنید "
+                                                    "و "
                                                     "دوباره بچسبانید.")
-                                   : QStringLiteral("این کادر تا %1 رقم اعشار می‌پذیرد؛ عدد را گرد کنید و "
+                                   : QStringLiteral("این کادر تا %1 رقم اعشار می‌پذیرد؛ عدد را گرد "
+                                                    "کنید "
+                                                    "و "
                                                     "دوباره بچسبانید.")
                                          .arg(PersianCount(rules.decimals));
     default:
-        return QStringLiteral("این عدد با آنچه در کادر هست جور نمی‌شود؛ همهٔ کادر را انتخاب کنید و دوباره "
+        return QStringLiteral("این عدد با آنچه در کادر هست جور نمی‌شود؛ همهٔ کادر را انتخاب کنید "
+                              "و "
+                              "دوباره "
                               "بچسبانید.");
     }
 }
@@ -135,11 +141,15 @@ bool TSmartEdit_TRV::TPrivate::IsWithinReach(const TNumberText& candidate)
         return true;
     const QString bound =
         DecimalText::Grouped(DecimalText::FromValue(tooLarge ? maxValue : minValue, Decimals()));
-    Balloon::Show(edit, (tooLarge ? QStringLiteral("بیشترین مقدار این کادر %1 است؛ عدد کوچک‌تری "
-                                                   "بنویسید.")
-                                  : QStringLiteral("کمترین مقدار این کادر %1 است؛ عدد بزرگ‌تری "
-                                                   "بنویسید."))
-                            .arg(bound));
+    Balloon::Show(
+        edit,
+        (tooLarge
+             ? QStringLiteral(
+                   "بیشترین مقدار این کادر %1 است؛ عدد کوچک‌تری "
+                   "بنویسید.")
+             : QStringLiteral("کمترین مقدار این کادر %1 است؛ عدد بزرگ‌تری "
+                              "بنویسید."))
+            .arg(bound));
     return false;
 }
 
@@ -176,12 +186,18 @@ bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
     QString found;
     switch (DecimalText::Find(text, found)) {
     case DecimalText::TFinding::Nothing:
-        Balloon::Show(edit, QStringLiteral("در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید و دوباره "
+        Balloon::Show(edit, QStringLiteral("در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید "
+                                           "و "
+                                           "دوباره "
                                            "بچسبانید."));
         return false;
     case DecimalText::TFinding::Several:
-        Balloon::Show(edit, QStringLiteral("متن چسبانده‌شده یک عدد تنها نیست؛ فقط همان عدد را رونوشت "
-                                           "کنید."));
+        Balloon::Show(
+            edit,
+            QStringLiteral(
+                "متن چسبانده‌شده یک عدد تنها نیست؛ فقط همان عدد را "
+                "رونوشت "
+                "کنید."));
         return false;
     case DecimalText::TFinding::One:
         break;
@@ -201,8 +217,11 @@ bool TSmartEdit_TRV::TPrivate::PasteText(const QString& text)
 {
     const QString clean = PersianText::SingleLine(text);
     if (clean.isEmpty()) {
-        Balloon::Show(edit, QStringLiteral("متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری رونوشت "
-                                           "کنید."));
+        Balloon::Show(
+            edit,
+            QStringLiteral("متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری "
+                           "رونوشت "
+                           "کنید."));
         return false;
     }
     const QString fitting = FittingText(clean);

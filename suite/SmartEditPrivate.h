@@ -34,8 +34,6 @@ struct TSmartEdit_TRV::TPrivate
     void KeepBounds();
     void ClearError();
     void RefreshHint();
-    void RefreshCalculatorButton();
-    void OpenCalculator();
 
     // SmartEditInput.cpp: from the user to the text
     bool HandleKey(QKeyEvent* event);
@@ -54,6 +52,11 @@ struct TSmartEdit_TRV::TPrivate
     void DeleteSelected();
     bool CanChange() const { return !edit->isReadOnly() && edit->isEnabled(); }
     QMenu* ContextMenu();
+
+    // SmartEditCalculator.cpp
+    void RefreshCalculatorButton();
+    void OpenCalculator();
+    QString TakeResult(const QString& result);
 
     TSmartEdit_TRV* edit;
     TEditType editType = etString;
