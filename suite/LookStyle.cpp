@@ -261,6 +261,8 @@ int TLookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     case SH_UnderlineShortcut:
     case SH_ItemView_ShowDecorationSelected:
         return 1;
+    case SH_Table_GridLineColor:
+        return static_cast<int>(Look::Color(Look::TRole::Grid).rgb());
     case SH_ComboBox_Popup: // a list under the box, not a menu over it
     case SH_EtchDisabledText:
     case SH_DialogButtonBox_ButtonsHaveIcons:

@@ -8,18 +8,21 @@
 #include <QTableView>
 
 /// A column of a TSmartDBGrid_TRV.
-struct SUITE_EXPORT TGridColumn {
-    enum TKind { ckText, ckCode, ckNumber, ckMoney, ckDate };  ///< codes, numbers and money align to the digit
+struct SUITE_EXPORT TGridColumn
+{
+    enum TKind { ckText, ckCode, ckNumber, ckMoney, ckDate }; ///< codes, numbers and money align to the digit
     QString FieldName;
     QString Title;
-    int Width = 100;  ///< pixels at scale 1
+    int Width = 100; ///< pixels at scale 1
     TKind Kind = ckText;
     bool Visible = true;
 };
 
-/// Data-aware grid, right to left: the first column stands at the right. A header click orders a paged data set.
-/// Shows its EmptyText, which says why it is empty and what to press, when there is no row.
-class SUITE_EXPORT TSmartDBGrid_TRV : public QTableView, public TControlEvents {
+/// Data-aware grid, right to left: the first column stands at the right. A header click orders a paged data
+/// set. Shows its EmptyText, which says why it is empty and what to press, when there is no row. Home and End
+/// go to the first and last row, Ctrl+C copies the row, Enter is the owner's.
+class SUITE_EXPORT TSmartDBGrid_TRV : public QTableView, public TControlEvents
+{
     Q_OBJECT
     Q_PROPERTY(QString EmptyText READ EmptyText WRITE SetEmptyText)
 
@@ -27,8 +30,9 @@ public:
     explicit TSmartDBGrid_TRV(QWidget* parent = nullptr);
     ~TSmartDBGrid_TRV() override;
 
-    void SetDataSource(TDataSource* source);  ///< not owned; the current row follows the data set and back
+    void SetDataSource(TDataSource* source); ///< not owned; the current row follows the data set and back
     TDataSource* DataSource() const;
+    /// Without column definitions every field is a column.
     void SetColumns(const QVector<TGridColumn>& columns);
     QVector<TGridColumn> Columns() const;
     QString EmptyText() const;
@@ -37,10 +41,14 @@ public:
     QByteArray SaveLayout() const;
     void RestoreLayout(const QByteArray& layout);
 
-    TNotifyEvent OnDblClick;
+    /// Letters are left to the owner; searching row by row would read the whole list.
+    void keyboardSearch(const QString& search) override;
+
+    TNotifyEvent OnDblClick; ///< on a row
 
 protected:
     bool event(QEvent* event) override;
+
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -50,6 +58,12 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void FollowDataSet();
+    void ApplyColumns();
+    void ShowSortMark();
+    void ShowCurrentRow();
+    void SortByColumn(int column);
+    bool HandleOwnKey(const QKeyEvent& event);
     struct TPrivate;
     std::unique_ptr<TPrivate> d;
 };

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class TGridColumnModel;
+
+/// Paints the cells of a grid by hand: a list of large tables is scrolled all day.
+class TGridDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit TGridDelegate(const TGridColumnModel* model, QObject* parent = nullptr);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    /// Shows a text that does not fit as a tool tip.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+private:
+    const TGridColumnModel* model_;
+};
