@@ -97,8 +97,10 @@ QString GridCellText::SolarDate(const QString& isoText)
 {
     constexpr int DateLength = 10; // YYYY-MM-DD
     constexpr int TimeLength = 5;  // HH:MM
+    // The toolkit takes any sign between the numbers; with slashes the text is a solar date already.
+    const bool isIso = isoText.mid(4, 1) == u'-';
     const QDate date = QDate::fromString(isoText.left(DateLength), Qt::ISODate);
-    if (!date.isValid() || date.toJulianDay() <= DayBeforeFirstYear)
+    if (!isIso || !date.isValid() || date.toJulianDay() <= DayBeforeFirstYear)
         return isoText;
     const QString time = isoText.mid(DateLength + 1, TimeLength);
     return time.isEmpty() ? SolarDay(date) : SolarDay(date) + u' ' + time;

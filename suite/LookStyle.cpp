@@ -194,6 +194,14 @@ void TLookStyle::drawControl(ControlElement element, const QStyleOption* option,
         QProxyStyle::drawControl(element, &whole, painter, widget);
         return;
     }
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (header != nullptr && element == CE_HeaderLabel) {
+        // Titles keep the distance from the edge that the cells under them have.
+        QStyleOptionHeader title(*header);
+        title.rect.adjust(Look::Unit, 0, -Look::Unit, 0);
+        QProxyStyle::drawControl(element, &title, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     if (element == CE_ShapedFrame && isScrollArea && HasFocus(*option))
@@ -252,6 +260,14 @@ QSize TLookStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         break;
     }
     return result;
+}
+
+int TLookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    // Lists need room for the ring around what scrolls.
+    if (metric == PM_DefaultFrameWidth && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
+        return Look::RingWidth;
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int TLookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
