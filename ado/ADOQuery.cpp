@@ -12,7 +12,7 @@ struct TADOQuery::TPrivate
     bool Active = false;
     QString OpenedText;
     TRowStore Store;
-    std::vector<std::unique_ptr<TField>> Fields;
+    std::vector<std::unique_ptr<TField>> Fields; ///< made when they are asked for
     TRowFilter Filter;
     std::vector<int> Visible; ///< source rows that the filter lets through; unused without a filter
     int Row = -1;             ///< current row among the visible ones, -1 when there is none
@@ -21,7 +21,6 @@ struct TADOQuery::TPrivate
 
     int RowCount() const { return Filter ? static_cast<int>(Visible.size()) : Store.RowCount(); }
     void ApplyFilter(const TADOQuery& query);
-    void MakeFields(TADOQuery& query);
 };
 
 void TADOQuery::TPrivate::ApplyFilter(const TADOQuery& query)
@@ -33,14 +32,6 @@ void TADOQuery::TPrivate::ApplyFilter(const TADOQuery& query)
         if (Filter(query, row))
             Visible.push_back(row);
     }
-}
-
-void TADOQuery::TPrivate::MakeFields(TADOQuery& query)
-{
-    Fields.clear();
-    const QVector<TColumnInfo>& columns = Store.Columns();
-    for (int i = 0; i < columns.size(); ++i)
-        Fields.push_back(std::make_unique<TField>(&query, i, columns[i]));
 }
 
 TADOQuery::TADOQuery(QObject* parent) : TDataSet(parent), d(std::make_unique<TPrivate>())
@@ -87,15 +78,13 @@ void TADOQuery::Open()
         return;
     Close();
     TADOConnection& connection = LiveConnection();
-    TRowStore store;
     {
         const std::unique_ptr<IEngineRows> rows = connection.Run(text, Parameters);
-        connection.Noting([&] { store.Read(*rows); });
+        connection.Noting([&] { d->Store.Read(*rows); });
     }
-    d->Store = std::move(store);
     d->OpenedText = text;
     d->Active = true;
-    d->MakeFields(*this);
+    d->Fields.resize(static_cast<std::size_t>(d->Store.Columns().size()));
     d->ApplyFilter(*this);
     MoveTo(0, true, false);
     AnnounceData();
@@ -153,14 +142,17 @@ TField* TADOQuery::Field(int index)
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("فیلد شمارهٔ %1 در نتیجه نیست.").arg(index),
                         SQL.Text());
     }
-    return d->Fields[static_cast<std::size_t>(index)].get();
+    auto& field = d->Fields[static_cast<std::size_t>(index)];
+    if (!field)
+        field = std::make_unique<TField>(this, index, d->Store.Columns().at(index));
+    return field.get();
 }
 
 TField* TADOQuery::FindField(const QString& name)
 {
-    for (const auto& field : d->Fields) {
-        if (field->FieldName().compare(name, Qt::CaseInsensitive) == 0)
-            return field.get();
+    for (int index = 0; index < FieldCount(); ++index) {
+        if (d->Store.Columns().at(index).Name.compare(name, Qt::CaseInsensitive) == 0)
+            return Field(index);
     }
     return nullptr;
 }

@@ -1,5 +1,6 @@
 #include "DecimalText.h"
 
+#include <algorithm>
 #include <QStringView>
 
 namespace {
@@ -7,6 +8,11 @@ namespace {
 bool IsSign(QChar character)
 {
     return character == u'-' || character == u'+';
+}
+
+bool IsDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
 }
 
 QStringView WithoutLeadingZeros(QStringView digits)
@@ -35,12 +41,31 @@ bool IsDecimal(const QString& text)
     for (const QChar character : rest) {
         if (character == u'.' && !pointSeen)
             pointSeen = true;
-        else if (character >= u'0' && character <= u'9')
+        else if (IsDigit(character))
             digitSeen = true;
         else
             return false;
     }
     return digitSeen;
+}
+
+bool IsCanonicalDecimal(const QString& text)
+{
+    const QChar* next = text.constBegin();
+    const QChar* end = text.constEnd();
+    const bool negative = next != end && *next == u'-';
+    if (negative)
+        ++next;
+    const QChar* wholeBegin = next;
+    while (next != end && IsDigit(*next))
+        ++next;
+    const qsizetype wholeLength = next - wholeBegin;
+    if (wholeLength == 0 || (wholeLength > 1 && *wholeBegin == u'0'))
+        return false;
+    if (next == end)
+        return !(negative && *wholeBegin == u'0');
+    const bool pointAndMore = *next == u'.' && end - next > 1;
+    return pointAndMore && std::all_of(next + 1, end, IsDigit) && *(end - 1) != u'0';
 }
 
 QString CanonicalDecimal(const QString& text)

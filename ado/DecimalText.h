@@ -11,3 +11,6 @@ ADO_EXPORT QString CanonicalDecimal(const QString& text);
 
 /// True when the text is digits with at most one point and an optional sign.
 ADO_EXPORT bool IsDecimal(const QString& text);
+
+/// True for a decimal in its one spelling; quick, for what mostly is.
+ADO_EXPORT bool IsCanonicalDecimal(const QString& text);

@@ -1,8 +1,18 @@
 #include "RowStore.h"
 
+#include <QScopeGuard>
+
+namespace {
+
+constexpr std::size_t KeptCells = 256;
+constexpr std::size_t KeptCharacters = 4096;
+
+} // namespace
+
 void TRowStore::Read(IEngineRows& rows)
 {
     Clear();
+    auto forgetUnfinished = qScopeGuard([this] { Clear(); });
     columns_ = rows.Columns();
     const int columnCount = static_cast<int>(columns_.size());
     while (rows.Next()) {
@@ -10,16 +20,28 @@ void TRowStore::Read(IEngineRows& rows)
             AppendCell(rows, column);
         ++rowCount_;
     }
+    forgetUnfinished.dismiss();
 }
 
 void TRowStore::Clear()
 {
-    *this = {};
+    columns_.clear();
+    rowCount_ = 0;
+    // Small results come one after another; the memory of a large one is given back.
+    if (cells_.capacity() > KeptCells || texts_.capacity() > KeptCharacters ||
+        bytes_.capacity() > KeptCharacters) {
+        cells_ = {};
+        texts_ = {};
+        bytes_ = {};
+    }
+    cells_.clear();
+    texts_.clear();
+    bytes_.clear();
 }
 
 void TRowStore::AppendCell(IEngineRows& rows, int column)
 {
-    switch (columns_[column].Type) {
+    switch (columns_.at(column).Type) {
     case TFieldType::ftBCD:
     case TFieldType::ftDate:
     case TFieldType::ftDateTime:

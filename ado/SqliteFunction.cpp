@@ -1,6 +1,7 @@
 #include "SqliteFunction.h"
 
 #include "SqliteValue.h"
+#include "Utf8Text.h"
 
 namespace {
 
@@ -61,7 +62,7 @@ QVariant ArgumentValue(sqlite3_value* value)
         return sqlite3_value_double(value);
     case SQLITE_TEXT: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-        return SqliteText(text, sqlite3_value_bytes(value));
+        return TextOfUtf8(text, sqlite3_value_bytes(value));
     }
     case SQLITE_BLOB: {
         const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));

@@ -129,9 +129,11 @@ double TSqliteRows::Double(int column)
 
 QString TSqliteRows::Text(int column)
 {
-    const QString text = SqliteColumnText(handle_, column);
-    const bool decimal = column < columns_.size() && columns_[column].Type == TFieldType::ftBCD;
-    return decimal ? CanonicalDecimal(text) : text;
+    QString text = SqliteColumnText(handle_, column);
+    const bool decimal = column < columns_.size() && columns_.at(column).Type == TFieldType::ftBCD;
+    if (decimal && !IsCanonicalDecimal(text))
+        return CanonicalDecimal(text);
+    return text;
 }
 
 QByteArray TSqliteRows::Blob(int column)
@@ -144,7 +146,7 @@ QVariant TSqliteRows::Value(int column)
     const int storageClass = sqlite3_column_type(handle_, column);
     if (storageClass == SQLITE_NULL)
         return {};
-    const TFieldType type = columns_[column].Type;
+    const TFieldType type = columns_.at(column).Type;
     switch (type) {
     case TFieldType::ftBoolean:
     case TFieldType::ftInteger:

@@ -1,12 +1,11 @@
 #include "SqliteValue.h"
 
 #include "SqliteError.h"
+#include "Utf8Text.h"
 
 #include <QDateTime>
 
 namespace {
-
-constexpr QByteArrayView Utf8ByteOrderMark("\xEF\xBB\xBF");
 
 int BindText(sqlite3_stmt* statement, int index, const QString& text)
 {
@@ -62,23 +61,12 @@ int Bind(sqlite3_stmt* statement, int index, const QVariant& value)
 
 } // namespace
 
-QString SqliteText(const char* text, int bytes)
-{
-    const QByteArrayView view(text, bytes);
-    if (view.isEmpty())
-        return QString(QLatin1StringView(""));
-    // Qt takes a byte order mark at the beginning for a mark; here it is a character.
-    if (view.startsWith(Utf8ByteOrderMark))
-        return QChar(QChar::ByteOrderMark) + QString::fromUtf8(view);
-    return QString::fromUtf8(view);
-}
-
 QString SqliteColumnText(sqlite3_stmt* statement, int column)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
     if (text == nullptr)
         return {};
-    return SqliteText(text, sqlite3_column_bytes(statement, column));
+    return TextOfUtf8(text, sqlite3_column_bytes(statement, column));
 }
 
 QByteArray SqliteColumnBlob(sqlite3_stmt* statement, int column)

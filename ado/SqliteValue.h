@@ -4,8 +4,6 @@
 #include <QVariant>
 #include <sqlite3.h>
 
-/// UTF-8 of SQLite as text; empty but not null for no characters.
-QString SqliteText(const char* text, int bytes);
 /// The text of a column of the current row.
 QString SqliteColumnText(sqlite3_stmt* statement, int column);
 /// The bytes of a column of the current row; empty but not null for a value without bytes.

@@ -29,6 +29,10 @@ void DecimalTextTest::aNumberHasOneSpelling_data()
     row("-.50", "-0.5");
     row("007.070", "7.07");
     row("100", "100");
+    row("10.01", "10.01");
+    row("0.5", "0.5");
+    row("00", "0");
+    row("-12.75", "-12.75");
     row("922337203685477.5807", "922337203685477.5807");
     row("-922337203685477.5808", "-922337203685477.5808");
     row("1000000000000000000000000000000000000.000", "1000000000000000000000000000000000000");
@@ -39,6 +43,7 @@ void DecimalTextTest::aNumberHasOneSpelling()
     QFETCH(QString, spelling);
     const QString text = QString::fromLatin1(QTest::currentDataTag());
     QVERIFY(IsDecimal(text));
+    QCOMPARE(IsCanonicalDecimal(text), text == spelling);
     QCOMPARE(CanonicalDecimal(text), spelling);
 }
 
@@ -54,6 +59,7 @@ void DecimalTextTest::whatIsNoNumberStays()
 {
     QFETCH(QString, text);
     QVERIFY(!IsDecimal(text));
+    QVERIFY(!IsCanonicalDecimal(text));
     QCOMPARE(CanonicalDecimal(text), text);
 }
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <QElapsedTimer>
+#include <string>
+#include <vector>
+
+/// One way of doing the work that a comparison measures.
+struct TContender
+{
+    std::string Name;
+    /// Does the work once and returns a checksum, which must be equal for all contenders.
+    std::function<qint64()> Work;
+};
+
+/// Runs the contenders in turn, so that a slow moment of the machine strikes all of them, and prints the
+/// median, the fastest and the ratio of medians to the first contender. False when the checksums differ.
+inline bool Compare(const char* title, int repetitions, double unitsPerRun, const char* unit,
+                    const std::vector<TContender>& contenders)
+{
+    std::vector<std::vector<double>> times(contenders.size());
+    std::vector<qint64> checksums(contenders.size());
+    for (int repetition = -1; repetition < repetitions; ++repetition) {
+        for (std::size_t i = 0; i < contenders.size(); ++i) {
+            QElapsedTimer timer;
+            timer.start();
+            checksums[i] = contenders[i].Work();
+            // The first round warms the caches.
+            if (repetition >= 0)
+                times[i].push_back(static_cast<double>(timer.nsecsElapsed()) / unitsPerRun);
+        }
+    }
+    std::printf("\n%s (median of %d, %s)\n", title, repetitions, unit);
+    double reference = 0;
+    bool equal = true;
+    for (std::size_t i = 0; i < contenders.size(); ++i) {
+        std::sort(times[i].begin(), times[i].end());
+        const double median = times[i][times[i].size() / 2];
+        if (i == 0)
+            reference = median;
+        equal = equal && checksums[i] == checksums[0];
+        std::printf("  %-44s %12.1f   fastest %12.1f   ratio %5.2f\n", contenders[i].Name.c_str(), median,
+                    times[i].front(), median / reference);
+    }
+    if (!equal)
+        std::printf("  the contenders did not do the same work: the checksums differ\n");
+    return equal;
+}
