@@ -110,8 +110,9 @@ QString TextOfUtf8(const char* bytes, qsizetype count)
     auto* begin = reinterpret_cast<char16_t*>(text.data());
     const char16_t* end = TDecoder(bytes, count, begin).Run();
     if (end == nullptr) {
-        // Stateless would swallow a byte order mark.
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        // The mark is converted to a character, and a character cut off at the end to a replacement.
+        using enum QStringConverter::Flag;
+        QStringDecoder decoder(QStringDecoder::Utf8, Stateless | ConvertInitialBom);
         return decoder.decode(QByteArrayView(bytes, count));
     }
     text.resize(end - begin);

@@ -226,7 +226,7 @@ void StatementsTest::aFunctionAnswersWithinStatements()
         QStringLiteral("TwoTimes"), 1, [](IFunctionContext&, const QVariantList& arguments) {
             return arguments[0].isValid() ? QVariant(arguments[0].toLongLong() * 2) : QVariant();
         });
-    QCOMPARE(Column(QStringLiteral("SELECT dbo_twotimes(Stock) FROM Goods ORDER BY Code")).first(),
+    QCOMPARE(Column(QStringLiteral("SELECT dbo.TwoTimes(Stock) FROM Goods ORDER BY Code")).first(),
              QVariant(qint64(10)));
 }
 
@@ -237,7 +237,7 @@ void StatementsTest::aFunctionReadsTheSameDatabase()
             const QVariantList names = context.FirstColumn("SELECT Name FROM Goods WHERE Code = ?", codes);
             return names.isEmpty() ? QVariant() : names.first();
         });
-    QCOMPARE(Column(QStringLiteral("SELECT dbo_nameof(Code) FROM Goods ORDER BY Code")),
+    QCOMPARE(Column(QStringLiteral("SELECT dbo.NameOf(Code) FROM Goods ORDER BY Code")),
              (QVariantList{QStringLiteral("مداد"), QStringLiteral("خودکار"), QStringLiteral("دفتر")}));
 }
 
@@ -247,7 +247,7 @@ void StatementsTest::aFunctionsErrorIsTheStatementsError()
                               [](IFunctionContext& context, const QVariantList&) -> QVariant {
                                   return context.FirstColumn("SELECT Code FROM nowhere", {});
                               });
-    const EADOError error = ErrorOf([&] { engine_->Execute(QStringLiteral("SELECT dbo_broken()"), {}); });
+    const EADOError error = ErrorOf([&] { engine_->Execute(QStringLiteral("SELECT dbo.Broken()"), {}); });
     QVERIFY2(error.ServerMessage().contains(QStringLiteral("nowhere")), qPrintable(error.ServerMessage()));
     QCOMPARE(Column(QStringLiteral("SELECT Code FROM Goods WHERE Code = 2")), QVariantList{2});
 }
@@ -259,7 +259,7 @@ void StatementsTest::aFunctionTakesAndGivesEveryKindOfValue()
     const QVariantList values{qint64(5),        2.5,       QStringLiteral("متن"), QStringLiteral(""),
                               QByteArray("ab"), QVariant()};
     for (const QVariant& value : values)
-        QCOMPARE(Column(QStringLiteral("SELECT dbo_same(?)"), {value}), QVariantList{value});
+        QCOMPARE(Column(QStringLiteral("SELECT dbo.Same(?)"), {value}), QVariantList{value});
 }
 
 QTEST_APPLESS_MAIN(StatementsTest)
