@@ -15,6 +15,8 @@ namespace {
 
 constexpr int KeyWidth = 13 * Look::Unit;
 constexpr int KeyHeight = 9 * Look::Unit;
+constexpr int KeyFontSize = 16;
+constexpr int NumberFontSize = 20;
 
 QLabel* MakeLine(const QFont& font, QWidget* parent)
 {
@@ -64,7 +66,7 @@ QWidget* TCalculatorPopup::MakeDisplay()
     lines->setContentsMargins(Look::Unit, 0, Look::Unit, 0);
     lines->setSpacing(0);
     QFont large = Look::BoldFont();
-    large.setPixelSize(20);
+    large.setPixelSize(NumberFontSize);
     pending_ = MakeLine(Look::SmallFont(), display);
     number_ = MakeLine(large, display);
     number_->setObjectName(QStringLiteral("Number"));
@@ -87,6 +89,9 @@ void TCalculatorPopup::AddKey(QGridLayout& grid, int row, int column, const QStr
     key->setFocusPolicy(Qt::NoFocus);
     key->setFixedHeight(KeyHeight);
     key->setMinimumWidth(KeyWidth);
+    QFont font = Look::BodyFont();
+    font.setPixelSize(KeyFontSize);
+    key->setFont(font);
     key->setAccessibleName(name);
     key->setToolTip(name);
     connect(key, &QPushButton::clicked, this, std::move(press));

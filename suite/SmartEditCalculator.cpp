@@ -64,9 +64,10 @@ QString TSmartEdit_TRV::TPrivate::TakeResult(const QString& result)
             .arg(PersianText::PersianDigits(QString::number(maxLength)));
     const long double value = DecimalText::ToValue(rounded);
     if (IsBounded() && (value < minValue || value > maxValue))
-        return QStringLiteral("این کادر عددی از %1 تا %2 می‌خواهد؛ حاصل بیرون از "
-                              "آن "
-                              "است.")
+        return QStringLiteral(
+                   "این کادر عددی از %1 تا %2 می‌خواهد؛ حاصل بیرون از "
+                   "آن "
+                   "است.")
             .arg(DecimalText::Grouped(DecimalText::FromValue(minValue, Decimals())),
                  DecimalText::Grouped(DecimalText::FromValue(maxValue, Decimals())));
     Edit([&rounded](TNumberText& text) {

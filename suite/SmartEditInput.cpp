@@ -47,20 +47,24 @@ QString RefusalOf(TNumberText::TTaken taken, const TNumberRules& rules)
                               "بچسبانید.")
             .arg(PersianCount(rules.maxDigits));
     case TNumberText::TTaken::TooManyDecimals:
-        return rules.decimals == 0 ? QStringLiteral("این کادر عدد بدون اعشار می‌خواهد؛ عدد را گرد "
-                                                    "کنید "
-                                                    "و "
-                                                    "دوباره بچسبانید.")
-                                   : QStringLiteral("این کادر تا %1 رقم اعشار می‌پذیرد؛ عدد را گرد "
-                                                    "کنید "
-                                                    "و "
-                                                    "دوباره بچسبانید.")
-                                         .arg(PersianCount(rules.decimals));
+        return rules.decimals == 0
+                   ? QStringLiteral(
+                         "این کادر عدد بدون اعشار می‌خواهد؛ عدد را گرد "
+                         "کنید "
+                         "و "
+                         "دوباره بچسبانید.")
+                   : QStringLiteral(
+                         "این کادر تا %1 رقم اعشار می‌پذیرد؛ عدد را گرد "
+                         "کنید "
+                         "و "
+                         "دوباره بچسبانید.")
+                         .arg(PersianCount(rules.decimals));
     default:
-        return QStringLiteral("این عدد با آنچه در کادر هست جور نمی‌شود؛ همهٔ کادر را انتخاب کنید "
-                              "و "
-                              "دوباره "
-                              "بچسبانید.");
+        return QStringLiteral(
+            "این عدد با آنچه در کادر هست جور نمی‌شود؛ همهٔ کادر را انتخاب کنید "
+            "و "
+            "دوباره "
+            "بچسبانید.");
     }
 }
 
@@ -186,10 +190,13 @@ bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
     QString found;
     switch (DecimalText::Find(text, found)) {
     case DecimalText::TFinding::Nothing:
-        Balloon::Show(edit, QStringLiteral("در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید "
-                                           "و "
-                                           "دوباره "
-                                           "بچسبانید."));
+        Balloon::Show(
+            edit,
+            QStringLiteral(
+                "در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید "
+                "و "
+                "دوباره "
+                "بچسبانید."));
         return false;
     case DecimalText::TFinding::Several:
         Balloon::Show(

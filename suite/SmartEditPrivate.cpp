@@ -2,6 +2,7 @@
 
 #include "Balloon.h"
 #include "DecimalText.h"
+#include "Look.h"
 #include "PersianText.h"
 
 #include <QPointer>
@@ -62,6 +63,26 @@ void TSmartEdit_TRV::TPrivate::ShowNumber()
         writingLine = false;
     }
     edit->setCursorPosition(number.Caret());
+    ShowSign();
+}
+
+// The toolkit paints a line's text in the palette's colour and in no other.
+void TSmartEdit_TRV::TPrivate::ShowSign()
+{
+    if (!IsNegative()) {
+        if (const std::optional<QPalette> plain = std::exchange(plainPalette, std::nullopt))
+            edit->setPalette(*plain);
+        return;
+    }
+    const QColor wrong = Look::Color(Look::TRole::Wrong);
+    if (plainPalette && edit->palette().color(QPalette::Active, QPalette::Text) == wrong)
+        return;
+    if (!plainPalette)
+        plainPalette = edit->palette();
+    QPalette palette = edit->palette();
+    palette.setColor(QPalette::Active, QPalette::Text, wrong);
+    palette.setColor(QPalette::Inactive, QPalette::Text, wrong);
+    edit->setPalette(palette);
 }
 
 // The line was changed by its own editing, or by somebody who knows it only as the toolkit's line edit.

@@ -4,6 +4,8 @@
 #include "SmartEdit_TRV.h"
 
 #include <functional>
+#include <optional>
+#include <QPalette>
 #include <QTimer>
 
 class QAction;
@@ -26,6 +28,7 @@ struct TSmartEdit_TRV::TPrivate
     QString CodeNumber(const QString& text) const;
     void SetText(const QString& text);
     void ShowNumber();
+    void ShowSign();
     void LineChanged(const QString& line);
     void TextMayHaveChanged(bool byUser);
     void AnnounceValue();
@@ -80,5 +83,6 @@ struct TSmartEdit_TRV::TPrivate
     bool lineByUser = false;  // the line's change in progress is the user's
     bool typedSinceEnter = false;
     bool error = false;
+    std::optional<QPalette> plainPalette; // while a negative number is shown in its own colour
     QAction* calculatorButton = nullptr;
 };

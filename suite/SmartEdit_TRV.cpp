@@ -15,7 +15,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPointer>
-#include <QStyleOptionFrame>
 
 namespace {
 
@@ -47,6 +46,7 @@ void TSmartEdit_TRV::SetEditType(TEditType type)
     setInputMethodHints(type == etString ? Qt::ImhNone : Qt::ImhFormattedNumbersOnly);
     d->RefreshCalculatorButton();
     d->SetText(text);
+    d->ShowSign();
 }
 
 TSmartEdit_TRV::TValueType TSmartEdit_TRV::ValueType() const
@@ -306,15 +306,10 @@ void TSmartEdit_TRV::dropEvent(QDropEvent* event)
 void TSmartEdit_TRV::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
+        d->ShowSign();
         d->RefreshCalculatorButton();
-}
-
-void TSmartEdit_TRV::initStyleOption(QStyleOptionFrame* option) const
-{
-    QLineEdit::initStyleOption(option);
-    if (d->IsNegative() && isEnabled())
-        option->palette.setColor(QPalette::Text, Look::Color(Look::TRole::Wrong));
+    }
 }
 
 void TSmartEdit_TRV::paintEvent(QPaintEvent* event)

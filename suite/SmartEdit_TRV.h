@@ -104,7 +104,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void initStyleOption(QStyleOptionFrame* option) const override;
 
 private:
     struct TPrivate;
