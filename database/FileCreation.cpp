@@ -71,6 +71,11 @@ void Build(const QString& path, const TDatabaseOptions& options)
         RefuseFolder(path);
     connection.Open();
     CreateSampleDatabase(connection, options.Size, options.Progress);
+    connection.Close();
+    // A full disk may have kept the end of the write-ahead log from reaching the file.
+    if (QFile::exists(path + QStringLiteral("-wal")) ||
+        FileHeader::Examine(path) != FileHeader::TVerdict::Good)
+        RefuseFolder(path);
 }
 
 } // namespace

@@ -65,7 +65,6 @@ TSampleSize TSampleSize::Large()
     size.Goods = 100000;
     size.Persons = 20000;
     size.VouchersPerYear = 5000;
-    size.FiscalYears = 4;
     return size;
 }
 

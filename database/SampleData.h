@@ -13,7 +13,7 @@ struct DATABASE_EXPORT TSampleSize
     int Goods = 2000;
     int Persons = 500;
     int VouchersPerYear = 400;
-    int FiscalYears = 3;      ///< 1 to 4, the first one is 1402
+    int FiscalYears = 4;      ///< 1 to 4, the first one is 1402
     int PicturedRecords = 40; ///< goods and persons, each, that have pictures
 
     static TSampleSize Small();  ///< for tests: made in a blink

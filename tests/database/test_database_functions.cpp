@@ -1,7 +1,10 @@
 #include "DatabaseFunctions.h"
+#include "DatabaseSchema.h"
 #include "TestDatabase.h"
 
 #include <QDateTime>
+#include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 /// The database functions on the embedded engine.
@@ -10,6 +13,7 @@ class TDatabaseFunctionsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theScriptDefinesTheRegisteredFunctions();
     void anExpenseCenterIsNamedByItsCode_data();
     void anExpenseCenterIsNamedByItsCode();
     void theNextUniqueCodeIsFreeOfItsKind_data();
@@ -27,6 +31,24 @@ private:
         return database.Value(QStringLiteral("SELECT dbo.%1 AS value").arg(call));
     }
 };
+
+void TDatabaseFunctionsTest::theScriptDefinesTheRegisteredFunctions()
+{
+    QFile script(QStringLiteral(":/database/functions.sql"));
+    QVERIFY(script.open(QIODevice::ReadOnly));
+    static const QRegularExpression definition(
+        QStringLiteral("^CREATE OR ALTER FUNCTION dbo\\.(\\w+) \\(([^)]*)\\)"));
+    const std::unique_ptr<TTestDatabase> database = TTestDatabase::Empty();
+    const QStringList batches = DatabaseSchema::Batches(QString::fromUtf8(script.readAll()));
+    QCOMPARE(batches.size(), 3);
+    for (const QString& batch : batches) {
+        const QRegularExpressionMatch match = definition.match(batch);
+        QVERIFY2(match.hasMatch(), qPrintable(batch));
+        const QStringList nulls(match.captured(2).count(u'@'), QStringLiteral("NULL"));
+        // Throws where the embedded engine does not know the function with as many arguments.
+        Call(*database, match.captured(1) + u'(' + nulls.join(u',') + u')');
+    }
+}
 
 void TDatabaseFunctionsTest::anExpenseCenterIsNamedByItsCode_data()
 {
