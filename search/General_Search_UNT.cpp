@@ -109,13 +109,12 @@ void TGeneral_Search_Frame::Clear()
     TarvaSearch_General->SetActive(false);
     TarvaSearch_General->SetValue1(QString());
     SettPrimValue = true;
-    InProc = false;
     Search_EDT->Clear();
     Search_Reverst_CHK->SetChecked(false);
     SearchDigit_EDT->Clear();
     SearchCost_EDT->Clear();
     SettPrimValue = false;
-    FFilter_is_done = true;
+    ForgetKeystrokes();
     Search_CMB->SetItemIndex(TarvaSearch_General->ItemIndex());
     TarvaSearch_General->SetActive(true);
 }
@@ -265,10 +264,16 @@ void TGeneral_Search_Frame::ResetEdit(TSmartEdit_TRV* edit, const TSearchItem& i
         if (item.MaxLength > 0)
             edit->SetMaxLength(item.MaxLength);
     }
-    // A value that was typed for the item before must not be applied to this one.
+    ForgetKeystrokes();
+    SettPrimValue = wasFenced;
+}
+
+void TGeneral_Search_Frame::ForgetKeystrokes()
+{
+    for (const TMessage message : {EditChangeMessage, CostChangeMessage, DigitChangeMessage})
+        QCoreApplication::removePostedEvents(this, message);
     InProc = false;
     FFilter_is_done = true;
-    SettPrimValue = wasFenced;
 }
 
 void TGeneral_Search_Frame::ShowEdit(TSmartEdit_TRV* shown)

@@ -77,6 +77,8 @@ private:
 
     void ShowEdit(TSmartEdit_TRV* shown);
     void ResetEdit(TSmartEdit_TRV* edit, const TSearchItem& item);
+    /// What was typed before the edits were emptied must not reach the criterion any more.
+    void ForgetKeystrokes();
     void ShowValue(TSmartEdit_TRV* edit, const QString& text);
 
     void DelayedFiltering(TMessage message);
