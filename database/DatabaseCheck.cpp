@@ -1,6 +1,7 @@
 #include "DatabaseCheck.h"
 
 #include "ADOConnection.h"
+#include "AdoError.h"
 
 namespace {
 
@@ -8,6 +9,14 @@ qint64 Count(TADOConnection& connection, const QString& statement)
 {
     const std::unique_ptr<IEngineRows> rows = connection.Run(statement);
     return rows->Next() ? rows->Int64(0) : 0;
+}
+
+QVariant IntegrityReport(IFunctionContext& context, const QVariantList&)
+{
+    QStringList lines;
+    for (const QVariant& line : context.FirstColumn("PRAGMA integrity_check", {}))
+        lines.append(line.toString());
+    return lines.join(u'\n');
 }
 
 /// A tags column is NULL, or codes each followed by a comma with one more comma in front.
@@ -67,6 +76,22 @@ QStringList DatabaseCheck::FindDamage(TADOConnection& connection)
             result.append(QStringLiteral("«%1» در %2 مورد برقرار نیست.").arg(rule.Title).arg(breaches));
     }
     return result;
+}
+
+QStringList DatabaseCheck::FindDamagedPages(TADOConnection& connection)
+{
+    connection.RegisterFunction(QStringLiteral("FindDamagedPages"), 0, IntegrityReport);
+    try {
+        const std::unique_ptr<IEngineRows> rows =
+            connection.Run(QStringLiteral("SELECT dbo.FindDamagedPages() AS damage"));
+        const QString damage = rows->Next() ? rows->Text(0) : QString();
+        return damage == u"ok" ? QStringList() : damage.split(u'\n');
+    } catch (const EADOError& error) {
+        // Damage to the pages that tell where tables stand keeps even the report from being made.
+        if (error.Kind() == TAdoErrorKind::Busy || error.Kind() == TAdoErrorKind::Cancelled)
+            throw;
+        return {error.ServerMessage()};
+    }
 }
 
 qint64 DatabaseCheck::RowCount(TADOConnection& connection, const QString& table)

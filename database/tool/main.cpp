@@ -114,6 +114,11 @@ int Check(const QString& file)
     options.CreateMissing = false;
     TADOConnection connection;
     OpenDatabase(connection, QStringLiteral("sqlite:") + file, options);
+    const QStringList damagedPages = DatabaseCheck::FindDamagedPages(connection);
+    for (const QString& sentence : damagedPages)
+        Out() << sentence << Qt::endl;
+    if (!damagedPages.isEmpty())
+        return Failed;
     const QStringList damage = DatabaseCheck::FindDamage(connection);
     for (const QString& sentence : damage)
         Out() << sentence << Qt::endl;

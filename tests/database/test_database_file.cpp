@@ -33,7 +33,9 @@ private Q_SLOTS:
     void aFolderThatTakesNoFilesIsRefused();
     void abandoningLeavesNothingBehind();
     void whatADeadProgramLeftBehindIsClearedAway();
+    void aKilledProgramLeavesNoHalfMadeFile();
     void severalProgramsMakeTheSameFileOnce();
+    void damageInsideAFileIsFound();
     void aDatabaseInMemoryIsMadeAndFilled();
     void theMakersStatementsAreNotAnnounced();
     void aServerWithoutTheTablesIsRefusedWithTheScriptsName();
@@ -278,6 +280,41 @@ void TDatabaseFileTest::whatADeadProgramLeftBehindIsClearedAway()
     WriteBytes(Path(QStringLiteral("a.db.new-letter")), QByteArray("a file of the user's"));
     QCOMPARE(Refusal(SqliteString(Path(QStringLiteral("a.db")))), QString());
     QCOMPARE(Entries(), QStringList({QStringLiteral("a.db"), QStringLiteral("a.db.new-letter")}));
+}
+
+void TDatabaseFileTest::aKilledProgramLeavesNoHalfMadeFile()
+{
+    const QString path = Path(QStringLiteral("a.db"));
+    QProcess program;
+    program.start(QStringLiteral(DATABASE_TOOL),
+                  {QStringLiteral("create"), path, QStringLiteral("--goods"), QStringLiteral("500000")});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        !QDir(folder_->path()).entryList({QStringLiteral("a.db.new-*")}, QDir::Dirs).isEmpty(), 30000);
+    QTest::qWait(200);
+    QCOMPARE(program.state(), QProcess::Running);
+    program.kill();
+    QVERIFY(program.waitForFinished(30000));
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(Refusal(SqliteString(path)), QString());
+    QCOMPARE(Entries(), QStringList(QStringLiteral("a.db")));
+}
+
+void TDatabaseFileTest::damageInsideAFileIsFound()
+{
+    const QString path = Path(QStringLiteral("a.db"));
+    WriteBytes(path, sample_);
+    {
+        TADOConnection connection;
+        OpenDatabase(connection, SqliteString(path), SmallOptions());
+        QCOMPARE(DatabaseCheck::FindDamagedPages(connection), QStringList());
+    }
+    // The indexes are made last.
+    QByteArray damaged = sample_;
+    damaged.replace(damaged.size() - 40960, 4096, QByteArray(4096, 'x'));
+    WriteBytes(path, damaged);
+    TADOConnection connection;
+    OpenDatabase(connection, SqliteString(path), SmallOptions());
+    QVERIFY(!DatabaseCheck::FindDamagedPages(connection).isEmpty());
 }
 
 void TDatabaseFileTest::severalProgramsMakeTheSameFileOnce()
