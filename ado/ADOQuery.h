@@ -14,7 +14,7 @@ public:
     void Clear() { lines_.clear(); }
     void Add(const QString& line) { lines_.append(line); }
     void SetText(const QString& text) { lines_ = QStringList{text}; }
-    QString Text() const { return lines_.join(QStringLiteral("\r\n")); }
+    QString Text() const { return lines_.size() == 1 ? lines_.front() : lines_.join(QStringLiteral("\r\n")); }
 
 private:
     QStringList lines_;

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <functional>
-#include <QElapsedTimer>
+#include <QtGlobal>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,9 @@ struct TContender
     std::function<qint64()> Work;
 };
 
-/// Runs the contenders in turn, so that a slow moment of the machine strikes all of them, and prints the
-/// median, the fastest and the ratio of medians to the first contender. False when the checksums differ.
+/// Takes processor time, which other programs disturb least. Runs the contenders in turn, so that a slow
+/// moment of the machine strikes all of them, and prints the median, the fastest and the ratio of medians to
+/// the first contender. False when the checksums differ.
 inline bool Compare(const char* title, int repetitions, double unitsPerRun, const char* unit,
                     const std::vector<TContender>& contenders)
 {
@@ -24,12 +26,12 @@ inline bool Compare(const char* title, int repetitions, double unitsPerRun, cons
     std::vector<qint64> checksums(contenders.size());
     for (int repetition = -1; repetition < repetitions; ++repetition) {
         for (std::size_t i = 0; i < contenders.size(); ++i) {
-            QElapsedTimer timer;
-            timer.start();
+            const std::clock_t start = std::clock();
             checksums[i] = contenders[i].Work();
+            const double nanoseconds = static_cast<double>(std::clock() - start) * 1e9 / CLOCKS_PER_SEC;
             // The first round warms the caches.
             if (repetition >= 0)
-                times[i].push_back(static_cast<double>(timer.nsecsElapsed()) / unitsPerRun);
+                times[i].push_back(nanoseconds / unitsPerRun);
         }
     }
     std::printf("\n%s (median of %d, %s)\n", title, repetitions, unit);

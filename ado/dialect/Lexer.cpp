@@ -265,7 +265,7 @@ private:
         while (!AtEnd() && ContinuesWord(At()))
             ++position_;
         TToken token = Token(TTokenKind::Word, start);
-        if (token.Raw.front() == u'@')
+        if (token.Raw.startsWith(u'@'))
             token.Kind = TTokenKind::Variable;
         else
             token.Keyword = KeywordOf(token.Raw);
