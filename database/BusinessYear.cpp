@@ -1,12 +1,13 @@
 #include "BusinessYear.h"
 
+#include "DatabaseSchema.h"
 #include "SampleCalendar.h"
 #include "SampleContext.h"
 
 namespace {
 
 constexpr quint64 OperationStream = 40;
-constexpr int UniqueCodeOfPersons = 1000000;
+constexpr int PersonDetailKind = 1;
 constexpr int ValueAddedTaxPercent = 10;
 /// Days of the open year that have passed: up to the end of the seventh month.
 constexpr int DaysOfOpenYear = 216;
@@ -244,7 +245,7 @@ TVoucher TBusinessYear::Sundry(TSampleRandom& random) const
         voucher.Credit({102, 1, asset}, amount, QStringLiteral("تسویه فروش دارایی"));
     } else {
         // A unique code names the person whatever kind of account he has.
-        const int person = UniqueCodeOfPersons + 1 + random.Below(20);
+        const int person = PersonDetailKind * DatabaseSchema::UniqueCodesPerKind + 1 + random.Below(20);
         voucher.Debit({108, 2, person}, amount, QStringLiteral("پرداخت وام"));
         voucher.Credit({102, 1, 1}, amount, QStringLiteral("پرداخت وام"));
     }

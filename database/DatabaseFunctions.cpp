@@ -1,6 +1,7 @@
 #include "DatabaseFunctions.h"
 
 #include "ADOConnection.h"
+#include "DatabaseSchema.h"
 
 #include <QSet>
 #include <QStringList>
@@ -68,8 +69,8 @@ QVariant UniqueCode(IFunctionContext& context, const QVariantList& arguments)
     qint64 kind = 0;
     if (!ReadInteger(arguments.first(), kind) || kind < 0 || kind > 99)
         return qint64(0);
-    const qint64 first = kind * 1000000 + 1;
-    const qint64 last = kind * 1000000 + 999999;
+    const qint64 first = kind * DatabaseSchema::UniqueCodesPerKind + 1;
+    const qint64 last = first + DatabaseSchema::UniqueCodesPerKind - 2;
     const QSet<qint64> locked = LockedUniqueCodes(context);
     const QVariant highest = FirstValue(
         context, "SELECT MAX(UniqueCode) FROM AccDetails WHERE UniqueCode BETWEEN ? AND ?", {first, last});

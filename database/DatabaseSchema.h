@@ -13,6 +13,9 @@ constexpr int Version = 1;
 /// What the header of an embedded database carries, so that a foreign file is recognised.
 constexpr quint32 ApplicationId = 0x42465047;
 
+/// Every kind of detail account has as many unique codes, beginning behind the kind times this number.
+constexpr int UniqueCodesPerKind = 1000000;
+
 /// The statements of a script, cut at the lines that hold nothing but GO, without lines that are comments
 /// only.
 DATABASE_EXPORT QStringList Batches(const QString& script);

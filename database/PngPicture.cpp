@@ -51,8 +51,9 @@ TPixel Mean(int size, int column, int row, const PngPicture::TPainter& painter)
 {
     TPixel sum;
     for (int sample = 0; sample < SamplesPerSide * SamplesPerSide; ++sample) {
+        const int line = sample / SamplesPerSide;
         const double x = (column + (sample % SamplesPerSide + 0.5) / SamplesPerSide) / size;
-        const double y = (row + (sample / SamplesPerSide + 0.5) / SamplesPerSide) / size;
+        const double y = (row + (line + 0.5) / SamplesPerSide) / size;
         const TPixel pixel = painter(x, y);
         sum.Red += pixel.Red * pixel.Alpha;
         sum.Green += pixel.Green * pixel.Alpha;

@@ -1,11 +1,9 @@
+#include "DatabaseSchema.h"
 #include "RowWriter.h"
 #include "SampleContext.h"
 #include "Vocabulary.h"
 
 namespace {
-
-/// Each kind of detail account has a million unique codes, as dbo.GetUinqueCode_FNC gives them out.
-constexpr int UniqueCodesPerKind = 1000000;
 
 /// A kind of detail account and the section of fixed.txt whose Code and Name columns make its accounts.
 struct TDetailSource
@@ -70,7 +68,7 @@ void InsertDetails(TSampleContext& context)
         for (const QStringList& row : rows) {
             const QVariant currencyCode = currency < 0 ? QVariant() : QVariant(row.at(currency));
             writer.Add({source.Kind, row.at(0), row.at(1), currencyCode,
-                        source.Kind * UniqueCodesPerKind + row.at(0).toInt()});
+                        source.Kind * DatabaseSchema::UniqueCodesPerKind + row.at(0).toInt()});
         }
     }
     writer.Flush();

@@ -1,3 +1,4 @@
+#include "DatabaseSchema.h"
 #include "GoodsMaker.h"
 #include "NationalCode.h"
 #include "PersianSpelling.h"
@@ -10,7 +11,6 @@ namespace {
 
 constexpr quint64 PersonStream = 30;
 constexpr int PersonDetailKind = 1;
-constexpr int UniqueCodesPerKind = 1000000;
 
 struct TPerson
 {
@@ -134,8 +134,8 @@ void SampleParts::FillPersons(TSampleContext& context)
         persons.Add({code, person.Name, person.FullName, person.NationalCode, person.Phone, person.City,
                      person.Address, person.GroupCode,
                      person.Tags.isEmpty() ? QVariant() : QVariant(person.Tags), person.Active});
-        details.Add({PersonDetailKind, code, person.FullName, PersonDetailKind * UniqueCodesPerKind + code,
-                     person.Active});
+        details.Add({PersonDetailKind, code, person.FullName,
+                     PersonDetailKind * DatabaseSchema::UniqueCodesPerKind + code, person.Active});
         categoryOfPerson.append(person.CategoryId);
         context.Progress.Advance();
     }
