@@ -187,11 +187,8 @@ void TLookStyle::drawControl(ControlElement element, const QStyleOption* option,
         return;
     }
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (item != nullptr && element == CE_MenuItem && TMnemonicText::Parse(item->text).BreaksJoining()) {
-        // Menus paint their texts past drawItemText; the letter works all the same, the word stays joined.
-        QStyleOptionMenuItem whole(*item);
-        whole.text = TMnemonicText::Parse(item->text).Text.replace(u'&', QStringLiteral("&&"));
-        QProxyStyle::drawControl(element, &whole, painter, widget);
+    if (item != nullptr && element == CE_MenuItem && item->menuItemType != QStyleOptionMenuItem::Separator) {
+        DrawMenuItem(*item, painter, widget);
         return;
     }
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
@@ -206,6 +203,32 @@ void TLookStyle::drawControl(ControlElement element, const QStyleOption* option,
     const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     if (element == CE_ShapedFrame && isScrollArea && HasFocus(*option))
         Look::PaintRing(*painter, option->rect, Look::Color(Look::TRole::Accent));
+}
+
+/// The base style paints the captions of menus past drawItemText, and so breaks words at their mnemonic.
+void TLookStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter* painter,
+                              const QWidget* widget) const
+{
+    constexpr int LeastMarkColumn = 27;
+    constexpr int ArrowColumn = 16;
+    const qsizetype tab = item.text.indexOf(u'\t');
+    QStyleOptionMenuItem rest(item);
+    rest.text = tab < 0 ? QString() : item.text.mid(tab);
+    QProxyStyle::drawControl(CE_MenuItem, &rest, painter, widget);
+
+    const int markColumn = qMax(LeastMarkColumn, item.maxIconWidth + Look::Margin);
+    const QRect unturned = item.rect.adjusted(markColumn, 0, -ArrowColumn - item.reservedShortcutWidth, 0);
+    const bool chosen = item.state.testFlag(State_Selected) && item.state.testFlag(State_Enabled);
+    painter->save();
+    QFont font = item.font;
+    font.setBold(font.bold() || item.menuItemType == QStyleOptionMenuItem::DefaultItem);
+    painter->setFont(font);
+    const int flags = static_cast<int>(visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter)) |
+                      Qt::TextShowMnemonic | Qt::TextSingleLine | Qt::TextDontClip;
+    drawItemText(painter, visualRect(item.direction, item.rect, unturned), flags, item.palette,
+                 item.state.testFlag(State_Enabled), tab < 0 ? item.text : item.text.left(tab),
+                 chosen ? QPalette::HighlightedText : QPalette::Text);
+    painter->restore();
 }
 
 /// The base style rings the caption only; here the ring goes around the indicator too.

@@ -31,6 +31,7 @@ public:
     QPalette standardPalette() const override;
 
 private:
+    void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter* painter, const QWidget* widget) const;
     void DrawMarkedButton(ControlElement element, QStyleOptionButton option, QPainter* painter,
                           const QWidget* widget) const;
 };

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void captionsKeepTheirColonAtTheLeft_data();
     void captionsKeepTheirColonAtTheLeft();
     void menuItemKeepsItsColonAtTheLeft();
+    void menuWordStaysJoinedAtItsMnemonic();
     void messageTextKeepsItsColonAtTheLeft();
     void focusedEditShowsTheRing();
     void ringIsSeenOnTheBand();
@@ -229,6 +230,19 @@ void TestLook::menuItemKeepsItsColonAtTheLeft()
     const QImage image = Rendered(menu);
     const QImage inside = image.copy(image.rect().adjusted(4, 4, -4, -4));
     QVERIFY(LeftmostRunWidth(inside) <= ColonWidth);
+}
+
+void TestLook::menuWordStaysJoinedAtItsMnemonic()
+{
+    const auto upperHalf = [](const QString& text) {
+        QMenu menu;
+        menu.addAction(text);
+        menu.resize(menu.sizeHint().width(), menu.sizeHint().height());
+        const QImage image = Rendered(menu);
+        return image.copy(image.width() - 90, 0, 80, image.height() / 2);
+    };
+    QCOMPARE(upperHalf(QStringLiteral("&نباشد")), upperHalf(QStringLiteral("نباشد")));
+    QVERIFY(upperHalf(QStringLiteral("نباشد")) != upperHalf(QStringLiteral("باشد")));
 }
 
 void TestLook::messageTextKeepsItsColonAtTheLeft()
