@@ -59,8 +59,8 @@ void TGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(InkOf(selected, amount && text.startsWith(u'-')));
     // Numbers run from left to right, so that the minus stands before the first digit, at the left.
     const int paragraph = numeric ? Qt::TextForceLeftToRight : Qt::TextForceRightToLeft;
-    painter->drawText(
-        area, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine | paragraph, text);
+    const auto place = static_cast<int>(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    painter->drawText(area, place | paragraph | Qt::TextSingleLine, text);
 }
 
 bool TGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

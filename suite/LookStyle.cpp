@@ -209,7 +209,7 @@ void TLookStyle::drawControl(ControlElement element, const QStyleOption* option,
 void TLookStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter* painter,
                               const QWidget* widget) const
 {
-    constexpr int LeastMarkColumn = 27;
+    constexpr int LeastMarkColumn = 31;
     constexpr int ArrowColumn = 16;
     const qsizetype tab = item.text.indexOf(u'\t');
     QStyleOptionMenuItem rest(item);
