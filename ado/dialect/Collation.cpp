@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
 #include <QChar>
+#include <QList>
 #include <QString>
 
 namespace Dialect {
@@ -138,6 +140,18 @@ void AppendUtf8(std::string& text, char32_t codePoint)
                 static_cast<char>(0x80U | ((codePoint >> static_cast<unsigned>(6 * i)) & 0x3FU));
     }
     text.append(units, static_cast<std::size_t>(length));
+}
+
+std::size_t FindBytes(std::string_view text, std::string_view wanted)
+{
+#ifdef __GLIBC__
+    // Several times as fast as string_view's own search.
+    const void* found = memmem(text.data(), text.size(), wanted.data(), wanted.size());
+    return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text.data())
+                 : std::string_view::npos;
+#else
+    return text.find(wanted);
+#endif
 }
 
 char32_t Folded(char32_t codePoint)

@@ -22,6 +22,9 @@ inline char32_t TakeCodePoint(const unsigned char*& at, const unsigned char* end
 
 void AppendUtf8(std::string& text, char32_t codePoint);
 
+/// Where the bytes stand first; npos when nowhere.
+std::size_t FindBytes(std::string_view text, std::string_view wanted);
+
 /// The code point with its case folded.
 char32_t Folded(char32_t codePoint);
 /// Whether no other code point folds to the same.

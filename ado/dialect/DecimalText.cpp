@@ -8,6 +8,8 @@ namespace Dialect {
 namespace {
 
 constexpr std::size_t MostDigits = 72;
+constexpr std::array<std::uint32_t, 10> PowersOfTen{1,      10,      100,      1000,      10000,
+                                                    100000, 1000000, 10000000, 100000000, 1000000000};
 
 struct TParts
 {
@@ -92,6 +94,21 @@ int CompareDecimals(std::string_view first, std::string_view second)
     if (leftValue != rightValue)
         return leftValue < rightValue ? -1 : 1;
     return Sign(first.compare(second));
+}
+
+bool IsShortestDecimal(std::string_view text, int precision, int scale)
+{
+    if (text == "0")
+        return true;
+    const bool isNegative = text.starts_with('-');
+    const std::optional<TParts> parts = PartsOf(text);
+    if (!parts || parts->Negative != isNegative)
+        return false;
+    const std::size_t whole = std::max<std::size_t>(parts->Whole.size(), 1);
+    const std::size_t fraction = parts->Fraction.empty() ? 0 : parts->Fraction.size() + 1;
+    return text.size() == whole + fraction + (isNegative ? 1 : 0) &&
+           static_cast<int>(parts->Whole.size()) <= precision - scale &&
+           static_cast<int>(parts->Fraction.size()) <= scale;
 }
 
 TDecimal::TDecimal(std::int64_t value) : negative_(value < 0)
@@ -199,8 +216,11 @@ TDecimal TDecimal::Truncated(int places) const
 {
     TDecimal result = *this;
     const int wanted = std::max(places, 0);
-    for (; result.scale_ > wanted; --result.scale_)
-        result.DivideSmall(10);
+    while (result.scale_ > wanted) {
+        const int step = std::min(result.scale_ - wanted, LimbDigits);
+        result.DivideSmall(PowersOfTen[static_cast<std::size_t>(step)]);
+        result.scale_ -= step;
+    }
     for (int place = 0; place > places; --place)
         result.DivideSmall(10);
     for (int place = 0; place > places; --place)
@@ -225,8 +245,11 @@ TDecimal TDecimal::Rounded(int places) const
 
 void TDecimal::ScaleUp(int places)
 {
-    for (; scale_ < places; ++scale_)
-        MultiplySmall(10);
+    while (scale_ < places) {
+        const int step = std::min(places - scale_, LimbDigits);
+        MultiplySmall(PowersOfTen[static_cast<std::size_t>(step)]);
+        scale_ += step;
+    }
 }
 
 void TDecimal::MultiplySmall(std::uint32_t factor)
@@ -306,6 +329,8 @@ TDecimal TDecimal::Times(const TDecimal& other) const
     result.negative_ = negative_ != other.negative_;
     result.scale_ = scale_ + other.scale_;
     for (std::size_t i = 0; i < LimbCount; ++i) {
+        if (limbs_[i] == 0)
+            continue;
         std::uint64_t carry = 0;
         for (std::size_t j = 0; i + j < LimbCount; ++j) {
             carry += result.limbs_[i + j] + static_cast<std::uint64_t>(limbs_[i]) * other.limbs_[j];

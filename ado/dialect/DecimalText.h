@@ -11,6 +11,9 @@ namespace Dialect {
 /// The order of two decimal texts by value; texts that are no plain decimals are read as floating numbers.
 int CompareDecimals(std::string_view first, std::string_view second);
 
+/// Whether the text is the shortest form of its number and fits decimal(precision, scale) as it stands.
+bool IsShortestDecimal(std::string_view text, int precision, int scale);
+
 /// An exact decimal number of up to 72 digits, as money and decimal columns hold it.
 class TDecimal
 {

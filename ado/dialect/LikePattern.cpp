@@ -3,19 +3,14 @@
 #include "Collation.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace Dialect {
 
 namespace {
 
-bool ContainsBytes(std::string_view text, std::string_view wanted)
+std::uint64_t MaskBit(char32_t letter)
 {
-#ifdef __GLIBC__
-    return memmem(text.data(), text.size(), wanted.data(), wanted.size()) != nullptr;
-#else
-    return text.find(wanted) != std::string_view::npos;
-#endif
+    return std::uint64_t{1} << (letter & 63U);
 }
 
 } // namespace
@@ -23,6 +18,8 @@ bool ContainsBytes(std::string_view text, std::string_view wanted)
 TLikePattern::TLikePattern(std::string_view pattern, char32_t escape, bool isBinary) : isBinary_(isBinary)
 {
     Read(pattern, escape);
+    for (TElement& element : elements_)
+        FindMask(element);
     if (shape_ != TShape::Never)
         FindShape();
 }
@@ -55,7 +52,7 @@ void TLikePattern::Read(std::string_view pattern, char32_t escape)
 
 void TLikePattern::AddLetter(char32_t letter)
 {
-    elements_.push_back({TElementKind::Letter, isBinary_ ? letter : Folded(letter)});
+    elements_.push_back({TElementKind::Letter, Key(letter)});
 }
 
 bool TLikePattern::ReadClass(TBytes& at, TBytes end, char32_t escape)
@@ -96,6 +93,35 @@ bool TLikePattern::IsExactLetter(char32_t letter) const
     return isBinary_ || IsCaseless(letter);
 }
 
+char32_t TLikePattern::Key(char32_t letter) const
+{
+    return isBinary_ ? letter : Folded(letter);
+}
+
+void TLikePattern::FindMask(TElement& element) const
+{
+    if (element.Kind == TElementKind::Letter)
+        element.Mask = MaskBit(element.Letter);
+    const bool isList = element.Kind == TElementKind::Class && !element.IsNegated &&
+                        std::all_of(element.Ranges.begin(), element.Ranges.end(),
+                                    [](const TRange& range) { return range.First == range.Last; });
+    if (!isList)
+        return;
+    element.Mask = 0;
+    for (const TRange& range : element.Ranges)
+        element.Mask |= MaskBit(Key(range.First));
+}
+
+TLikePattern::TBytes TLikePattern::NextPossible(TBytes at, TBytes end, const TElement& element) const
+{
+    while (at < end) {
+        const TBytes start = at;
+        if ((element.Mask & MaskBit(Key(TakeCodePoint(at, end)))) != 0)
+            return start;
+    }
+    return end;
+}
+
 void TLikePattern::FindShape()
 {
     const auto isText = [](const TElement& element) { return element.Kind == TElementKind::AnyText; };
@@ -126,7 +152,7 @@ bool TLikePattern::Matches(std::string_view text) const
     case TShape::Suffix:
         return text.ends_with(literal_);
     case TShape::Contains:
-        return ContainsBytes(text, literal_);
+        return FindBytes(text, literal_) != std::string_view::npos;
     case TShape::Never:
         return false;
     case TShape::General:
@@ -147,9 +173,9 @@ bool TLikePattern::MatchesGeneral(TBytes at, TBytes end) const
             return true;
         if (element != elements_.end() && element->Kind == TElementKind::AnyText) {
             retryElement = ++element;
-            retryAt = at;
             if (element == elements_.end())
                 return true;
+            retryAt = at = NextPossible(at, end, *element);
             continue;
         }
         if (element != elements_.end() && at < end) {
@@ -163,7 +189,7 @@ bool TLikePattern::MatchesGeneral(TBytes at, TBytes end) const
         if (!retryAt || retryAt == end)
             return false;
         TakeCodePoint(retryAt, end);
-        at = retryAt;
+        at = retryAt = NextPossible(retryAt, end, *retryElement);
         element = retryElement;
     }
 }
@@ -172,7 +198,7 @@ bool TLikePattern::MatchesOne(const TElement& element, char32_t letter) const
 {
     switch (element.Kind) {
     case TElementKind::Letter:
-        return element.Letter == (isBinary_ ? letter : Folded(letter));
+        return element.Letter == Key(letter);
     case TElementKind::AnyLetter:
         return true;
     case TElementKind::Class:

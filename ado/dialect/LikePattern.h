@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,9 @@ private:
         char32_t Letter = 0;
         bool IsNegated = false;
         std::vector<TRange> Ranges = {};
+        /// Which values of a letter's last six bits can match at all: most letters are passed over by one
+        /// test.
+        std::uint64_t Mask = ~std::uint64_t{0};
     };
 
     using TBytes = const unsigned char*;
@@ -47,10 +51,13 @@ private:
     bool ReadClass(TBytes& at, TBytes end, char32_t escape);
     void AddLetter(char32_t letter);
     void FindShape();
+    void FindMask(TElement& element) const;
+    TBytes NextPossible(TBytes at, TBytes end, const TElement& element) const;
     bool MatchesGeneral(TBytes at, TBytes end) const;
     bool MatchesOne(const TElement& element, char32_t letter) const;
     bool IsInRange(const TRange& range, char32_t letter) const;
     bool IsExactLetter(char32_t letter) const;
+    char32_t Key(char32_t letter) const;
 
     bool isBinary_;
     TShape shape_ = TShape::General;

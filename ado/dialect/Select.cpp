@@ -22,7 +22,8 @@ TSelectText TSelect::Whole()
                 QLatin1String("SELECT * FROM (") + part.Sql + QLatin1String(" LIMIT ") + next.top_ + u')';
         Combine(whole, combination, part);
     }
-    whole.Sql += Order(whole) + Limit();
+    whole.Sql += Order(whole);
+    whole.Sql += Limit();
     return whole;
 }
 

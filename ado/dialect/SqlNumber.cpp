@@ -112,6 +112,13 @@ void Decimal(sqlite3_context* context, int count, sqlite3_value** values)
 {
     if (IsNull(values[0]))
         return;
+    const bool isReady =
+        count > 1 && sqlite3_value_type(values[0]) == SQLITE_TEXT &&
+        IsShortestDecimal(TextOf(values[0]), sqlite3_value_int(values[1]), sqlite3_value_int(values[2]));
+    if (isReady) {
+        sqlite3_result_value(context, values[0]);
+        return;
+    }
     std::optional<TDecimal> decimal = DecimalOf(context, values[0]);
     if (!decimal)
         return;

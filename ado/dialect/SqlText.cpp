@@ -159,6 +159,30 @@ void Replace(sqlite3_context* context, int count, sqlite3_value** values)
     ResultText(context, text);
 }
 
+/// Most texts do not hold what is looked for: they go through untouched.
+void ReplaceBytes(sqlite3_context* context, int count, sqlite3_value** values)
+{
+    if (IsAnyNull(count, values))
+        return;
+    const std::string_view text = TextOf(values[0]);
+    const std::string_view wanted = TextOf(values[1]);
+    std::size_t found = wanted.empty() ? std::string_view::npos : FindBytes(text, wanted);
+    if (found == std::string_view::npos) {
+        sqlite3_result_value(context, values[0]);
+        return;
+    }
+    const std::string_view substitute = TextOf(values[2]);
+    std::string replaced;
+    std::size_t start = 0;
+    for (; found != std::string_view::npos; found = text.find(wanted, start)) {
+        replaced += text.substr(start, found - start);
+        replaced += substitute;
+        start = found + wanted.size();
+    }
+    replaced += text.substr(start);
+    ResultText(context, replaced);
+}
+
 template <bool isBinary> void CharIndex(sqlite3_context* context, int count, sqlite3_value** values)
 {
     if (IsAnyNull(count, values))
@@ -308,6 +332,7 @@ void RegisterTextFunctions(sqlite3* connection)
         {"ado_substring", 3, Substring},
         {"ado_right", 2, Right},
         {"ado_replace", 3, Replace},
+        {"ado_replace_bytes", 3, ReplaceBytes},
         {"ado_charindex", 2, CharIndex<false>},
         {"ado_charindex", 3, CharIndex<false>},
         {"ado_charindex_binary", 2, CharIndex<true>},

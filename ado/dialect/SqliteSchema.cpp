@@ -85,7 +85,8 @@ void TSqliteSchema::ReadViewTypes(const QByteArray& view, QVector<TSchemaColumn>
     const qsizetype opening = text.indexOf(QLatin1String(ViewTypesOpening));
     const qsizetype start = opening + static_cast<qsizetype>(std::strlen(ViewTypesOpening));
     const qsizetype end = text.indexOf(QLatin1String(ViewTypesClosing), start);
-    const QStringList types = opening < 0 || end < 0 ? QStringList() : text.mid(start, end - start).split(u';');
+    const QStringList types =
+        opening < 0 || end < 0 ? QStringList() : text.mid(start, end - start).split(u';');
     for (qsizetype i = 0; types.size() == columns.size() && i < types.size(); ++i) {
         const qsizetype blank = types[i].indexOf(u' ');
         columns[i].DeclaredType = types[i].left(blank);

@@ -131,7 +131,8 @@ bool TTableDefinition::ColumnConstraint(TColumnText& column, const TType& type)
         SkipClustering();
         column.Constraints += name + QLatin1String(" UNIQUE");
     } else if (cursor_.Accept(TKeyword::Default)) {
-        column.Constraints += name + DefaultValue(type);
+        // SQLite would hand the name of a default on to the check behind it.
+        column.Constraints += DefaultValue(type);
     } else if (cursor_.Accept(TKeyword::Check)) {
         column.Constraints += name + Check();
     } else if (token.Is(TKeyword::References) || token.Is(TKeyword::Foreign)) {

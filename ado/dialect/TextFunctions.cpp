@@ -96,8 +96,9 @@ TPiece Replace(const TFunctionCall& call)
     type.Binary = isBinary;
     if (call.At(0).Type.Length > 0 && call.At(2).IsTextLiteral() && call.At(2).Value.size() <= 1)
         type.Length = call.At(0).Type.Length;
-    return WholePiece(Call(isPlain ? "replace" : "ado_replace", {call.Text(0), call.Text(1), call.Text(2)}),
-                      type);
+    return WholePiece(
+        Call(isPlain ? "ado_replace_bytes" : "ado_replace", {call.Text(0), call.Text(1), call.Text(2)}),
+        type);
 }
 
 TPiece Translate(const TFunctionCall& call)

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <QHash>
 
 namespace Dialect {
 
@@ -48,35 +49,7 @@ TType CommonDecimal(const TType& first, const TType& second)
     return DecimalType(std::min(MaxPrecision, std::max(places(first), places(second)) + scale), scale);
 }
 
-} // namespace
-
-TType TextType(int length)
-{
-    TType type;
-    type.Kind = TKind::Text;
-    type.Length = length;
-    return type;
-}
-
-TType DecimalType(int precision, int scale)
-{
-    TType type;
-    type.Kind = TKind::Decimal;
-    type.Precision = precision;
-    type.Scale = scale;
-    return type;
-}
-
-TType MoneyType()
-{
-    TType type;
-    type.Kind = TKind::Money;
-    type.Precision = 19;
-    type.Scale = MoneyScale;
-    return type;
-}
-
-TType TypeOfDeclaration(const QString& declaredType)
+TType ReadDeclaration(const QString& declaredType)
 {
     if (declaredType.isEmpty())
         return {};
@@ -109,6 +82,44 @@ TType TypeOfDeclaration(const QString& declaredType)
         break;
     }
     return {};
+}
+
+} // namespace
+
+TType TextType(int length)
+{
+    TType type;
+    type.Kind = TKind::Text;
+    type.Length = length;
+    return type;
+}
+
+TType DecimalType(int precision, int scale)
+{
+    TType type;
+    type.Kind = TKind::Decimal;
+    type.Precision = precision;
+    type.Scale = scale;
+    return type;
+}
+
+TType MoneyType()
+{
+    TType type;
+    type.Kind = TKind::Money;
+    type.Precision = 19;
+    type.Scale = MoneyScale;
+    return type;
+}
+
+TType TypeOfDeclaration(const QString& declaredType)
+{
+    // Every translation asks for the types of whole tables; there are few different ones.
+    thread_local QHash<QString, TType> known;
+    const auto found = known.constFind(declaredType);
+    if (found != known.constEnd())
+        return *found;
+    return *known.insert(declaredType, ReadDeclaration(declaredType));
 }
 
 QString DeclarationOf(const TType& type)
