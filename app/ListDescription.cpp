@@ -1,0 +1,125 @@
+#include "ListDescription.h"
+
+namespace {
+
+constexpr int codeDigits = 9; // the longest number that always fits a 32-bit code
+
+TSearchItem Text(const QString& title, const QString& column, const QString& folded = {})
+{
+    TSearchItem item;
+    item.Title = title;
+    item.FiledName = column;
+    item.FoldedName = folded;
+    return item;
+}
+
+TSearchItem Number(const QString& title, const QString& column, TSearchDataType type, int maxLength = 0)
+{
+    TSearchItem item = Text(title, column);
+    item.DataType = type;
+    item.MaxLength = maxLength;
+    return item;
+}
+
+TGridColumn Column(const QString& field, const QString& title, int width,
+                   TGridColumn::TKind kind = TGridColumn::ckText)
+{
+    TGridColumn column;
+    column.FieldName = field;
+    column.Title = title;
+    column.Width = width;
+    column.Kind = kind;
+    return column;
+}
+
+QStringList FieldsOf(const QVector<TCardField>& fields)
+{
+    QStringList names;
+    for (const TCardField& field : fields)
+        names.append(field.FieldName);
+    return names;
+}
+
+} // namespace
+
+TListDescription GoodsList()
+{
+    TListDescription list;
+    list.Key = QStringLiteral("Goods");
+    list.Title = QStringLiteral("کالاها");
+    list.RecordName = QStringLiteral("کالا");
+    list.TitleField = QStringLiteral("Name");
+    list.SearchItems = {
+        Text(QStringLiteral("نام"), QStringLiteral("Name"), QStringLiteral("SearchName")),
+        Number(QStringLiteral("کد"), QStringLiteral("Code"), TSearchDataType::idtDigit, codeDigits),
+        Text(QStringLiteral("بارکد"), QStringLiteral("Barcode")),
+        Number(QStringLiteral("قیمت"), QStringLiteral("Price"), TSearchDataType::idtMoney),
+        Text(QStringLiteral("گروه"), QStringLiteral("GroupName")),
+        Text(QStringLiteral("واحد"), QStringLiteral("UnitName")),
+    };
+    list.Columns = {
+        Column(QStringLiteral("Code"), QStringLiteral("کد"), 80, TGridColumn::ckCode),
+        Column(QStringLiteral("Name"), QStringLiteral("نام کالا"), 320),
+        Column(QStringLiteral("Barcode"), QStringLiteral("بارکد"), 140, TGridColumn::ckCode),
+        Column(QStringLiteral("UnitName"), QStringLiteral("واحد"), 90),
+        Column(QStringLiteral("Price"), QStringLiteral("قیمت"), 130, TGridColumn::ckMoney),
+        Column(QStringLiteral("Stock"), QStringLiteral("موجودی"), 110, TGridColumn::ckNumber),
+        Column(QStringLiteral("GroupName"), QStringLiteral("گروه"), 160),
+    };
+    list.CardFields = {
+        {QStringLiteral("Code"), QStringLiteral("کد"), TGridColumn::ckCode},
+        {QStringLiteral("Name"), QStringLiteral("نام کالا")},
+        {QStringLiteral("Barcode"), QStringLiteral("بارکد"), TGridColumn::ckCode},
+        {QStringLiteral("UnitName"), QStringLiteral("واحد")},
+        {QStringLiteral("GroupCode"), QStringLiteral("کد گروه"), TGridColumn::ckCode},
+        {QStringLiteral("GroupName"), QStringLiteral("گروه")},
+        {QStringLiteral("Price"), QStringLiteral("قیمت"), TGridColumn::ckMoney},
+        {QStringLiteral("Stock"), QStringLiteral("موجودی"), TGridColumn::ckNumber},
+        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
+        {QStringLiteral("Active"), QStringLiteral("فعال")},
+    };
+    list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.KalaList"), QStringLiteral("Code")};
+    list.OrderField = QStringLiteral("Code");
+    return list;
+}
+
+TListDescription PersonsList()
+{
+    TListDescription list;
+    list.Key = QStringLiteral("Persons");
+    list.Title = QStringLiteral("اشخاص");
+    list.RecordName = QStringLiteral("شخص");
+    list.TitleField = QStringLiteral("FullName");
+    list.SearchItems = {
+        Text(QStringLiteral("نام"), QStringLiteral("FullName"), QStringLiteral("SearchName")),
+        Number(QStringLiteral("کد"), QStringLiteral("Code"), TSearchDataType::idtDigit, codeDigits),
+        Text(QStringLiteral("کد ملی"), QStringLiteral("NationalCode")),
+        Text(QStringLiteral("تلفن"), QStringLiteral("Phone")),
+        Text(QStringLiteral("شهر"), QStringLiteral("City")),
+        Number(QStringLiteral("مانده"), QStringLiteral("Balance"), TSearchDataType::idtMoney),
+    };
+    list.Columns = {
+        Column(QStringLiteral("Code"), QStringLiteral("کد"), 80, TGridColumn::ckCode),
+        Column(QStringLiteral("FullName"), QStringLiteral("نام"), 280),
+        Column(QStringLiteral("NationalCode"), QStringLiteral("کد ملی"), 120, TGridColumn::ckCode),
+        Column(QStringLiteral("Phone"), QStringLiteral("تلفن"), 130, TGridColumn::ckCode),
+        Column(QStringLiteral("City"), QStringLiteral("شهر"), 120),
+        Column(QStringLiteral("Balance"), QStringLiteral("مانده"), 150, TGridColumn::ckMoney),
+    };
+    list.CardFields = {
+        {QStringLiteral("Code"), QStringLiteral("کد"), TGridColumn::ckCode},
+        {QStringLiteral("Name"), QStringLiteral("نام کوتاه")},
+        {QStringLiteral("FullName"), QStringLiteral("نام کامل")},
+        {QStringLiteral("NationalCode"), QStringLiteral("کد ملی"), TGridColumn::ckCode},
+        {QStringLiteral("Phone"), QStringLiteral("تلفن"), TGridColumn::ckCode},
+        {QStringLiteral("City"), QStringLiteral("شهر")},
+        {QStringLiteral("Address"), QStringLiteral("نشانی")},
+        {QStringLiteral("GroupName"), QStringLiteral("گروه")},
+        {QStringLiteral("Balance"), QStringLiteral("مانده"), TGridColumn::ckMoney},
+        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
+        {QStringLiteral("Active"), QStringLiteral("فعال")},
+    };
+    list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.PersonList"), QStringLiteral("Code")};
+    list.OrderField = QStringLiteral("Code");
+    return list;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "PagedDataSet.h"
+#include "SmartDBGrid_TRV.h"
+#include "TarvaSearch.h"
+
+#include <QString>
+#include <QVector>
+
+/// A field of a record's card.
+struct TCardField
+{
+    QString FieldName;
+    QString Title;
+    TGridColumn::TKind Kind = TGridColumn::ckText;
+};
+
+/// Everything that makes a list a list of goods and not of persons. All names are columns of the database.
+struct TListDescription
+{
+    QString Key;        ///< under which the list's state is kept in the settings
+    QString Title;      ///< of the list, in the plural
+    QString RecordName; ///< of one record
+    QString TitleField; ///< column that heads a record's card
+    TPagedSource Source;
+    QVector<TSearchItem> SearchItems;
+    QVector<TGridColumn> Columns;
+    QVector<TCardField> CardFields;
+    QString OrderField; ///< in force until the user orders otherwise
+};
+
+TListDescription GoodsList();
+TListDescription PersonsList();

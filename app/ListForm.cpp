@@ -1,0 +1,264 @@
+#include "ListForm.h"
+
+#include "General_Search_UNT.h"
+#include "HostApplication.h"
+#include "ListFooter.h"
+#include "ListKeys.h"
+#include "Look.h"
+#include "PersianText.h"
+#include "RecordCard.h"
+#include "ReferenceHost.h"
+#include "SmartComboBox_TRV.h"
+#include "SmartEdit_TRV.h"
+#include "SmartPanel_TRV.h"
+#include "TarvaSearchManager.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QMenu>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+struct TListForm::TParts
+{
+    TPagedDataSet DataSet;
+    TDataSource Source;
+    TTarvaSearchManager Manager;
+    TGeneral_Search_Frame* Search = nullptr;
+    TSmartDBGrid_TRV* Grid = nullptr;
+    TListFooter* Footer = nullptr;
+    TListKeys* Keys = nullptr;
+};
+
+TListForm::TListForm(const TListDescription& list, TReferenceHost& host, QWidget* parent)
+    : QWidget(parent), list_(list), host_(&host), parts_(std::make_unique<TParts>())
+{
+    setObjectName(list_.Key + QStringLiteral("List"));
+    setWindowTitle(list_.Title);
+    Lay();
+    ConnectData();
+    ConnectKeys();
+    RestoreState();
+    StartSearch();
+}
+
+TListForm::~TListForm()
+{
+    // The controls outlive parts_, with the data set and the manager that they refer to.
+    parts_->Search->Refrenc_SearchManager = nullptr;
+    parts_->Search->doselection = nullptr;
+    parts_->Source.SetDataSet(nullptr);
+    delete card_;
+    delete parts_->Footer;
+}
+
+TPagedDataSet& TListForm::DataSet()
+{
+    return parts_->DataSet;
+}
+
+TSmartDBGrid_TRV& TListForm::Grid()
+{
+    return *parts_->Grid;
+}
+
+TGeneral_Search_Frame& TListForm::SearchFrame()
+{
+    return *parts_->Search;
+}
+
+const TListFooter& TListForm::Footer() const
+{
+    return *parts_->Footer;
+}
+
+TRecordCard* TListForm::Card() const
+{
+    return card_;
+}
+
+void TListForm::Lay()
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* band = new TSmartPanel_TRV(this);
+    band->SetGround(TSmartPanel_TRV::gBand);
+    auto* bandRow = new QHBoxLayout(band);
+    bandRow->setContentsMargins(Look::Margin, Look::Unit, Look::Margin, Look::Unit);
+    parts_->Search = new TGeneral_Search_Frame(band);
+    bandRow->addWidget(parts_->Search);
+    bandRow->addStretch(1);
+    parts_->Grid = new TSmartDBGrid_TRV(this);
+    parts_->Footer = new TListFooter(parts_->DataSet, this);
+    column->addWidget(band);
+    column->addWidget(parts_->Grid, 1);
+    column->addWidget(parts_->Footer);
+}
+
+void TListForm::ConnectData()
+{
+    TParts& parts = *parts_;
+    parts.DataSet.SetConnection(&host_->Connection());
+    parts.DataSet.SetSource(list_.Source);
+    parts.Source.SetDataSet(&parts.DataSet);
+    parts.Grid->SetColumns(list_.Columns);
+    parts.Grid->SetDataSource(&parts.Source);
+    parts.Manager.Add(parts.Search->TarvaSearch_General);
+    parts.Manager.SetDataSet(&parts.DataSet);
+    connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, this, &TListForm::ShowCondition);
+    connect(&parts.DataSet, &TPagedDataSet::failed, this,
+            [](const QString& message, const QString& serverMessage) {
+                if (auto* application = qobject_cast<THostApplication*>(qApp))
+                    application->Report({message, serverMessage});
+            });
+}
+
+void TListForm::ConnectKeys()
+{
+    TParts& parts = *parts_;
+    parts.Keys =
+        new TListKeys({parts.Search->Search_EDT, parts.Search->SearchCost_EDT, parts.Search->SearchDigit_EDT},
+                      parts.Grid, this);
+    connect(parts.Keys, &TListKeys::rowChosen, this, &TListForm::OpenCard);
+    connect(parts.Keys, &TListKeys::gridEntered, this, &TListForm::SelectFirstRow);
+    parts.Grid->OnDblClick = [this](QObject* /*Sender*/) { OpenCard(); };
+    const auto onKey = [this](const QKeySequence& key, void (TListForm::*action)()) {
+        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    onKey(QKeySequence(Qt::Key_F10), &TListForm::FocusSearchField);
+    onKey(QKeySequence(Qt::Key_F7), &TListForm::ShowSortMenu);
+    onKey(QKeySequence(Qt::Key_F5), &TListForm::Refresh);
+    onKey(QKeySequence(Qt::Key_Escape), &TListForm::ClearSearch);
+}
+
+void TListForm::StartSearch()
+{
+    TParts& parts = *parts_;
+    TTarvaSearch& criterion = *parts.Search->TarvaSearch_General;
+    criterion.SearchItems.Clear();
+    for (const TSearchItem& item : qAsConst(list_.SearchItems))
+        criterion.SearchItems.Add(item);
+    const int field = host_->Settings().Value(SettingKey(QStringLiteral("Field")), 0).toInt();
+    criterion.SetItemIndex(field >= 0 && field < criterion.SearchItems.Count() ? field : 0);
+    parts.Search->Refrenc_SearchManager = &parts.Manager;
+    // The card opens from the event loop, when the frame has brought its own state in order.
+    parts.Search->doselection = [this] {
+        QMetaObject::invokeMethod(this, &TListForm::OpenCard, Qt::QueuedConnection);
+    };
+    parts.Search->init();
+    ShowCondition();
+}
+
+QString TListForm::SettingKey(const QString& name) const
+{
+    return QStringLiteral("Lists/%1/%2").arg(list_.Key, name);
+}
+
+void TListForm::RestoreState()
+{
+    const THostSettings& settings = host_->Settings();
+    parts_->Grid->RestoreLayout(settings.Value(SettingKey(QStringLiteral("Layout"))).toByteArray());
+    const QString field = settings.Value(SettingKey(QStringLiteral("Order")), list_.OrderField).toString();
+    const bool known = list_.Source.Fields.contains(field);
+    const bool descending = settings.Value(SettingKey(QStringLiteral("Descending")), false).toBool();
+    parts_->DataSet.SetOrder(known ? field : list_.OrderField,
+                             descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void TListForm::SaveState() const
+{
+    THostSettings& settings = host_->Settings();
+    settings.SetValue(SettingKey(QStringLiteral("Layout")), parts_->Grid->SaveLayout());
+    settings.SetValue(SettingKey(QStringLiteral("Order")), parts_->DataSet.OrderField());
+    settings.SetValue(SettingKey(QStringLiteral("Descending")),
+                      parts_->DataSet.Order() == Qt::DescendingOrder);
+    settings.SetValue(SettingKey(QStringLiteral("Field")), parts_->Search->TarvaSearch_General->ItemIndex());
+}
+
+void TListForm::Refresh()
+{
+    if (parts_->DataSet.Active())
+        parts_->DataSet.Refresh();
+    else
+        parts_->DataSet.Open();
+}
+
+void TListForm::ReportFailure(const QString& message, const QString& serverMessage)
+{
+    auto* application = qobject_cast<THostApplication*>(qApp);
+    if (application == nullptr)
+        return;
+    // A lost connection is opened again only when the user says so; reading again does it.
+    const QPointer<TListForm> form(this);
+    application->Report({message, serverMessage, false, [form] {
+                             if (form != nullptr)
+                                 form->Refresh();
+                         }});
+}
+
+void TListForm::ShowCondition()
+{
+    const QString words = parts_->Manager.ConditionInWords();
+    parts_->Footer->SetConditionInWords(words.isEmpty() ? QStringLiteral("همهٔ %1").arg(list_.Title) : words);
+    parts_->Grid->SetEmptyText(
+        words.isEmpty()
+            ? QStringLiteral("این فهرست هنوز ردیفی ندارد.")
+            : QStringLiteral(
+                  "هیچ ردیفی با این جستجو جور نیست. برای دیدن همهٔ ردیف‌ها کلید %1 را بزنید.")
+                  .arg(PersianText::Isolated(QStringLiteral("Escape"))));
+}
+
+void TListForm::FocusSearchField()
+{
+    parts_->Search->Search_CMB->setFocus(Qt::ShortcutFocusReason);
+}
+
+void TListForm::FocusSearchEdit()
+{
+    parts_->Keys->FocusEdit();
+}
+
+void TListForm::ClearSearch()
+{
+    parts_->Search->Clear();
+    FocusSearchEdit();
+}
+
+void TListForm::SelectFirstRow()
+{
+    if (parts_->DataSet.RecNo() == 0 && parts_->DataSet.RecordCount() > 0)
+        parts_->DataSet.First();
+}
+
+void TListForm::OpenCard()
+{
+    if (card_ != nullptr || parts_->Manager.DataSet()->IsEmpty())
+        return;
+    SelectFirstRow();
+    card_ = new TRecordCard(list_, parts_->DataSet, this);
+    card_->setAttribute(Qt::WA_DeleteOnClose);
+    card_->open();
+}
+
+void TListForm::ShowSortMenu()
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSection(QStringLiteral("مرتب‌سازی بر پایهٔ"));
+    for (const TGridColumn& column : qAsConst(list_.Columns)) {
+        QAction* action = menu->addAction(column.Title);
+        action->setCheckable(true);
+        action->setChecked(column.FieldName == parts_->DataSet.OrderField());
+        connect(action, &QAction::triggered, this, [this, field = column.FieldName] { OrderBy(field); });
+    }
+    const QWidget* header = parts_->Grid->horizontalHeader();
+    menu->popup(header->mapToGlobal(header->rect().bottomRight()) - QPoint(menu->sizeHint().width(), 0));
+}
+
+void TListForm::OrderBy(const QString& field)
+{
+    const bool turn = field == parts_->DataSet.OrderField() && parts_->DataSet.Order() == Qt::AscendingOrder;
+    parts_->DataSet.SetOrder(field, turn ? Qt::DescendingOrder : Qt::AscendingOrder);
+}

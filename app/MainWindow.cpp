@@ -1,0 +1,265 @@
+#include "MainWindow.h"
+
+#include "DisplayText.h"
+#include "HelpWindow.h"
+#include "ListForm.h"
+#include "MessageDialog.h"
+#include "PersianText.h"
+#include "ReferenceHost.h"
+#include "SmartLabel_TRV.h"
+#include "SmartPanel_TRV.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize firstSize{1180, 720};
+constexpr int navigationWidth = 132;
+constexpr int navigationButtonHeight = 40;
+
+const QString geometryKey = QStringLiteral("Window/Geometry");
+const QString schemeKey = QStringLiteral("Window/Scheme");
+const QString digitsKey = QStringLiteral("Window/Digits");
+
+QAction* AddChoice(QMenu* menu, QActionGroup* group, const QString& name, const QString& caption,
+                   bool checked)
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(name);
+    action->setCheckable(true);
+    action->setChecked(checked);
+    group->addAction(action);
+    return action;
+}
+
+TSmartLabel_TRV* NewStatusLabel(const QString& text, QWidget* parent)
+{
+    auto* label = new TSmartLabel_TRV(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(Look::SmallFont());
+    label->SetCaption(text);
+    return label;
+}
+
+} // namespace
+
+TMainWindow::TMainWindow(TReferenceHost& host, const QString& databaseName)
+    : host_(&host), lists_({GoodsList(), PersonsList()}), forms_(lists_.size(), nullptr)
+{
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    auto* center = new QWidget(this);
+    auto* row = new QHBoxLayout(center);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    pages_ = new QStackedWidget(center);
+    AddMenus();
+    row->addWidget(NewNavigation());
+    row->addWidget(pages_, 1);
+    setCentralWidget(center);
+    AddStatus(databaseName);
+    RestoreWindow();
+}
+
+TMainWindow::~TMainWindow() = default;
+
+void TMainWindow::AddMenus()
+{
+    AddListActions();
+    AddViewMenu();
+    AddHelpMenu();
+}
+
+void TMainWindow::AddListActions()
+{
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("&فهرست‌ها"));
+    auto* group = new QActionGroup(this);
+    for (qsizetype i = 0; i < lists_.size(); ++i) {
+        QAction* action = menu->addAction(lists_.at(i).Title);
+        action->setCheckable(true);
+        action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)));
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, key = lists_.at(i).Key] { OpenList(key); });
+        listActions_.append(action);
+    }
+    menu->addSeparator();
+    QAction* close = menu->addAction(QStringLiteral("&خروج"));
+    close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(close, &QAction::triggered, this, &QWidget::close);
+}
+
+void TMainWindow::AddViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("ن&ما"));
+    AddSchemes(menu);
+    menu->addSeparator();
+    AddDigits(menu);
+}
+
+void TMainWindow::AddSchemes(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    const auto add = [&](const QString& name, const QString& caption, Look::TScheme scheme) {
+        QAction* action = AddChoice(menu, group, name, caption, SavedScheme(*host_) == scheme);
+        connect(action, &QAction::triggered, this, [this, scheme] {
+            host_->Settings().SetValue(schemeKey, static_cast<int>(scheme));
+            Look::SetScheme(scheme);
+        });
+    };
+    add(QStringLiteral("SchemeSystem"), QStringLiteral("رنگ‌بندی &سیستم"),
+        Look::TScheme::FollowSystem);
+    add(QStringLiteral("SchemeLight"), QStringLiteral("رنگ‌بندی &روشن"), Look::TScheme::Light);
+    add(QStringLiteral("SchemeDark"), QStringLiteral("رنگ‌بندی &تیره"), Look::TScheme::Dark);
+}
+
+void TMainWindow::AddDigits(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    const auto add = [&](const QString& name, const QString& caption, Look::TDigits digits) {
+        QAction* action = AddChoice(menu, group, name, caption, SavedDigits(*host_) == digits);
+        connect(action, &QAction::triggered, this, [this, digits] {
+            host_->Settings().SetValue(digitsKey, static_cast<int>(digits));
+            Look::SetDigits(digits);
+        });
+    };
+    add(QStringLiteral("DigitsPersian"), QStringLiteral("رقم‌های &فارسی"),
+        Look::TDigits::Persian);
+    add(QStringLiteral("DigitsLatin"), QStringLiteral("رقم‌های &لاتین"), Look::TDigits::Latin);
+}
+
+void TMainWindow::AddHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("&راهنما"));
+    QAction* keys = menu->addAction(QStringLiteral("&کلیدها"));
+    keys->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(keys, &QAction::triggered, this, &TMainWindow::ShowKeys);
+    QAction* about = menu->addAction(QStringLiteral("&دربارهٔ برنامه"));
+    about->setObjectName(QStringLiteral("About"));
+    connect(about, &QAction::triggered, this, &TMainWindow::ShowAbout);
+}
+
+QWidget* TMainWindow::NewNavigation()
+{
+    auto* panel = new TSmartPanel_TRV(this);
+    panel->SetGround(TSmartPanel_TRV::gWindow);
+    panel->setFixedWidth(navigationWidth);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
+    column->setSpacing(Look::Unit);
+    for (QAction* action : qAsConst(listActions_)) {
+        auto* button = new QToolButton(panel);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        button->setFixedHeight(navigationButtonHeight);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        // The lists have the keyboard; the navigation has Ctrl with a digit.
+        button->setFocusPolicy(Qt::NoFocus);
+        column->addWidget(button);
+    }
+    column->addStretch(1);
+    return panel;
+}
+
+void TMainWindow::AddStatus(const QString& databaseName)
+{
+    const bool gregorian = host_->Settings().SettingRecord().IsGregorian();
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(
+        NewStatusLabel(QStringLiteral("بانک: %1").arg(PersianText::Isolated(databaseName)), this), 1);
+    statusBar()->addPermanentWidget(NewStatusLabel(
+        QStringLiteral("کاربر: %1").arg(PersianText::Isolated(host_->Settings().UserInfo().Name)), this));
+    statusBar()->addPermanentWidget(
+        NewStatusLabel(DisplayText::DayInWords(host_->Clock().Today(), gregorian), this));
+}
+
+TListForm* TMainWindow::OpenList(const QString& key)
+{
+    for (qsizetype i = 0; i < lists_.size(); ++i) {
+        if (lists_.at(i).Key != key)
+            continue;
+        if (forms_.at(i) == nullptr) {
+            forms_[i] = new TListForm(lists_.at(i), *host_, pages_);
+            pages_->addWidget(forms_.at(i));
+        }
+        if (!forms_.at(i)->DataSet().Active())
+            forms_.at(i)->Refresh();
+        pages_->setCurrentWidget(forms_.at(i));
+        listActions_.at(i)->setChecked(true);
+        setWindowTitle(
+            QStringLiteral("%1 — %2").arg(lists_.at(i).Title, QGuiApplication::applicationDisplayName()));
+        forms_.at(i)->FocusSearchEdit();
+        return forms_.at(i);
+    }
+    return nullptr;
+}
+
+TListForm* TMainWindow::CurrentList() const
+{
+    return qobject_cast<TListForm*>(pages_->currentWidget());
+}
+
+void TMainWindow::Reconnect()
+{
+    for (TListForm* form : qAsConst(forms_)) {
+        if (form != nullptr)
+            form->Refresh();
+    }
+}
+
+Look::TScheme TMainWindow::SavedScheme(const TReferenceHost& host)
+{
+    const int saved = host.Settings().Value(schemeKey, 0).toInt();
+    return saved >= 0 && saved <= 2 ? static_cast<Look::TScheme>(saved) : Look::TScheme::FollowSystem;
+}
+
+Look::TDigits TMainWindow::SavedDigits(const TReferenceHost& host)
+{
+    return host.Settings().Value(digitsKey, 0).toInt() == static_cast<int>(Look::TDigits::Latin)
+               ? Look::TDigits::Latin
+               : Look::TDigits::Persian;
+}
+
+void TMainWindow::ShowKeys()
+{
+    auto* help = new THelpWindow(this);
+    help->setAttribute(Qt::WA_DeleteOnClose);
+    help->open();
+}
+
+void TMainWindow::ShowAbout()
+{
+    const QString text =
+        QStringLiteral(
+            "میز کار حسابداری %1\n\nکالاها و اشخاص را با نوار جستجوی زنده نشان می‌دهد. این برنامه نمونه‌ای است از به کار بردن قاب‌های آمادهٔ %2 در یک برنامهٔ حسابداری.")
+            .arg(QCoreApplication::applicationVersion(),
+                 PersianText::Isolated(QStringLiteral("BaseFrame_PKG")));
+    auto* box =
+        new TMessageDialog(TMessageDialog::TKind::Information, text, {TMessageDialog::OkButton()}, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(QStringLiteral("دربارهٔ برنامه"));
+    box->open();
+}
+
+void TMainWindow::RestoreWindow()
+{
+    const QByteArray geometry = host_->Settings().Value(geometryKey).toByteArray();
+    if (geometry.isEmpty() || !restoreGeometry(geometry))
+        resize(firstSize);
+}
+
+void TMainWindow::closeEvent(QCloseEvent* event)
+{
+    host_->Settings().SetValue(geometryKey, saveGeometry());
+    for (const TListForm* form : qAsConst(forms_)) {
+        if (form != nullptr)
+            form->SaveState();
+    }
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,136 @@
+#include "RecordCard.h"
+
+#include "DisplayText.h"
+#include "Look.h"
+#include "PagedDataSet.h"
+#include "SmartLabel_TRV.h"
+#include "SmartPanel_TRV.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int fieldWidth = 380;
+
+QLineEdit* NewField(const TCardField& field, QWidget* parent)
+{
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(field.FieldName);
+    edit->setReadOnly(true);
+    edit->setMinimumSize(fieldWidth, Look::ControlHeight);
+    // Right whatever the value begins with: a code alone would jump to the left.
+    edit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    return edit;
+}
+
+} // namespace
+
+TRecordCard::TRecordCard(const TListDescription& list, TPagedDataSet& dataSet, QWidget* parent)
+    : QDialog(parent), list_(list), dataSet_(&dataSet), heading_(new TSmartLabel_TRV(this))
+{
+    setLayoutDirection(Qt::RightToLeft);
+    setWindowTitle(QStringLiteral("کارت ") + list_.RecordName);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, Look::GroupGap);
+    column->setSpacing(Look::GroupGap);
+    auto* band = new TSmartPanel_TRV(this);
+    band->SetGround(TSmartPanel_TRV::gBand);
+    auto* bandRow = new QHBoxLayout(band);
+    bandRow->setContentsMargins(Look::GroupGap, Look::Margin, Look::GroupGap, Look::Margin);
+    heading_->SetOnBand(true);
+    heading_->setFont(Look::BoldFont());
+    heading_->setTextFormat(Qt::PlainText);
+    bandRow->addWidget(heading_);
+    column->addWidget(band);
+    auto* form = new QFormLayout;
+    form->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
+    form->setVerticalSpacing(Look::LineGap);
+    form->setHorizontalSpacing(Look::GroupGap);
+    AddFields(form);
+    column->addLayout(form);
+    column->addWidget(NewButtons());
+    connect(dataSet_, &TDataSet::scrolled, this, &TRecordCard::ShowRecord);
+    connect(dataSet_, &TDataSet::dataChanged, this, &TRecordCard::ShowRecord);
+    connect(dataSet_, &TPagedDataSet::rowsArrived, this, &TRecordCard::ShowRecord);
+    ShowRecord();
+}
+
+TRecordCard::~TRecordCard() = default;
+
+QString TRecordCard::FieldText(const QString& fieldName) const
+{
+    for (const QLineEdit* edit : edits_) {
+        if (edit->objectName() == fieldName)
+            return edit->text();
+    }
+    return {};
+}
+
+void TRecordCard::AddFields(QFormLayout* form)
+{
+    for (const TCardField& field : qAsConst(list_.CardFields)) {
+        auto* label = new TSmartLabel_TRV(this);
+        label->SetCaption(field.Title);
+        auto* edit = NewField(field, this);
+        label->SetFocusControl(edit);
+        form->addRow(label, edit);
+        edits_.append(edit);
+    }
+}
+
+QWidget* TRecordCard::NewButtons()
+{
+    auto* bar = new QWidget(this);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
+    const auto add = [this, row](const QString& caption) {
+        auto* button = new QPushButton(caption, this);
+        button->setMinimumHeight(Look::ControlHeight);
+        button->setAutoDefault(false);
+        row->addWidget(button);
+        return button;
+    };
+    previous_ = add(QStringLiteral("رکورد &قبلی"));
+    next_ = add(QStringLiteral("رکورد &بعدی"));
+    row->addStretch(1);
+    auto* close = add(QStringLiteral("ب&ستن"));
+    close->setDefault(true);
+    connect(previous_, &QPushButton::clicked, this, [this] { Move(-1); });
+    connect(next_, &QPushButton::clicked, this, [this] { Move(1); });
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    connect(new QShortcut(QKeySequence(Qt::Key_PageUp), this), &QShortcut::activated, previous_,
+            &QPushButton::click);
+    connect(new QShortcut(QKeySequence(Qt::Key_PageDown), this), &QShortcut::activated, next_,
+            &QPushButton::click);
+    return bar;
+}
+
+void TRecordCard::ShowRecord()
+{
+    const int row = dataSet_->RecNo();
+    for (qsizetype i = 0; i < edits_.size(); ++i) {
+        const TField* field = dataSet_->FindField(list_.CardFields.at(i).FieldName);
+        const QVariant value = field != nullptr && row > 0 ? field->Value() : QVariant();
+        QString text = DisplayText::FieldValue(value, list_.CardFields.at(i).Kind);
+        if (field != nullptr && field->DataType() == TFieldType::ftBoolean && !value.isNull())
+            text = DisplayText::FieldValue(value.toBool(), TGridColumn::ckText);
+        edits_.at(i)->setText(text);
+        edits_.at(i)->setCursorPosition(0);
+    }
+    const QString name = FieldText(list_.TitleField);
+    heading_->SetCaption(QStringLiteral("%1: %2").arg(list_.RecordName, name));
+    previous_->setEnabled(row > 1);
+    next_->setEnabled(row > 0 && row < dataSet_->RecordCount());
+}
+
+void TRecordCard::Move(int step)
+{
+    const int row = dataSet_->RecNo() + step;
+    if (row >= 1 && row <= dataSet_->RecordCount())
+        dataSet_->SetRecNo(row);
+}

@@ -1,0 +1,85 @@
+#include "HelpWindow.h"
+#include "Look.h"
+#include "MainWindow.h"
+#include "TourPlayer.h"
+#include "TourSteps.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+QAction* FindAction(const QWidget& window, const QString& name)
+{
+    return window.findChild<QAction*>(name);
+}
+
+// By mouse, as a user who does not know the keys.
+void ChooseFromMenu(TTourPlayer& player, const QString& actionName)
+{
+    QAction* action = FindAction(player.Window(), actionName);
+    if (!player.Check(action != nullptr, QStringLiteral("گزینهٔ %1 در منو نیست").arg(actionName)))
+        return;
+    auto* menu = qobject_cast<QMenu*>(action->parent());
+    QMenuBar* bar = player.Window().menuBar();
+    player.Click(bar, bar->actionGeometry(menu->menuAction()).center());
+    player.Click(menu, menu->actionGeometry(action).center());
+}
+
+void ShowKeys(TTourPlayer& player)
+{
+    player.Press(Qt::Key_F1);
+    player.Check(qobject_cast<THelpWindow*>(QApplication::activeModalWidget()) != nullptr,
+                 QStringLiteral("راهنمای کلیدها باز نشد"));
+    player.Screenshot(QStringLiteral("keys"));
+    player.Press(Qt::Key_Escape);
+    player.Check(QApplication::activeModalWidget() == nullptr, QStringLiteral("راهنما بسته نشد"));
+}
+
+void ShowAbout(TTourPlayer& player)
+{
+    ChooseFromMenu(player, QStringLiteral("About"));
+    player.Check(QApplication::activeModalWidget() != nullptr, QStringLiteral("دربارهٔ برنامه باز نشد"));
+    player.Screenshot(QStringLiteral("about"));
+    player.Press(Qt::Key_Return);
+    player.Check(QApplication::activeModalWidget() == nullptr, QStringLiteral("دربارهٔ برنامه بسته نشد"));
+}
+
+void TurnTheColoursRound(TTourPlayer& player)
+{
+    const bool dark = Look::IsDark();
+    ChooseFromMenu(player, dark ? QStringLiteral("SchemeLight") : QStringLiteral("SchemeDark"));
+    player.Check(Look::IsDark() != dark, QStringLiteral("رنگ‌بندی برنگشت"));
+    player.Press(Qt::Key_1, Qt::ControlModifier);
+    player.WaitForAnswer();
+    player.Screenshot(dark ? QStringLiteral("goods-light") : QStringLiteral("goods-dark"));
+    player.Press(Qt::Key_Down);
+    player.Press(Qt::Key_Return);
+    player.Wait(200);
+    player.Screenshot(dark ? QStringLiteral("card-light") : QStringLiteral("card-dark"));
+    player.Press(Qt::Key_Escape);
+    ChooseFromMenu(player, dark ? QStringLiteral("SchemeDark") : QStringLiteral("SchemeLight"));
+    player.Check(Look::IsDark() == dark, QStringLiteral("رنگ‌بندی دوباره برنگشت"));
+}
+
+void TurnTheDigits(TTourPlayer& player)
+{
+    ChooseFromMenu(player, QStringLiteral("DigitsLatin"));
+    player.Check(Look::Digits() == Look::TDigits::Latin, QStringLiteral("رقم‌ها لاتین نشد"));
+    player.Screenshot(QStringLiteral("latin-digits"));
+    ChooseFromMenu(player, QStringLiteral("DigitsPersian"));
+    player.Check(Look::Digits() == Look::TDigits::Persian, QStringLiteral("رقم‌ها فارسی نشد"));
+}
+
+} // namespace
+
+QVector<TTourStep> WindowSteps()
+{
+    return {
+        {u"راهنمای کلیدها", ShowKeys},
+        {u"دربارهٔ برنامه", ShowAbout},
+        {u"رنگ‌بندی تیره و روشن", TurnTheColoursRound},
+        {u"رقم‌های لاتین و فارسی", TurnTheDigits},
+    };
+}
