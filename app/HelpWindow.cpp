@@ -1,6 +1,7 @@
 #include "HelpWindow.h"
 
 #include "Look.h"
+#include "PersianText.h"
 #include "SmartLabel_TRV.h"
 
 #include <QGridLayout>
@@ -35,7 +36,7 @@ void AddLine(QGridLayout* grid, int row, const TKeyHelp& line, QWidget* parent)
     auto* key = new TSmartLabel_TRV(parent);
     key->setTextFormat(Qt::PlainText);
     key->setFont(Look::BoldFont());
-    key->SetCaption(QString::fromUtf16(line.Key));
+    key->SetCaption(PersianText::Isolated(QString::fromUtf16(line.Key)));
     auto* meaning = new TSmartLabel_TRV(parent);
     meaning->setTextFormat(Qt::PlainText);
     meaning->SetCaption(QString::fromUtf16(line.Meaning));
@@ -63,7 +64,8 @@ THelpWindow::THelpWindow(QWidget* parent) : QDialog(parent)
     close->setMinimumHeight(Look::ControlHeight);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    column->addWidget(close, 0, Qt::AlignLeft);
+    // Mirrored: the left end, where every dialog has its buttons.
+    column->addWidget(close, 0, Qt::AlignRight);
 }
 
 THelpWindow::~THelpWindow() = default;

@@ -33,7 +33,7 @@ TProgressWindow::TProgressWindow(const QString& title, QWidget* parent)
     column->addWidget(heading);
     column->addWidget(stage_);
     column->addWidget(bar_);
-    column->addWidget(abandon, 0, Qt::AlignLeft);
+    column->addWidget(abandon, 0, Qt::AlignRight);
     sinceStart_.start();
 }
 

@@ -85,7 +85,9 @@ void OpenWithProgress(TADOConnection& connection, const QString& connectionStrin
 {
     TProgressWindow progress(QStringLiteral("ساختن بانک اطلاعاتی نمونه"));
     TDatabaseOptions options;
-    options.Progress = [&progress](int percent, const QString& stage) { return progress.Tell(percent, stage); };
+    options.Progress = [&progress](int percent, const QString& stage) {
+        return progress.Tell(percent, stage);
+    };
     OpenDatabase(connection, connectionString, options);
 }
 

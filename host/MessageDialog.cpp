@@ -2,7 +2,9 @@
 
 #include "Look.h"
 #include "MessageTypes.h"
+#include "PersianText.h"
 
+#include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -66,10 +68,18 @@ private:
     TSign sign_;
 };
 
+bool HasPersian(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar character) { return character.script() == QChar::Script_Arabic; });
+}
+
 QLabel* MessageText(const QString& text, QWidget* parent)
 {
-    // The mark in front makes a paragraph that begins with a code or a Latin name right to left all the same.
-    auto* label = new QLabel(QChar(0x200F) + text, parent);
+    // The mark in front makes a paragraph that begins with a code or a Latin name right to left all the same;
+    // a sentence without a Persian letter keeps its own order.
+    const QString paragraph = HasPersian(text) ? text : PersianText::Isolated(text);
+    auto* label = new QLabel(QChar(0x200F) + paragraph, parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setMinimumWidth(textWidth);
