@@ -2,6 +2,7 @@
 
 #include "Look.h"
 #include "PersianText.h"
+#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 
 #include <QGridLayout>
@@ -35,7 +36,7 @@ void AddLine(QGridLayout* grid, int row, const TKeyHelp& line, QWidget* parent)
 {
     auto* key = new TSmartLabel_TRV(parent);
     key->setTextFormat(Qt::PlainText);
-    key->setFont(Look::BoldFont());
+    key->setFont(RelativeFonts::Bold());
     key->SetCaption(PersianText::Isolated(QString::fromUtf16(line.Key)));
     auto* meaning = new TSmartLabel_TRV(parent);
     meaning->setTextFormat(Qt::PlainText);

@@ -5,8 +5,10 @@
 #include "Look.h"
 #include "PagedDataSet.h"
 #include "PersianText.h"
+#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 namespace {
@@ -18,7 +20,7 @@ TSmartLabel_TRV* NewLabel(QWidget* parent, const QString& name)
 {
     auto* label = new TSmartLabel_TRV(parent);
     label->setObjectName(name);
-    label->setFont(Look::SmallFont());
+    label->setFont(RelativeFonts::Small());
     label->setTextFormat(Qt::PlainText);
     return label;
 }
@@ -80,6 +82,14 @@ QString TListFooter::CountText() const
 bool TListFooter::ShowsBusy() const
 {
     return !sign_->isHidden();
+}
+
+void TListFooter::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    // The grouping sign goes with the digits.
+    if (event->type() == QEvent::FontChange)
+        ShowCount();
 }
 
 void TListFooter::ShowCount()

@@ -24,6 +24,9 @@ public:
     QString CountText() const;
     bool ShowsBusy() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void ShowCount();
     void FollowBusy(bool busy);

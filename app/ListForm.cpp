@@ -13,6 +13,7 @@
 #include "SmartPanel_TRV.h"
 #include "TarvaSearchManager.h"
 
+#include <QActionGroup>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
@@ -104,6 +105,7 @@ void TListForm::ConnectData()
     parts.Source.SetDataSet(&parts.DataSet);
     parts.Grid->SetColumns(list_.Columns);
     parts.Grid->SetDataSource(&parts.Source);
+    parts.Grid->horizontalHeader()->setStretchLastSection(true);
     parts.Manager.Add(parts.Search->TarvaSearch_General);
     parts.Manager.SetDataSet(&parts.DataSet);
     connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, this, &TListForm::ShowCondition);
@@ -246,10 +248,11 @@ void TListForm::ShowSortMenu()
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addSection(QStringLiteral("مرتب‌سازی بر پایهٔ"));
+    auto* columns = new QActionGroup(menu);
     for (const TGridColumn& column : qAsConst(list_.Columns)) {
         QAction* action = menu->addAction(column.Title);
         action->setCheckable(true);
+        columns->addAction(action);
         action->setChecked(column.FieldName == parts_->DataSet.OrderField());
         connect(action, &QAction::triggered, this, [this, field = column.FieldName] { OrderBy(field); });
     }

@@ -6,6 +6,7 @@
 #include "MessageDialog.h"
 #include "PersianText.h"
 #include "ReferenceHost.h"
+#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
 
@@ -44,7 +45,8 @@ TSmartLabel_TRV* NewStatusLabel(const QString& text, QWidget* parent)
 {
     auto* label = new TSmartLabel_TRV(parent);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(Look::SmallFont());
+    label->setFont(RelativeFonts::Small());
+    label->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
     label->SetCaption(text);
     return label;
 }
@@ -171,6 +173,7 @@ void TMainWindow::AddStatus(const QString& databaseName)
 {
     const bool gregorian = host_->Settings().SettingRecord().IsGregorian();
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
     statusBar()->addWidget(
         NewStatusLabel(QStringLiteral("بانک: %1").arg(PersianText::Isolated(databaseName)), this), 1);
     statusBar()->addPermanentWidget(NewStatusLabel(

@@ -1,6 +1,7 @@
 #include "ProgressWindow.h"
 
 #include "Look.h"
+#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 
 #include <QCloseEvent>
@@ -25,7 +26,7 @@ TProgressWindow::TProgressWindow(const QString& title, QWidget* parent)
     column->setContentsMargins(Look::GroupGap, Look::GroupGap, Look::GroupGap, Look::GroupGap);
     column->setSpacing(Look::Margin);
     auto* heading = new TSmartLabel_TRV(this);
-    heading->setFont(Look::BoldFont());
+    heading->setFont(RelativeFonts::Bold());
     heading->SetCaption(title);
     auto* abandon = new QPushButton(QStringLiteral("انصراف"), this);
     abandon->setMinimumHeight(Look::ControlHeight);

@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "Look.h"
 #include "PagedDataSet.h"
+#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
 
@@ -43,7 +44,7 @@ TRecordCard::TRecordCard(const TListDescription& list, TPagedDataSet& dataSet, Q
     auto* bandRow = new QHBoxLayout(band);
     bandRow->setContentsMargins(Look::GroupGap, Look::Margin, Look::GroupGap, Look::Margin);
     heading_->SetOnBand(true);
-    heading_->setFont(Look::BoldFont());
+    heading_->setFont(RelativeFonts::Bold());
     heading_->setTextFormat(Qt::PlainText);
     bandRow->addWidget(heading_);
     column->addWidget(band);

@@ -58,7 +58,8 @@ void ReadCard(TTourPlayer& player)
                  QStringLiteral("کارت رکورد بعدی را نشان نمی‌دهد"));
     player.Press(Qt::Key_Escape);
     player.WaitUntil([&list] { return list.Card() == nullptr; }, QStringLiteral("کارت بسته نشد"));
-    player.Check(list.Grid().hasFocus(), QStringLiteral("پس از کارت، فهرست فوکوس نگرفت"));
+    player.Check(player.Window().focusWidget() == &list.Grid(),
+                 QStringLiteral("پس از کارت، فهرست فوکوس نگرفت"));
 }
 
 } // namespace
