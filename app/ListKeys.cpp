@@ -3,6 +3,7 @@
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
 
+#include <memory>
 #include <QCoreApplication>
 #include <QKeyEvent>
 
@@ -87,6 +88,7 @@ bool TListKeys::GridKey(const QKeyEvent& event)
     if (!IsTyped(event) || CurrentEdit() == nullptr)
         return false;
     FocusEdit();
-    QCoreApplication::postEvent(CurrentEdit(), event.clone());
+    const std::unique_ptr<QKeyEvent> stroke(event.clone());
+    QCoreApplication::sendEvent(CurrentEdit(), stroke.get());
     return true;
 }

@@ -67,6 +67,7 @@ void TTourPlayer::WaitForAnswer()
     TListForm& list = List();
     WaitUntil([&list] { return list.SearchFrame().Filter_is_done(); },
               QStringLiteral("جستجو به کار بسته نشد"));
+    list.SearchFrame().Refrenc_SearchManager->Flush();
     Check(list.DataSet().WaitForFirstPage(), QStringLiteral("پاسخ بانک اطلاعاتی نرسید"));
     WaitUntil([&list] { return list.DataSet().CountIsExact(); },
               QStringLiteral("شمار ردیف‌ها نرسید"));

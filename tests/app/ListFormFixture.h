@@ -50,6 +50,7 @@ public:
     void WaitForRows()
     {
         QTRY_VERIFY(List->SearchFrame().Filter_is_done());
+        List->SearchFrame().Refrenc_SearchManager->Flush();
         QVERIFY(List->DataSet().WaitForFirstPage());
         QTRY_VERIFY(List->DataSet().CountIsExact());
     }
@@ -61,11 +62,9 @@ public:
 
     static void Type(const QString& text)
     {
-        for (const QChar character : text) {
+        for (const QChar character : text)
             QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown,
                                 QString(character), Qt::NoModifier);
-            QCoreApplication::processEvents();
-        }
     }
 
     QString Text(int row, const QString& field) const

@@ -125,7 +125,6 @@ private Q_SLOTS:
         shop_->Press(Qt::Key_Up);
         QVERIFY(List().Grid().hasFocus());
         shop_->Press(Qt::Key_Backspace);
-        QCoreApplication::processEvents();
         QCOMPARE(List().SearchFrame().Search_EDT->Text(), QStringLiteral("ک"));
     }
 

@@ -14,8 +14,9 @@ public:
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        for (const QString& name : {QStringLiteral("HOME"), QStringLiteral("XDG_CONFIG_HOME"),
-                                    QStringLiteral("XDG_DATA_HOME"), QStringLiteral("XDG_CACHE_HOME")})
+        for (const QString& name :
+             {QStringLiteral("HOME"), QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("XDG_DATA_HOME"),
+              QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("XDG_RUNTIME_DIR")})
             environment.insert(name, Home.path());
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(WORKBENCH_PROGRAM), arguments);
