@@ -148,7 +148,8 @@ QColor Look::StringToColor(const QString& text)
         return system;
     const bool hexadecimal = name.startsWith(u'$');
     bool isNumber = false;
-    const quint32 value = hexadecimal ? name.mid(1).toUInt(&isNumber, 16) : name.toUInt(&isNumber, 10);
+    const quint32 value =
+        hexadecimal ? QStringView(name).mid(1).toUInt(&isNumber, 16) : name.toUInt(&isNumber, 10);
     return isNumber && value <= 0xffffffU ? FromColorValue(value) : QColor();
 }
 

@@ -4,6 +4,7 @@
 #include "PersianText.h"
 
 #include <QAbstractItemView>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyleHints>

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void textThatDoesNotFitEndsInAnEllipsisAtTheLeft();
     void emptyTextIsPaintedWhenThereIsNoRow();
     void focusShowsTheRing();
+    void switchOfTheDigitsReachesCellsAndHeader();
     void columnsBeyondTheWidthScrollIntoViewFromTheLeft();
 
 private:
@@ -199,6 +200,19 @@ void TestSmartDBGridPainting::focusShowsTheRing()
     QCOMPARE(edge(), Look::Color(TRole::Accent));
     edit_->setFocus();
     QVERIFY(edge() != Look::Color(TRole::Accent));
+}
+
+void TestSmartDBGridPainting::switchOfTheDigitsReachesCellsAndHeader()
+{
+    const QImage persian = CellImage(0, 2);
+    Look::SetDigits(Look::TDigits::Latin);
+    QTRY_COMPARE(grid_->font().family(), QStringLiteral("Vazirmatn UI"));
+    QCOMPARE(grid_->font().pixelSize(), 13);
+    QTRY_COMPARE(grid_->horizontalHeader()->font().family(), QStringLiteral("Vazirmatn UI"));
+    QVERIFY(grid_->horizontalHeader()->font().bold());
+    QVERIFY(CellImage(0, 2) != persian);
+    Look::SetDigits(Look::TDigits::Persian);
+    QTRY_COMPARE(CellImage(0, 2), persian);
 }
 
 void TestSmartDBGridPainting::columnsBeyondTheWidthScrollIntoViewFromTheLeft()
