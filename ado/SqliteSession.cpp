@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <QThread>
+#include <utility>
 
 namespace {
 
@@ -87,8 +88,28 @@ void TSqliteSession::SchemaChanged()
     schema_.Forget();
 }
 
+void TSqliteSession::RefreshSchema()
+{
+    const qint64 version = SchemaVersion();
+    if (std::exchange(schemaVersion_, version) != version)
+        SchemaChanged();
+}
+
+qint64 TSqliteSession::SchemaVersion()
+{
+    const QString words = QStringLiteral("PRAGMA schema_version");
+    TSqliteStatement* statement = nativeStatements_.Take(words);
+    const int code = sqlite3_step(statement->Handle);
+    const qint64 version = sqlite3_column_int64(statement->Handle, 0);
+    nativeStatements_.Give(statement);
+    if (code != SQLITE_ROW)
+        throw Failure(code, words);
+    return version;
+}
+
 std::unique_ptr<TSqliteStatement> TSqliteSession::PrepareTranslated(const QString& text)
 {
+    RefreshSchema();
     const Dialect::TTranslation translation = Dialect::TranslateStatement(text, schema_);
     return PrepareSqlite(handle_, text, translation.Text, translation.ColumnTypes, translation.ChangesSchema);
 }

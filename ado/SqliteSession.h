@@ -48,6 +48,9 @@ public:
 private:
     std::unique_ptr<TSqliteStatement> PrepareTranslated(const QString& text);
     std::unique_ptr<TSqliteStatement> PrepareNative(const QString& text) const;
+    /// Notices tables that another connection has changed.
+    void RefreshSchema();
+    qint64 SchemaVersion();
     static int OnBusy(void* session, int count);
     static int OnProgress(void* session);
 
@@ -58,6 +61,7 @@ private:
     TSqliteStatementCache nativeStatements_;
     std::vector<TSqliteRows*> openRows_;
     Dialect::TSqliteSchema schema_;
+    qint64 schemaVersion_ = -1;
 
     std::mutex cancelMutex_;
     int running_ = 0;

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void anUnfinishedReadIsClosedWithItsRows();
     void rowsSurviveTheirConnection();
     void columnsAddedMeanwhileAreSeen();
+    void aColumnThatAnotherUserAddsCanBeReckonedWith();
     void aFunctionAnswersWithinStatements();
     void aFunctionReadsTheSameDatabase();
     void aFunctionsErrorIsTheStatementsError();
@@ -218,6 +219,13 @@ void StatementsTest::columnsAddedMeanwhileAreSeen()
     const auto rows = engine_->Execute(text, {});
     QCOMPARE(rows->Columns().size(), 4);
     QCOMPARE(rows->Columns()[3].Type, TFieldType::ftBCD);
+}
+
+void StatementsTest::aColumnThatAnotherUserAddsCanBeReckonedWith()
+{
+    QCOMPARE(Column(QStringLiteral("SELECT Stock + Code FROM Goods WHERE Code = 1")).first().toInt(), 6);
+    file_->Run(QStringLiteral("ALTER TABLE Goods ADD COLUMN Weight INT; UPDATE Goods SET Weight = 40"));
+    QCOMPARE(Column(QStringLiteral("SELECT Stock + Weight FROM Goods WHERE Code = 1")).first().toInt(), 45);
 }
 
 void StatementsTest::aFunctionAnswersWithinStatements()
