@@ -62,6 +62,16 @@ int TPageReader::Count()
     return CountOf(statements_.CountAll());
 }
 
+QVariantList TPageReader::SomeKeys(int count)
+{
+    const TStatement statement = statements_.SomeKeys(count);
+    const auto rows = connection_.Run(statement.Text, statement.Parameters);
+    QVariantList keys;
+    while (rows->Next())
+        keys.append(rows->Value(0));
+    return keys;
+}
+
 std::optional<TSortKey> TPageReader::Find(const QVariant& key)
 {
     const TStatement statement = statements_.Find(key);

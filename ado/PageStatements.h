@@ -62,12 +62,19 @@ public:
     /// The places of all rows in order: order field and key, or the key alone where the list is ordered by
     /// it.
     TStatement Places() const;
+    /// The keys of up to `count` rows, in no order: for few rows quicker than an ordered reading, whose index
+    /// has to be followed row by row.
+    TStatement SomeKeys(int count) const;
+    /// The same list where its rows are known to be among those of some keys.
+    TPageStatements Narrowed(const QVariantList& keys) const;
     /// A statement without rows that tells the columns.
     TStatement Columns() const;
+    bool HasCondition() const { return !condition_.isEmpty(); }
     bool OrderedByKey() const { return orderIndex_ == keyIndex_; }
 
 private:
     QString Where(const QString& more) const;
+    QString PlacesWhere() const;
     QString OrderBy(bool descending) const;
     TPageSegment Beyond(const TSortKey& from, bool inclusive, bool descending) const;
     TPageSegment Empties(const TSortKey* from, bool inclusive, bool descending) const;
@@ -75,6 +82,7 @@ private:
 
     TPagedSource source_;
     QString condition_;
+    QVariantList conditionParameters_;
     int orderIndex_;
     int keyIndex_;
     bool descending_;

@@ -16,6 +16,9 @@ namespace {
 
 // Rows that one window shows at most; pages further apart than that are not wanted together.
 constexpr int rowsInSight = 200;
+// As many keys as fit into one statement of any engine.
+constexpr int fewRows = 1000;
+constexpr int probeInterval = 20; // milliseconds
 
 } // namespace
 
@@ -83,20 +86,57 @@ void TPagedLoader::MakeReady(TADOConnection& connection, bool reopen)
 
 void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TSortKey>& keep, bool reopen)
 {
-    const auto statements =
-        std::make_shared<const TPageStatements>(source_, query.Condition, query.OrderIndex, query.Order);
+    const TQuestion question{
+        query,
+        std::make_shared<const TPageStatements>(source_, query.Condition, query.OrderIndex, query.Order),
+        keep, reopen};
     countThread_->Abandon();
     queue_.Clear();
     growWanted_ = false;
     firstPending_ = true;
     firstFailed_ = false;
-    const auto work = [this, query, keep, statements,
-                       rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
-        return [this, question = TQuestion{query, statements}, pages = ReadFirst(reader, rows, keep)] {
-            ShowFirst(question, pages);
-        };
+    AskFirst(question);
+    if (question.Statements->HasCondition() && !question.Statements->OrderedByKey())
+        BeginProbe(question);
+    AnnounceBusy();
+}
+
+void TPagedLoader::AskFirst(const TQuestion& question)
+{
+    const auto work = [this, question, rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
+        return
+            [this, question, pages = ReadFirst(reader, rows, question.Keep)] { ShowFirst(question, pages); };
     };
-    pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, statements, reopen));
+    pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, question.Statements, question.Reopen));
+}
+
+// Along the index of an order the first page comes quickly where many rows match, and takes many times as
+// long as a plain scan where few do. So both run at once, and what the scan finds is read by its keys.
+void TPagedLoader::BeginProbe(const TQuestion& question)
+{
+    const auto work = [this, question](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, question, keys = reader.SomeKeys(fewRows + 1)] { TakeProbe(question, keys); };
+    };
+    countThread_->Begin(Task(work, &TPagedLoader::FailProbe, question.Statements, question.Reopen));
+}
+
+void TPagedLoader::TakeProbe(TQuestion question, const QVariantList& keys)
+{
+    if (firstPending_ && keys.isEmpty()) {
+        pageThread_->Abandon();
+        ShowFirst(question, {});
+        return;
+    }
+    if (firstPending_ && keys.size() <= fewRows) {
+        question.Statements = std::make_shared<const TPageStatements>(question.Statements->Narrowed(keys));
+        AskFirst(question);
+    }
+    AnnounceBusy();
+}
+
+// The reading of the first page tells what is wrong.
+void TPagedLoader::FailProbe(const EADOError&)
+{
     AnnounceBusy();
 }
 
@@ -119,7 +159,9 @@ void TPagedLoader::ShowFirst(const TQuestion& question, const TFirstPages& pages
     list_.Reset(pageSize_);
     list_.PutPage(0, {{}, 0, pageSize_}, pages.First, *statements_);
     const int row = pages.Around ? PutAround(*pages.Around) : qMin(0, list_.Count() - 1);
-    if (!list_.CountIsExact())
+    if (list_.CountIsExact())
+        countThread_->Abandon();
+    else
         BeginCount();
     const QPointer<TPagedLoader> alive(this);
     Q_EMIT replaced(row);
@@ -290,10 +332,23 @@ bool TPagedLoader::WaitForFirst(const QDeadlineTimer& deadline)
 {
     const QPointer<TPagedLoader> alive(this);
     while (alive && firstPending_) {
-        if (!WaitForAnswer(deadline))
+        if (TakeProbeAnswer())
+            continue;
+        const bool probing = countThread_->IsBusy();
+        const QDeadlineTimer soon(probing ? probeInterval : deadline.remainingTime());
+        if (!WaitForAnswer(soon < deadline ? soon : deadline) && alive && (!probing || deadline.hasExpired()))
             return false;
     }
     return alive && !firstFailed_;
+}
+
+// While the first page is awaited the other thread does nothing but probe.
+bool TPagedLoader::TakeProbeAnswer()
+{
+    const TQueryThread::TAnswer answer = countThread_->TakeAnswer();
+    if (answer)
+        answer();
+    return static_cast<bool>(answer);
 }
 
 bool TPagedLoader::WaitForRow(int row, const QDeadlineTimer& deadline)

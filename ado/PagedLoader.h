@@ -82,6 +82,8 @@ private:
     {
         TPagedQuery Query;
         std::shared_ptr<const TPageStatements> Statements;
+        std::optional<TSortKey> Keep;
+        bool Reopen = false;
     };
 
     std::unique_ptr<TQueryThread> MakeThread(TADOConnection& connection);
@@ -92,6 +94,10 @@ private:
     static void MakeReady(TADOConnection& connection, bool reopen);
     static TFirstPages ReadFirst(TPageReader& reader, int pageSize, const std::optional<TSortKey>& keep);
 
+    void AskFirst(const TQuestion& question);
+    void BeginProbe(const TQuestion& question);
+    void TakeProbe(TQuestion question, const QVariantList& keys);
+    void FailProbe(const EADOError& error);
     void ShowFirst(const TQuestion& question, const TFirstPages& pages);
     int PutAround(const TPageReader::TAround& around);
     void FailFirst(const EADOError& error);
@@ -106,6 +112,7 @@ private:
     void TakePage(int page, const TPagePlan& plan, const TPageRows& rows);
     void FailPage(const EADOError& error);
     bool WaitForAnswer(const QDeadlineTimer& deadline);
+    bool TakeProbeAnswer();
 
     void AnnounceBusy();
     void Fail(const EADOError& error);

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void countsRowsWithTheSameCondition();
     void findsTheSortKeyOfAKey();
     void listsThePlacesOfAllRows();
+    void listsThePlacesOfAnotherOrderByTheKeysThatMatch();
+    void readsFewRowsByTheirKeys();
     void asksForTheColumnsWithoutRows();
     void findsFieldsWhateverTheLetterCaseAndBrackets();
     void refusesASourceWithoutItsKey();
@@ -161,11 +163,31 @@ void TestPageStatements::findsTheSortKeyOfAKey()
 
 void TestPageStatements::listsThePlacesOfAllRows()
 {
-    QCOMPARE(Statements(0, Qt::DescendingOrder).Places().Text,
-             QStringLiteral("SELECT Code FROM dbo.kala ORDER BY Code DESC"));
-    QCOMPARE(Statements(2, Qt::DescendingOrder, QStringLiteral("Active = 1")).Places().Text,
+    QCOMPARE(Statements(0, Qt::DescendingOrder, QStringLiteral("Active = 1")).Places().Text,
+             QStringLiteral("SELECT Code FROM dbo.kala WHERE Active = 1 ORDER BY Code DESC"));
+    QCOMPARE(Statements(1, Qt::AscendingOrder).Places().Text,
+             QStringLiteral("SELECT Name, Code FROM dbo.kala ORDER BY Name, Code"));
+}
+
+void TestPageStatements::listsThePlacesOfAnotherOrderByTheKeysThatMatch()
+{
+    QCOMPARE(
+        Statements(2, Qt::DescendingOrder, QStringLiteral("Active = 1")).Places().Text,
+        QStringLiteral("SELECT [Price], Code FROM dbo.kala WHERE Code IN (SELECT Code FROM dbo.kala WHERE "
+                       "Active = 1) ORDER BY [Price] DESC, Code DESC"));
+}
+
+void TestPageStatements::readsFewRowsByTheirKeys()
+{
+    const auto statements = Statements(1, Qt::AscendingOrder, QStringLiteral("Active = 1"));
+    QCOMPARE(statements.SomeKeys(11).Text,
+             QStringLiteral("SELECT TOP 11 Code FROM dbo.kala WHERE Active = 1"));
+    QVariantList parameters;
+    QCOMPARE(Texts(statements.Narrowed({3, 7, 9}), {somewhere, false, false}, &parameters),
              QStringLiteral(
-                 "SELECT [Price], Code FROM dbo.kala WHERE Active = 1 ORDER BY [Price] DESC, Code DESC"));
+                 "SELECT TOP 10 Code, Name, [Price] FROM dbo.kala WHERE ((Active = 1) AND Code IN (?, ?, ?)) "
+                 "AND Name >= ? AND (Name > ? OR Code > ?) ORDER BY Name, Code"));
+    QCOMPARE(parameters, (QVariantList{3, 7, 9, somewhere.Order, somewhere.Order, somewhere.Key}));
 }
 
 void TestPageStatements::asksForTheColumnsWithoutRows()

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void knownRowsGrowWhileTheLastOnesAreLookedAt();
     void theLastRowIsReachedOnceTheCountIsThere();
     void aListWithoutRowsIsEmpty();
+    void isEmptyWaitsForTheNewCondition_data();
     void isEmptyWaitsForTheNewCondition();
     void aClosedListIsEmpty();
     void openingRefusesATableThatIsNotThere();
@@ -81,6 +82,8 @@ void TestPagedDataSet::walkingMeetsEveryRowInOrder_data()
                                                << "Name, Code";
     QTest::newRow("fewer rows than a page") << "Name" << up << "Code <= 5"
                                             << "Name, Code";
+    QTest::newRow("few rows of another order") << "Name" << up << "Price = 50.5 OR Price = 51.5"
+                                               << "Name, Code";
     QTest::newRow("exactly two pages") << "Code" << up << "Code <= 194"
                                        << "Code";
 }
@@ -221,13 +224,23 @@ void TestPagedDataSet::aListWithoutRowsIsEmpty()
     QVERIFY(!dataSet->Busy());
 }
 
+void TestPagedDataSet::isEmptyWaitsForTheNewCondition_data()
+{
+    QTest::addColumn<QString>("orderField");
+    QTest::newRow("by key") << "Code";
+    QTest::newRow("by another field") << "Name";
+}
+
 void TestPagedDataSet::isEmptyWaitsForTheNewCondition()
 {
+    QFETCH(const QString, orderField);
     const auto dataSet = goods_.DataSet();
     dataSet->Open();
+    dataSet->SetOrder(orderField, Qt::AscendingOrder);
     QVERIFY(!dataSet->IsEmpty());
     dataSet->SetCondition(QStringLiteral("Code < 0"));
     QVERIFY(dataSet->IsEmpty());
+    QVERIFY(dataSet->CountIsExact());
     dataSet->SetCondition(QStringLiteral("Code = 77"));
     QVERIFY(!dataSet->IsEmpty());
     QCOMPARE(dataSet->RecordCount(), 1);
