@@ -164,7 +164,11 @@ QString DateTextOf(qint64 moment)
 
 std::optional<qint64> MomentOf(QStringView text)
 {
-    TReader reader(text.trimmed());
+    text = text.trimmed();
+    // A text without anything is the server's day zero.
+    if (text.isEmpty())
+        return StartOf(QDate(1900, 1, 1));
+    TReader reader(text);
     const QDate date = ReadDate(reader);
     qint64 time = 0;
     if (!reader.AtEnd()) {

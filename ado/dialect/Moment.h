@@ -8,7 +8,7 @@ namespace Dialect {
 
 /// Milliseconds since 0001-01-01T00:00:00 of a date, or date and time, as the server reads it: YYYYMMDD,
 /// YYYY-MM-DD or YYYY/MM/DD, and optionally hh:mm[:ss[.fraction]] behind a blank or T. Digits past the third
-/// of the fraction are cut. Nothing when the text is none of these.
+/// of the fraction are cut. An empty text is 1900-01-01. Nothing when the text is none of these.
 std::optional<qint64> MomentOf(QStringView text);
 /// YYYY-MM-DD; empty when the text is no date.
 QString DateText(QStringView text);

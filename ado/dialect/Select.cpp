@@ -1,5 +1,8 @@
 #include "Select.h"
 
+#include <algorithm>
+#include <QLatin1StringView>
+
 namespace Dialect {
 
 TType TSelectText::ColumnType() const
@@ -216,15 +219,19 @@ QString TSelect::Order(const TSelectText& whole)
 
 QString TSelect::OrderItem(const TSelectText& whole)
 {
-    QString item;
     const TToken& token = cursor_.Peek();
-    const bool standsAlone = !cursor_.Peek(1).Is(TSymbol::Dot) && !cursor_.Peek(1).Is(TSymbol::OpenBracket);
-    const bool isAlias = token.IsName() && standsAlone &&
-                         std::any_of(whole.Columns.begin(), whole.Columns.end(), [&](const TColumn& column) {
-                             return column.Name.compare(token.Name(), Qt::CaseInsensitive) == 0;
-                         });
-    const bool endsHere = !cursor_.Peek(1).Is(TSymbol::Plus) && !cursor_.Peek(1).Is(TKeyword::Collate);
-    if ((isAlias || isCompound_) && token.IsName() && endsHere)
+    const TToken& next = cursor_.Peek(1);
+    const bool standsAlone = next.Kind == TTokenKind::End || next.Is(TSymbol::Comma) ||
+                             next.Is(TSymbol::Semicolon) || next.Is(TSymbol::CloseBracket) ||
+                             next.Is(TKeyword::Asc) || next.Is(TKeyword::Desc) ||
+                             next.IsWord(QLatin1StringView("OFFSET"));
+    const bool isName = token.IsName() && standsAlone;
+    const bool isAlias =
+        isName && std::any_of(whole.Columns.begin(), whole.Columns.end(), [&](const TColumn& column) {
+            return column.Name.compare(token.Name(), Qt::CaseInsensitive) == 0;
+        });
+    QString item;
+    if (isAlias || (isCompound_ && isName))
         item = QuotedName(cursor_.Take().Name());
     else if (token.Kind == TTokenKind::Number)
         item = QString::number(cursor_.ExpectNumber());

@@ -1,5 +1,7 @@
 #include "FunctionCall.h"
 
+#include "Moment.h"
+
 #include <array>
 #include <QLatin1StringView>
 
@@ -92,24 +94,25 @@ TPiece UtcNow(const TFunctionCall&)
     return WholePiece(QStringLiteral("ado_utcnow()"), {TKind::DateTime});
 }
 
-TPiece DatePart(const TFunctionCall& call, int part)
+TPiece DatePart(const TFunctionCall& call, TMomentPart part)
 {
-    return WholePiece(Call("ado_datepart", {QString::number(part), call.Sql(0)}), {TKind::Int});
+    return WholePiece(Call("ado_datepart", {QString::number(static_cast<int>(part)), call.Sql(0)}),
+                      {TKind::Int});
 }
 
 TPiece Year(const TFunctionCall& call)
 {
-    return DatePart(call, 0);
+    return DatePart(call, TMomentPart::Year);
 }
 
 TPiece Month(const TFunctionCall& call)
 {
-    return DatePart(call, 2);
+    return DatePart(call, TMomentPart::Month);
 }
 
 TPiece Day(const TFunctionCall& call)
 {
-    return DatePart(call, 3);
+    return DatePart(call, TMomentPart::Day);
 }
 
 TPiece ScopeIdentity(const TFunctionCall&)
@@ -117,7 +120,6 @@ TPiece ScopeIdentity(const TFunctionCall&)
     return WholePiece(QStringLiteral("last_insert_rowid()"), {TKind::BigInt});
 }
 
-/// Bytes: two for every unit of a text.
 TPiece DataLength(const TFunctionCall& call)
 {
     const TType& type = call.At(0).Type;

@@ -127,6 +127,9 @@ void TDialectExpressionsTest::MomentRows()
     StatementRow("seconds between", QStringLiteral("DATEDIFF(second, at, DATEADD(minute, 2, at))"), {"120"});
     StatementRow("years between count borders", QStringLiteral("DATEDIFF(year, '2023-12-31', '2024-01-01')"),
                  {"1"});
+    StatementRow("empty text is the first day", QStringLiteral("CAST('' AS date)"), {"1900-01-01"});
+    StatementRow("rubbish as date", QStringLiteral("CAST('1403/13/01' AS date)"),
+                 {"error: Conversion failed when converting the value '1403/13/01' to data type datetime."});
     StatementRow("year", QStringLiteral("YEAR(day)"), {"2024"});
     StatementRow("now has just passed",
                  QStringLiteral("CASE WHEN DATEDIFF(second, GETDATE(), GETDATE()) <= 1 THEN 1 ELSE 0 END"),

@@ -74,6 +74,10 @@ void TDialectSelectTest::aStatementDeliversTheRowsOfTheServer_data()
     row("group by joined text",
         QStringLiteral("SELECT COUNT(*) AS c FROM kala GROUP BY RTRIM(Name) + N'.' ORDER BY c"), {"1", "2"});
     row("order by alias", QStringLiteral("SELECT Code AS c FROM kala ORDER BY c DESC"), {"3", "2", "1"});
+    row("order by a value of a column", QStringLiteral("SELECT Code FROM kala ORDER BY Code * -1"),
+        {"3", "2", "1"});
+    row("order by code points",
+        QStringLiteral("SELECT Code FROM kala ORDER BY Name COLLATE Latin1_General_BIN2"), {"2", "3", "1"});
     row("order by money is by value", QStringLiteral("SELECT Code FROM kala ORDER BY Price"),
         {"3", "1", "2"});
     row("order puts Latin before Persian", QStringLiteral("SELECT Title FROM groups ORDER BY Title"),
