@@ -8,6 +8,9 @@
 /// it.
 namespace DecimalText {
 
+/// As many digits behind the point as a long double can give.
+constexpr int MostDecimals = 18;
+
 enum class TFinding { Nothing, One, Several };
 
 /// Looks for the one number in a text of any origin: "۱٬۲۳۴٬۵۰۰ ریال", "(1,234)", "1 234.5", "1,200-".

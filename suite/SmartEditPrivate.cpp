@@ -8,12 +8,6 @@
 #include <QPointer>
 #include <utility>
 
-namespace {
-
-constexpr int MostDecimals = 18;
-
-} // namespace
-
 TSmartEdit_TRV::TPrivate::TPrivate(TSmartEdit_TRV* owner) : edit(owner)
 {
     delay.setSingleShot(true);
@@ -38,7 +32,7 @@ QString TSmartEdit_TRV::TPrivate::CodeNumber(const QString& text) const
 {
     QString plain = PersianText::NumberFromAnyScript(text);
     if (plain.isEmpty())
-        plain = DecimalText::FromValue(DecimalText::ToValue(text.trimmed()), MostDecimals);
+        plain = DecimalText::FromValue(DecimalText::ToValue(text.trimmed()), DecimalText::MostDecimals);
     return DecimalText::DecimalCount(plain) > Decimals() ? DecimalText::Rounded(plain, Decimals())
                                                          : DecimalText::Settled(plain);
 }
@@ -156,7 +150,7 @@ void TSmartEdit_TRV::TPrivate::KeepBounds()
     if (!IsBounded() || (value >= minValue && value <= maxValue))
         return;
     const double bound = value < minValue ? minValue : maxValue;
-    const QString text = DecimalText::FromValue(bound, MostDecimals);
+    const QString text = DecimalText::FromValue(bound, DecimalText::MostDecimals);
     number.Assign(DecimalText::Rounded(text, Decimals()));
     Balloon::Show(edit, (value < minValue
                              ? QStringLiteral("کمترین مقدار این کادر %1 است و به جای عدد شما گذاشته شد.")
@@ -183,7 +177,8 @@ void TSmartEdit_TRV::TPrivate::RefreshHint()
     if (!currencyTitle.isEmpty())
         lines << QStringLiteral("نوع ارز: ") + PersianText::Isolated(currencyTitle);
     if (currencyRate != 0)
-        lines << QStringLiteral("نرخ ارز: ") + PersianText::Isolated(DecimalText::Grouped(
-                                                   DecimalText::FromValue(currencyRate, MostDecimals)));
+        lines << QStringLiteral("نرخ ارز: ") +
+                     PersianText::Isolated(DecimalText::Grouped(
+                         DecimalText::FromValue(currencyRate, DecimalText::MostDecimals)));
     edit->setToolTip(lines.join(u'\n'));
 }

@@ -7,7 +7,7 @@
 #include "PersianText.h"
 #include "SmartEditPrivate.h"
 
-#include <QAction>
+#include <limits>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -15,12 +15,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPointer>
-
-namespace {
-
-constexpr int MostDecimals = 18;
-
-} // namespace
 
 TSmartEdit_TRV::TSmartEdit_TRV(QWidget* parent) : QLineEdit(parent), d(std::make_unique<TPrivate>(this))
 {
@@ -88,7 +82,7 @@ int TSmartEdit_TRV::Precision() const
 
 void TSmartEdit_TRV::SetPrecision(int digits)
 {
-    d->precision = qBound(0, digits, MostDecimals);
+    d->precision = qBound(0, digits, DecimalText::MostDecimals);
     if (d->IsNumber())
         d->SetText(Text());
 }
@@ -179,7 +173,7 @@ long double TSmartEdit_TRV::GetValue() const
 
 void TSmartEdit_TRV::SetValue(long double value)
 {
-    d->SetText(DecimalText::FromValue(value, d->IsNumber() ? d->Decimals() : MostDecimals));
+    d->SetText(DecimalText::FromValue(value, d->IsNumber() ? d->Decimals() : DecimalText::MostDecimals));
 }
 
 void TSmartEdit_TRV::SetEnabled(bool enabled)
