@@ -168,7 +168,7 @@ void TSmartEdit_TRV::TPrivate::Type(const QString& text)
 }
 
 // As much of a text as the edit still has room for.
-QString TSmartEdit_TRV::TPrivate::FittingText(const QString& text)
+QString TSmartEdit_TRV::TPrivate::FittingText(const QString& text) const
 {
     const int limit = maxLength > 0 ? maxLength : LongestLine;
     const qsizetype room = limit - (edit->text().size() - edit->selectedText().size());

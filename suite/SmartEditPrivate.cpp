@@ -169,7 +169,7 @@ void TSmartEdit_TRV::TPrivate::ClearError()
     edit->update();
 }
 
-void TSmartEdit_TRV::TPrivate::RefreshHint()
+void TSmartEdit_TRV::TPrivate::RefreshHint() const
 {
     if (!multiCurrency)
         return;

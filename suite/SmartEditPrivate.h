@@ -36,7 +36,7 @@ struct TSmartEdit_TRV::TPrivate
     void Settle();
     void KeepBounds();
     void ClearError();
-    void RefreshHint();
+    void RefreshHint() const;
 
     // SmartEditInput.cpp: from the user to the text
     bool HandleKey(QKeyEvent* event);
@@ -44,7 +44,7 @@ struct TSmartEdit_TRV::TPrivate
     bool Edit(const std::function<bool(TNumberText&)>& change);
     bool IsWithinReach(const TNumberText& candidate);
     void Type(const QString& text);
-    QString FittingText(const QString& text);
+    QString FittingText(const QString& text) const;
     bool Paste(const QString& text);
     bool PasteNumber(const QString& text);
     bool PasteText(const QString& text);
