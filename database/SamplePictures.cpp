@@ -31,7 +31,7 @@ void SampleParts::FillPictures(TSampleContext& context)
     const QByteArray shelf = ShelfPicture();
     for (int code = 1; code <= context.Size.PicturedRecords; ++code) {
         for (int number = 1; number <= 1 + (code - 1) % MostPicturesOfOne; ++number) {
-            const auto seed = static_cast<quint64>(code * MostPicturesOfOne + number);
+            const auto seed = static_cast<quint64>(code) * MostPicturesOfOne + static_cast<quint64>(number);
             gallery.Add({GoodsPictures, code, QStringLiteral("kala-%1-%2.png").arg(code).arg(number),
                          PngPicture::Goods(seed)});
         }

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <QVector>
+#include <tuple>
 
 class TADOConnection;
 
@@ -14,7 +15,11 @@ struct TAccount
     int Assistant = 0;
     int Detail = 0;
 
-    friend auto operator<=>(const TAccount&, const TAccount&) = default;
+    friend bool operator<(const TAccount& first, const TAccount& second)
+    {
+        return std::tie(first.Total, first.Assistant, first.Detail) <
+               std::tie(second.Total, second.Assistant, second.Detail);
+    }
 };
 
 /// An amount in foreign currency.
