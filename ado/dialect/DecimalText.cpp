@@ -7,7 +7,7 @@ namespace Dialect {
 
 namespace {
 
-constexpr std::size_t MostDigits = 72;
+constexpr std::size_t MostDigits = 38;
 constexpr std::array<std::uint32_t, 10> PowersOfTen{1,      10,      100,      1000,      10000,
                                                     100000, 1000000, 10000000, 100000000, 1000000000};
 

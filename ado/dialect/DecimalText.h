@@ -14,7 +14,8 @@ int CompareDecimals(std::string_view first, std::string_view second);
 /// Whether the text is the shortest form of its number and fits decimal(precision, scale) as it stands.
 bool IsShortestDecimal(std::string_view text, int precision, int scale);
 
-/// An exact decimal number of up to 72 digits, as money and decimal columns hold it.
+/// An exact decimal number, as money and decimal columns hold it: read with up to 38 digits, as the server
+/// has them, and wide enough inside for the sum or product of two such numbers.
 class TDecimal
 {
 public:
@@ -22,7 +23,7 @@ public:
     explicit TDecimal(std::int64_t value);
 
     /// Blanks around, a sign, digits, one dot; an exponent is understood too. Nothing when it is no number or
-    /// has more than 72 digits.
+    /// has more than 38 digits.
     static std::optional<TDecimal> From(std::string_view text);
 
     /// The shortest text: no trailing zeros behind the dot, no dot without digits.

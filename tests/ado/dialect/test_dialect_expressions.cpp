@@ -58,6 +58,13 @@ void TDialectExpressionsTest::JoinedRows()
     StatementRow("money times a number", QStringLiteral("m * n"), {"87.5"});
     StatementRow("more digits than a double has", QStringLiteral("m + 900000000000000.0001"),
                  {"900000000000012.5001"});
+    StatementRow("product of long decimals", QStringLiteral("123456789012345678.5 * 987654321098765432.25"),
+                 {"121932631137021794847203170023472031.625"});
+    StatementRow(
+        "number of forty digits",
+        QStringLiteral("CAST(N'1234567890123456789012345678901234567890' AS decimal(38,0))"),
+        {"error: Conversion failed when converting the value '1234567890123456789012345678901234567890' to "
+         "data type numeric."});
     StatementRow("joined texts in CASE", QStringLiteral("(case when e is null then t else e+'x' end) + '!'"),
                  {"متن!"});
     StatementRow("whole division", QStringLiteral("n / 2"), {"3"});
