@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainterPath>
 #include <QPushButton>
 #include <QRawFont>
 #include <QTest>
