@@ -233,7 +233,7 @@ TPiece TExpressions::Signed()
         return Collated();
     const TNesting nesting(cursor_);
     cursor_.Take();
-    const TPiece operand = Signed();
+    TPiece operand = Signed();
     if (operand.IsCondition || operand.Type.IsText() || operand.Type.IsMoment() ||
         operand.Type.Kind == TKind::Blob)
         cursor_.Refuse(sign, "the sign stands before something that is no number");
@@ -361,7 +361,7 @@ TPiece TExpressions::Named()
 
 TPiece TExpressions::ColumnOf(const QStringList& path)
 {
-    const QString column = path.last();
+    const QString& column = path.last();
     const QString qualifier = path.size() > 1 ? path[path.size() - 2] : QString();
     TPiece piece = WholePiece(qualifier.isEmpty() ? QuotedName(column)
                                                   : QuotedName(qualifier) + u'.' + QuotedName(column),

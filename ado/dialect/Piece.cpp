@@ -180,7 +180,7 @@ QString ComparisonSubject(const TPiece& left, const QVector<TPiece>& others, con
         left.CarriesCollation && (left.Type.IsWhole() || left.Type.Kind == TKind::Float);
     if (isPlainNumber && std::all_of(others.begin(), others.end(), isNumberAsWritten))
         return left.Sql;
-    const QString subject = Converted(left, common);
+    QString subject = Converted(left, common);
     if (!common.IsText() && !common.IsExact())
         return subject;
     const auto yields = [](const TPiece& piece) {

@@ -252,7 +252,7 @@ QString TSelect::Limit()
         return hasTop ? QLatin1String(" LIMIT ") + top_ : QString();
     }
     const auto rows = [this] {
-        const QString count = Bracketed(TExpressions(cursor_, scope_).Value());
+        QString count = Bracketed(TExpressions(cursor_, scope_).Value());
         if (!cursor_.AcceptWord(QLatin1StringView("ROWS")))
             cursor_.ExpectWord(QLatin1StringView("ROW"));
         return count;

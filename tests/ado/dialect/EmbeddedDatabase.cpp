@@ -50,7 +50,7 @@ QStringList TEmbeddedDatabase::Rows(const QString& tsql, const QStringList& para
 {
     try {
         const Dialect::TTranslation translation = Dialect::TranslateStatement(tsql, *schema_);
-        const QStringList rows = RunTranslated(translation.Text, parameters);
+        QStringList rows = RunTranslated(translation.Text, parameters);
         if (translation.ChangesSchema)
             schema_->Forget();
         return rows;
