@@ -2,7 +2,7 @@
 
 #include "AdoError.h"
 #include "DataSet.h"
-#include "DecimalText.h"
+#include "ExactDecimal.h"
 
 #include <cmath>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "LocateMatch.h"
 
-#include "DecimalText.h"
+#include "ExactDecimal.h"
 
 #include <QDateTime>
 #include <QLocale>

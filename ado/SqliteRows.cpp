@@ -1,6 +1,6 @@
 #include "SqliteRows.h"
 
-#include "DecimalText.h"
+#include "ExactDecimal.h"
 #include "SqliteValue.h"
 
 #include <limits>

@@ -1,8 +1,8 @@
-#include "DecimalText.h"
+#include "ExactDecimal.h"
 
 #include <QTest>
 
-class DecimalTextTest : public QObject
+class ExactDecimalTest : public QObject
 {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ private Q_SLOTS:
     void whatIsNoNumberStays();
 };
 
-void DecimalTextTest::aNumberHasOneSpelling_data()
+void ExactDecimalTest::aNumberHasOneSpelling_data()
 {
     QTest::addColumn<QString>("spelling");
     const auto row = [](const char* text, const char* spelling) {
@@ -38,7 +38,7 @@ void DecimalTextTest::aNumberHasOneSpelling_data()
     row("1000000000000000000000000000000000000.000", "1000000000000000000000000000000000000");
 }
 
-void DecimalTextTest::aNumberHasOneSpelling()
+void ExactDecimalTest::aNumberHasOneSpelling()
 {
     QFETCH(QString, spelling);
     const QString text = QString::fromLatin1(QTest::currentDataTag());
@@ -47,7 +47,7 @@ void DecimalTextTest::aNumberHasOneSpelling()
     QCOMPARE(CanonicalDecimal(text), spelling);
 }
 
-void DecimalTextTest::whatIsNoNumberStays_data()
+void ExactDecimalTest::whatIsNoNumberStays_data()
 {
     QTest::addColumn<QString>("text");
     for (const char* text : {"", "-", ".", "1.2.3", "1e5", "--1", "12,5", "1 2", "x", "5-"})
@@ -55,7 +55,7 @@ void DecimalTextTest::whatIsNoNumberStays_data()
     QTest::newRow("Persian digits") << QStringLiteral("۱۲");
 }
 
-void DecimalTextTest::whatIsNoNumberStays()
+void ExactDecimalTest::whatIsNoNumberStays()
 {
     QFETCH(QString, text);
     QVERIFY(!IsDecimal(text));
@@ -63,5 +63,5 @@ void DecimalTextTest::whatIsNoNumberStays()
     QCOMPARE(CanonicalDecimal(text), text);
 }
 
-QTEST_APPLESS_MAIN(DecimalTextTest)
-#include "test_decimal_text.moc"
+QTEST_APPLESS_MAIN(ExactDecimalTest)
+#include "test_exact_decimal.moc"

@@ -1,4 +1,4 @@
-#include "DecimalText.h"
+#include "ExactDecimal.h"
 
 #include <algorithm>
 #include <QStringView>
