@@ -41,16 +41,6 @@ QAction* AddChoice(QMenu* menu, QActionGroup* group, const QString& name, const 
     return action;
 }
 
-TSmartLabel_TRV* NewStatusLabel(const QString& text, QWidget* parent)
-{
-    auto* label = new TSmartLabel_TRV(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(RelativeFonts::Small());
-    label->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
-    label->SetCaption(text);
-    return label;
-}
-
 } // namespace
 
 TMainWindow::TMainWindow(TReferenceHost& host, const QString& databaseName)
@@ -171,15 +161,24 @@ QWidget* TMainWindow::NewNavigation()
 
 void TMainWindow::AddStatus(const QString& databaseName)
 {
-    const bool gregorian = host_->Settings().SettingRecord().IsGregorian();
+    const THostSettings& settings = host_->Settings();
+    auto* line = new QWidget(this);
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
+    row->setSpacing(Look::GroupGap);
+    const auto add = [line, row](const QString& text) {
+        auto* label = new TSmartLabel_TRV(line);
+        label->setTextFormat(Qt::PlainText);
+        label->setFont(RelativeFonts::Small());
+        label->SetCaption(text);
+        row->addWidget(label);
+    };
+    add(QStringLiteral("بانک: %1").arg(PersianText::Isolated(databaseName)));
+    row->addStretch(1);
+    add(QStringLiteral("کاربر: %1").arg(PersianText::Isolated(settings.UserInfo().Name)));
+    add(DisplayText::DayInWords(host_->Clock().Today(), settings.SettingRecord().IsGregorian()));
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
-    statusBar()->addWidget(
-        NewStatusLabel(QStringLiteral("بانک: %1").arg(PersianText::Isolated(databaseName)), this), 1);
-    statusBar()->addPermanentWidget(NewStatusLabel(
-        QStringLiteral("کاربر: %1").arg(PersianText::Isolated(host_->Settings().UserInfo().Name)), this));
-    statusBar()->addPermanentWidget(
-        NewStatusLabel(DisplayText::DayInWords(host_->Clock().Today(), gregorian), this));
+    statusBar()->addWidget(line, 1);
 }
 
 TListForm* TMainWindow::OpenList(const QString& key)

@@ -104,10 +104,10 @@ void TTourPlayer::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void TTourPlayer::Type(const QString& text)
 {
-    for (const QChar character : text) {
+    // Without a pause between the strokes: a quick typist, whose text is applied once.
+    for (const QChar character : text)
         QTest::sendKeyEvent(QTest::Click, KeyReceiver(), Qt::Key_unknown, QString(character), Qt::NoModifier);
-        QTest::qWait(breath);
-    }
+    QTest::qWait(breath);
 }
 
 void TTourPlayer::Click(QWidget* widget, const QPoint& position)
