@@ -5,8 +5,8 @@
 
 namespace {
 
-const QString Before = QStringLiteral("SELECT Code FROM dbo.kala WHERE [SearchName] LIKE N'%");
-const QString After = QStringLiteral("%'");
+constexpr QLatin1String Before("SELECT Code FROM dbo.kala WHERE [SearchName] LIKE N'%");
+constexpr QLatin1String After("%'");
 
 /// The text is one literal from its first to its last character: quotes stand in pairs only.
 bool IsOneLiteral(QString text)
