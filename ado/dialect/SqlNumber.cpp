@@ -149,7 +149,7 @@ void FloatAsText(sqlite3_context* context, int, sqlite3_value** values)
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%.6g", sqlite3_value_double(values[0]));
     std::string text(buffer);
-    const std::size_t exponent = text.find_first_of("e");
+    const std::size_t exponent = text.find('e');
     if (exponent != std::string::npos && text.size() - exponent == 4)
         text.insert(exponent + 2, 1, '0');
     ResultText(context, text);
