@@ -214,7 +214,7 @@ public:
             const char32_t letter = Key(source.Take());
             // Of a letter given twice the first counts.
             if (!Find(letter))
-                pairs_.push_back({letter, target.Take()});
+                pairs_.emplace_back(letter, target.Take());
             else
                 target.Take();
             mask_ |= Bit(letter);
