@@ -29,7 +29,7 @@ if(MSVC)
 else()
   target_compile_options(baseframe_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-    -Wconversion -Wno-sign-conversion -Wnull-dereference -Wformat=2 -Werror)
+    -Wconversion -Wno-sign-conversion -Wformat=2 -Werror)
 endif()
 if(BASEFRAME_SANITIZE)
   target_compile_options(baseframe_options INTERFACE
