@@ -52,7 +52,7 @@ void TSqliteStatement::ReadColumns()
     }
 }
 
-bool TSqliteStatement::WasReprepared()
+bool TSqliteStatement::WasReprepared() const
 {
     return sqlite3_stmt_status(Handle, SQLITE_STMTSTATUS_REPREPARE, 1) > 0;
 }

@@ -18,7 +18,7 @@ struct TSqliteStatement
     /// Reads names and declared types of the result columns, again after SQLite has prepared anew by itself.
     void ReadColumns();
     /// True once after the schema has changed under the statement.
-    bool WasReprepared();
+    bool WasReprepared() const;
     /// Gives the columns that are expressions the type of the current row's value.
     void TypeExpressionsByCurrentRow();
 
