@@ -152,6 +152,11 @@ int TWorkbench::Start(const TCommandLine& line)
     QTemporaryDir tourSettings;
     const bool tour = !line.TourFolder.isEmpty();
     THostSettings settings(tour ? tourSettings.filePath(QStringLiteral("settings.ini")) : QString());
+    if (!settings.IsReadable())
+        StartMessages::PrintError(
+            QStringLiteral(
+                "پروندهٔ تنظیمات %1 خوانده نشد و دست‌نخورده ماند؛ برنامه با تنظیمات نخستین باز می‌شود.")
+                .arg(PersianText::Isolated(THostSettings::DefaultFileName())));
     if (tour)
         MakeFolder(line.TourFolder);
     TStatementLog log;

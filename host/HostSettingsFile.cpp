@@ -20,6 +20,9 @@ THostSettings::THostSettings(const QString& fileName)
     : file_(std::make_unique<QSettings>(fileName.isEmpty() ? DefaultFileName() : fileName,
                                         QSettings::IniFormat))
 {
+    readable_ = file_->status() == QSettings::NoError;
+    if (!readable_)
+        file_ = std::make_unique<QSettings>(QString(), QSettings::IniFormat);
     Read();
 }
 
@@ -27,11 +30,6 @@ QString THostSettings::DefaultFileName()
 {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
         .filePath(QStringLiteral("settings.ini"));
-}
-
-bool THostSettings::IsReadable() const
-{
-    return file_->status() == QSettings::NoError;
 }
 
 void THostSettings::Read()

@@ -14,8 +14,9 @@ public:
     explicit THostSettings(const QString& fileName = {});
 
     static QString DefaultFileName();
-    /// False where the file is there but cannot be read as settings; the defaults are in force then.
-    bool IsReadable() const;
+    /// False where the file is there but cannot be read as settings. The defaults are in force then, and the
+    /// file stays as it is: changes last as long as the program runs.
+    bool IsReadable() const { return readable_; }
 
     const TSettingRecord& SettingRecord() const override { return record_; }
     const TIniOptions& IniOptions() const override { return options_; }
@@ -34,6 +35,7 @@ private:
     void Read();
 
     std::unique_ptr<QSettings> file_;
+    bool readable_ = true;
     TSettingRecord record_;
     TIniOptions options_;
     TUserInfo user_;

@@ -2,10 +2,12 @@
 #include "ModalBox.h"
 #include "NotOffered.h"
 
+#include "ADOConnection.h"
 #include "AdoError.h"
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <thread>
 
 namespace {
@@ -152,6 +154,42 @@ private Q_SLOTS:
         edit.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&edit));
         QCOMPARE(QApplication::focusWidget(), &edit);
+    }
+
+    void aLostConnectionIsOpenedAgainOnTheUsersWordOnly_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("reopened");
+        QTest::newRow("Enter opens it") << static_cast<int>(Qt::Key_Return) << true;
+        QTest::newRow("Escape leaves it") << static_cast<int>(Qt::Key_Escape) << false;
+    }
+
+    void aLostConnectionIsOpenedAgainOnTheUsersWordOnly()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, reopened);
+        Application().SetErrorDisplay({});
+        TADOConnection connection;
+        connection.SetConnectionString(QStringLiteral("sqlite::memory:"));
+        Application().SetConnection(&connection);
+        QSignalSpy spy(&Application(), &THostApplication::connectionReopened);
+        ModalBox::TAnswer answer(ModalBox::Key(static_cast<Qt::Key>(key)));
+        const QString sentence = QStringLiteral("ارتباط با پایگاه داده قطع شد. %1").arg(key);
+        // The statement that failed tells it too; the user is asked once.
+        QTimer::singleShot(0, &connection, [&connection, sentence] {
+            Q_EMIT connection.connectionLost(sentence);
+            throw EADOError(TAdoErrorKind::ConnectionLost, sentence);
+        });
+        QTRY_COMPARE(answer.Boxes(), 1);
+        QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+        QTest::qWait(50);
+        QCOMPARE(answer.Boxes(), 1);
+        QVERIFY(answer.Texts.constFirst().startsWith(sentence));
+        QCOMPARE(connection.Connected(), reopened);
+        QCOMPARE(spy.count(), reopened ? 1 : 0);
+        Application().SetConnection(nullptr);
+        // Until a loss counts as a new one.
+        QTest::qWait(2100);
     }
 
 private:

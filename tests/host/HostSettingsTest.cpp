@@ -62,15 +62,22 @@ private Q_SLOTS:
         QVERIFY(!THostSettings(file_).SettingRecord().IsGregorian());
     }
 
-    void aFileThatIsNoSettingsFileIsSaidToBeUnreadable()
+    void aFileThatIsNoSettingsFileIsLeftAsItIs()
     {
         QFile file(file_);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("[Host\nno value\n");
         file.close();
-        const THostSettings settings(file_);
-        QVERIFY(!settings.IsReadable());
-        QVERIFY(!settings.SettingRecord().IsGregorian());
+        {
+            THostSettings settings(file_);
+            QVERIFY(!settings.IsReadable());
+            QVERIFY(!settings.SettingRecord().IsGregorian());
+            settings.SetGregorian(true);
+            settings.SetValue(QStringLiteral("Window/Scheme"), 2);
+            QCOMPARE(settings.Value(QStringLiteral("Window/Scheme")).toInt(), 2);
+        }
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("[Host\nno value\n"));
     }
 
 private:
