@@ -44,7 +44,7 @@ TSmartEdit_TRV* TListKeys::CurrentEdit() const
     return nullptr;
 }
 
-void TListKeys::FocusEdit()
+void TListKeys::FocusEdit() const
 {
     TSmartEdit_TRV* edit = CurrentEdit();
     if (edit == nullptr)
@@ -56,7 +56,7 @@ void TListKeys::FocusEdit()
         edit->selectAll();
 }
 
-void TListKeys::FocusGrid()
+void TListKeys::FocusGrid() const
 {
     if (grid_ != nullptr)
         grid_->setFocus(Qt::ShortcutFocusReason);

@@ -21,8 +21,8 @@ public:
     /// The edit that takes the value of the field in force; null where none is visible.
     TSmartEdit_TRV* CurrentEdit() const;
     /// Puts the caret behind the text, or selects the 0 of a number edit, so that typing goes on.
-    void FocusEdit();
-    void FocusGrid();
+    void FocusEdit() const;
+    void FocusGrid() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

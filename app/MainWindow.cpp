@@ -26,9 +26,9 @@ constexpr QSize firstSize{1180, 720};
 constexpr int navigationWidth = 132;
 constexpr int navigationButtonHeight = 40;
 
-const QString geometryKey = QStringLiteral("Window/Geometry");
-const QString schemeKey = QStringLiteral("Window/Scheme");
-const QString digitsKey = QStringLiteral("Window/Digits");
+constexpr QLatin1String geometryKey("Window/Geometry");
+constexpr QLatin1String schemeKey("Window/Scheme");
+constexpr QLatin1String digitsKey("Window/Digits");
 
 QAction* AddChoice(QMenu* menu, QActionGroup* group, const QString& name, const QString& caption,
                    bool checked)

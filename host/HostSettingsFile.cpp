@@ -6,8 +6,8 @@
 
 namespace {
 
-const QString recordKey = QStringLiteral("Host/SettingRecord");
-const QString lockOptionKey = QStringLiteral("Host/CodeLockOption");
+constexpr QLatin1String recordKey("Host/SettingRecord");
+constexpr QLatin1String lockOptionKey("Host/CodeLockOption");
 
 QByteArray BytesOf(const TSettingRecord& record)
 {

@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString name = QStringLiteral("Name");
+constexpr QLatin1String name("Name");
 
 void OpenGoods(TTourPlayer& player)
 {

@@ -8,7 +8,7 @@
 
 namespace {
 
-const QString city = QStringLiteral("City");
+constexpr QLatin1String city("City");
 
 void OpenPersons(TTourPlayer& player)
 {

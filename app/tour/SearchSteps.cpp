@@ -12,7 +12,7 @@
 
 namespace {
 
-const QString name = QStringLiteral("Name");
+constexpr QLatin1String name("Name");
 
 // A piece of a real name, so that the tour plays on any data.
 QString PieceOfName(TListForm& list, int row)
