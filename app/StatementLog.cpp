@@ -13,7 +13,7 @@ bool TStatementLog::Open(const QString& fileName, QString& error)
     return false;
 }
 
-void TStatementLog::Follow(TADOConnection& connection)
+void TStatementLog::Follow(TADOConnection& connection) const
 {
     connect(&connection, &TADOConnection::willExecute, this, &TStatementLog::Write);
 }

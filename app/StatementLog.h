@@ -14,7 +14,7 @@ class TStatementLog : public QObject
 public:
     /// Writes behind what the file already holds. `error` gets the system's words where it cannot be opened.
     bool Open(const QString& fileName, QString& error);
-    void Follow(TADOConnection& connection);
+    void Follow(TADOConnection& connection) const;
 
 private:
     void Write(const QString& text);

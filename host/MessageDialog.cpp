@@ -5,6 +5,7 @@
 #include "PersianText.h"
 
 #include <algorithm>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -121,10 +122,10 @@ void TMessageDialog::AddButtons(QVBoxLayout* column)
     buttonRow_ = new QHBoxLayout;
     buttonRow_->setSpacing(Look::Margin);
     buttonRow_->addStretch(1);
-    for (int i = 0; i < buttons_.size(); ++i) {
-        auto* button = new QPushButton(buttons_.at(i).Caption, this);
+    for (const TDialogButton& description : qAsConst(buttons_)) {
+        auto* button = new QPushButton(description.Caption, this);
         button->setMinimumSize(buttonWidth, Look::ControlHeight);
-        connect(button, &QPushButton::clicked, this, [this, i] { done(buttons_.at(i).Result); });
+        connect(button, &QPushButton::clicked, this, [this, result = description.Result] { done(result); });
         buttonRow_->addWidget(button);
         pushButtons_.append(button);
     }

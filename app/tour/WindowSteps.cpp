@@ -19,9 +19,10 @@ QAction* FindAction(const QWidget& window, const QString& name)
 void ChooseFromMenu(TTourPlayer& player, const QString& actionName)
 {
     QAction* action = FindAction(player.Window(), actionName);
-    if (!player.Check(action != nullptr, QStringLiteral("گزینهٔ %1 در منو نیست").arg(actionName)))
+    auto* menu = action == nullptr ? nullptr : qobject_cast<QMenu*>(action->parent());
+    player.Check(menu != nullptr, QStringLiteral("گزینهٔ %1 در منو نیست").arg(actionName));
+    if (menu == nullptr)
         return;
-    auto* menu = qobject_cast<QMenu*>(action->parent());
     QMenuBar* bar = player.Window().menuBar();
     player.Click(bar, bar->actionGeometry(menu->menuAction()).center());
     player.Click(menu, menu->actionGeometry(action).center());
