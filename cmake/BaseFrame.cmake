@@ -30,6 +30,8 @@ else()
   target_compile_options(baseframe_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
     -Wconversion -Wno-sign-conversion -Wformat=2 -Werror)
+  # Programs too, so that they share the libraries' precompiled headers.
+  target_compile_options(baseframe_options INTERFACE -fPIC)
 endif()
 if(BASEFRAME_SANITIZE)
   target_compile_options(baseframe_options INTERFACE
@@ -37,18 +39,32 @@ if(BASEFRAME_SANITIZE)
   target_link_options(baseframe_options INTERFACE -fsanitize=${BASEFRAME_SANITIZE})
 endif()
 
-# A target of this project: the options above, and the Qt headers precompiled once.
+# The Qt headers, precompiled once for the targets without windows and once for those with.
+function(baseframe_precompiled_headers)
+  file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp.in" "// Carries the precompiled Qt headers.\n")
+  configure_file("${CMAKE_BINARY_DIR}/precompiled.cpp.in" "${CMAKE_BINARY_DIR}/precompiled.cpp" COPYONLY)
+  foreach(part IN ITEMS Core Widgets)
+    add_library(baseframe_precompiled_${part} STATIC "${CMAKE_BINARY_DIR}/precompiled.cpp")
+    set_target_properties(baseframe_precompiled_${part} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(baseframe_precompiled_${part} PRIVATE baseframe_options Qt6::${part})
+    target_precompile_headers(baseframe_precompiled_${part} PRIVATE <Qt${part}>)
+  endforeach()
+endfunction()
+
+# A target of this project: the options above and the precompiled headers.
 function(baseframe_target target)
   target_link_libraries(${target} PRIVATE baseframe_options)
-  if(BASEFRAME_PCH)
-    get_target_property(libraries ${target} LINK_LIBRARIES)
-    if("Qt6::Widgets" IN_LIST libraries OR "Component_TRV" IN_LIST libraries
-       OR "BaseFrame_PKG" IN_LIST libraries OR "ReferenceHost" IN_LIST libraries)
-      target_precompile_headers(${target} PRIVATE <QtWidgets>)
-    else()
-      target_precompile_headers(${target} PRIVATE <QtCore>)
-    endif()
+  if(NOT BASEFRAME_PCH)
+    return()
   endif()
+  get_target_property(libraries ${target} LINK_LIBRARIES)
+  set(part Core)
+  foreach(library IN LISTS libraries)
+    if(library MATCHES "^(Qt6::Widgets|Component_TRV|BaseFrame_PKG|ReferenceHost|TestSupport|HostTestSupport|WorkbenchForms)$")
+      set(part Widgets)
+    endif()
+  endforeach()
+  target_precompile_headers(${target} REUSE_FROM baseframe_precompiled_${part})
 endfunction()
 
 # baseframe_library(TARGET MACRO): the shared library of the room in the current folder.

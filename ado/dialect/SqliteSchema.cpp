@@ -1,5 +1,7 @@
 #include "SqliteSchema.h"
 
+#include "SqliteError.h"
+
 #include <sqlite3.h>
 
 #include <cstring>
@@ -15,15 +17,22 @@ struct TFinalizer
 };
 using TStatement = std::unique_ptr<sqlite3_stmt, TFinalizer>;
 
-TStatement Prepared(sqlite3* connection, const char* text, const QByteArray& argument)
+/// Runs a question about the schema to its end. An answer cut short, by a cancel or another user's lock, must
+/// not be taken for a table without columns: it throws.
+template <typename TRow>
+void ForEachRow(sqlite3* connection, const char* text, const QByteArray& argument, TRow row)
 {
     sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(connection, text, -1, &statement, nullptr);
-    if (statement) {
+    int code = sqlite3_prepare_v2(connection, text, -1, &statement, nullptr);
+    const TStatement owner(statement);
+    if (code == SQLITE_OK) {
         sqlite3_bind_text(statement, 1, argument.constData(), static_cast<int>(argument.size()),
                           SQLITE_TRANSIENT);
+        while ((code = sqlite3_step(statement)) == SQLITE_ROW)
+            row(statement);
     }
-    return TStatement(statement);
+    if (code != SQLITE_DONE)
+        throw SqliteError(connection, code, TSqlitePhase::Preparing, QString::fromLatin1(text));
 }
 
 QString ColumnText(sqlite3_stmt* statement, int column)
@@ -55,19 +64,19 @@ QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
     if (known != tables_.constEnd())
         return *known;
     const QByteArray name = table.toUtf8();
-    const TStatement statement =
-        Prepared(connection_, "SELECT name, type, hidden FROM pragma_table_xinfo(?1)", name);
     QVector<TSchemaColumn> columns;
-    while (statement && sqlite3_step(statement.get()) == SQLITE_ROW) {
-        TSchemaColumn column;
-        column.Name = ColumnText(statement.get(), 0);
-        column.DeclaredType = ColumnText(statement.get(), 1);
-        // table_xinfo marks generated columns by 2 and 3 and keeps their declaration's words in the type.
-        column.Computed = sqlite3_column_int(statement.get(), 2) >= 2;
-        column.DeclaredType.remove(QStringLiteral(" GENERATED ALWAYS"));
-        AddMetadata(connection_, name, column);
-        columns.append(column);
-    }
+    ForEachRow(connection_, "SELECT name, type, hidden FROM pragma_table_xinfo(?1)", name,
+               [&](sqlite3_stmt* row) {
+                   TSchemaColumn column;
+                   column.Name = ColumnText(row, 0);
+                   column.DeclaredType = ColumnText(row, 1);
+                   // table_xinfo marks generated columns by 2 and 3 and keeps their declaration's words in
+                   // the type.
+                   column.Computed = sqlite3_column_int(row, 2) >= 2;
+                   column.DeclaredType.remove(QStringLiteral(" GENERATED ALWAYS"));
+                   AddMetadata(connection_, name, column);
+                   columns.append(column);
+               });
     ReadViewTypes(name, columns);
     // A table that is not there may be created by another connection at any moment.
     if (!columns.isEmpty())
@@ -77,11 +86,9 @@ QVector<TSchemaColumn> TSqliteSchema::Columns(const QString& table) const
 
 void TSqliteSchema::ReadViewTypes(const QByteArray& view, QVector<TSchemaColumn>& columns) const
 {
-    const TStatement statement = Prepared(
-        connection_, "SELECT sql FROM sqlite_master WHERE type = 'view' AND name = ?1 COLLATE NOCASE", view);
-    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW)
-        return;
-    const QString text = ColumnText(statement.get(), 0);
+    QString text;
+    ForEachRow(connection_, "SELECT sql FROM sqlite_master WHERE type = 'view' AND name = ?1 COLLATE NOCASE",
+               view, [&](sqlite3_stmt* row) { text = ColumnText(row, 0); });
     const qsizetype opening = text.indexOf(QLatin1String(ViewTypesOpening));
     const qsizetype start = opening + static_cast<qsizetype>(std::strlen(ViewTypesOpening));
     const qsizetype end = text.indexOf(QLatin1String(ViewTypesClosing), start);
@@ -99,16 +106,15 @@ bool TSqliteSchema::HasFunction(const QString& name, int argumentCount) const
     const QString key = name.toLower() + u'/' + QString::number(argumentCount);
     if (functions_.contains(key))
         return true;
-    const TStatement statement = Prepared(
-        connection_, "SELECT narg FROM pragma_function_list WHERE name = ?1", name.toLower().toUtf8());
-    while (statement && sqlite3_step(statement.get()) == SQLITE_ROW) {
-        const int accepted = sqlite3_column_int(statement.get(), 0);
-        if (accepted == argumentCount || accepted < 0) {
-            functions_.insert(key);
-            return true;
-        }
-    }
-    return false;
+    bool found = false;
+    ForEachRow(connection_, "SELECT narg FROM pragma_function_list WHERE name = ?1", name.toLower().toUtf8(),
+               [&](sqlite3_stmt* row) {
+                   const int accepted = sqlite3_column_int(row, 0);
+                   found = found || accepted == argumentCount || accepted < 0;
+               });
+    if (found)
+        functions_.insert(key);
+    return found;
 }
 
 void TSqliteSchema::Forget()
