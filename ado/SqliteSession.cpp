@@ -109,9 +109,18 @@ qint64 TSqliteSession::SchemaVersion()
 
 std::unique_ptr<TSqliteStatement> TSqliteSession::PrepareTranslated(const QString& text)
 {
-    RefreshSchema();
-    const Dialect::TTranslation translation = Dialect::TranslateStatement(text, schema_);
-    return PrepareSqlite(handle_, text, translation.Text, translation.ColumnTypes, translation.ChangesSchema);
+    try {
+        RefreshSchema();
+        const Dialect::TTranslation translation = Dialect::TranslateStatement(text, schema_);
+        return PrepareSqlite(handle_, text, translation.Text, translation.ColumnTypes,
+                             translation.ChangesSchema);
+    } catch (const EADOError& error) {
+        // SQLite's parser reports an interruption as one error or another.
+        if (!cancelRequested_.load(std::memory_order_relaxed))
+            throw;
+        throw EADOError(TAdoErrorKind::Cancelled, QStringLiteral("دستور لغو شد."), text,
+                        error.ServerMessage(), {}, SQLITE_INTERRUPT);
+    }
 }
 
 std::unique_ptr<TSqliteStatement> TSqliteSession::PrepareNative(const QString& text) const

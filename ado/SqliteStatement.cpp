@@ -23,6 +23,8 @@ TFieldType TypeOfStorageClass(int storageClass)
 /// silently.
 void RefuseSecondStatement(sqlite3* handle, const char* tail, const QString& text)
 {
+    if (*tail == '\0')
+        return;
     TSqliteStatement rest;
     const int code = sqlite3_prepare_v3(handle, tail, -1, 0, &rest.Handle, nullptr);
     if (code != SQLITE_OK || rest.Handle != nullptr) {

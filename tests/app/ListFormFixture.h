@@ -39,11 +39,21 @@ public:
         return *List;
     }
 
+    /// Makes the window the active one and waits until it stays so: with no window manager the focus of the
+    /// window before may still arrive behind that of this one.
     static void Activate(QWidget* window)
     {
         QVERIFY(QTest::qWaitForWindowExposed(window));
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
+        constexpr int Attempts = 20;
+        constexpr int SettlingTime = 50;
+        for (int attempt = 0; attempt < Attempts; ++attempt) {
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            QTest::qWait(SettlingTime);
+            if (QApplication::activeWindow() == window)
+                return;
+        }
+        QFAIL("the window does not stay active");
     }
 
     /// Until what was typed is in force and answered.
