@@ -17,7 +17,7 @@ bool Fits(const QString& typed, const TNumberRules& rules)
 
 QString TNumberText::Display() const
 {
-    return DecimalText::Grouped(now_.typed);
+    return grouped_ ? DecimalText::Grouped(now_.typed) : now_.typed;
 }
 
 QString TNumberText::Text() const

@@ -20,7 +20,9 @@ class SUITE_EXPORT TNumberText
 public:
     enum class TTaken { Yes, TooManyDigits, TooManyDecimals, DoesNotFit };
 
-    /// The number as shown, with grouping signs. Positions are positions in this text.
+    /// Whether Display() groups thousands: amounts do, codes do not. Grouped at first.
+    void SetGrouped(bool grouped) { grouped_ = grouped; }
+    /// The number as shown. Positions are positions in this text.
     QString Display() const;
     /// The number without grouping signs, always complete: what is half typed counts as far as it goes.
     QString Text() const;
@@ -74,6 +76,7 @@ private:
 
     TState now_;
     int anchor_ = 1;
+    bool grouped_ = true;
     QList<TState> undo_;
     QList<TState> redo_;
 };

@@ -37,6 +37,7 @@ void TSmartEdit_TRV::SetEditType(TEditType type)
         return;
     const QString text = Text();
     d->editType = type;
+    d->number.SetGrouped(type == etCurrency);
     setInputMethodHints(type == etString ? Qt::ImhNone : Qt::ImhFormattedNumbersOnly);
     d->RefreshCalculatorButton();
     d->SetText(text);

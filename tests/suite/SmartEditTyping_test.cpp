@@ -203,6 +203,7 @@ void SmartEditTypingTest::maxLengthCountsDigitsNotSigns()
     whole.SetMaxLength(12);
     TypedKeys::Text(&whole, QStringLiteral("1234567890123"));
     QCOMPARE(whole.Text(), QStringLiteral("123456789012"));
+    QVERIFY2(whole.text() == whole.Text(), "codes and other whole numbers are shown without grouping signs");
 }
 
 void SmartEditTypingTest::maxLengthStopsTypingButNotThePrograms()
