@@ -5,10 +5,7 @@
 
 void TPageQueue::Add(int page)
 {
-    pages_.erase(
-        std::remove_if(pages_.begin(), pages_.end(),
-                       [this, page](int other) { return other == page || qAbs(other - page) > reach_; }),
-        pages_.end());
+    pages_.removeIf([this, page](int other) { return other == page || qAbs(other - page) > reach_; });
     pages_.append(page);
 }
 

@@ -88,7 +88,7 @@ bool SameLetters(std::string_view text, std::string_view upper)
 
 QString WithLength(const TServerType& type, int length, int scale)
 {
-    const QString name = QString::fromLatin1(type.Declared);
+    QString name = QString::fromLatin1(type.Declared);
     switch (type.Rule) {
     case TLengthRule::Characters:
         if (length == UnboundedLength)

@@ -15,7 +15,8 @@ bool TStatementLog::Open(const QString& fileName, QString& error)
 
 void TStatementLog::Follow(TADOConnection& connection) const
 {
-    connect(&connection, &TADOConnection::willExecute, this, &TStatementLog::Write);
+    if (file_.isOpen())
+        connect(&connection, &TADOConnection::willExecute, this, &TStatementLog::Write);
 }
 
 void TStatementLog::Write(const QString& text)

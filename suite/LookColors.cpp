@@ -161,6 +161,7 @@ QColor Look::FromColorValue(quint32 value)
 
 double Look::Contrast(const QColor& first, const QColor& second)
 {
-    const auto [darker, lighter] = std::minmax(Luminance(first), Luminance(second));
+    // As a list, because of two temporaries std::minmax would return references.
+    const auto [darker, lighter] = std::minmax({Luminance(first), Luminance(second)});
     return (lighter + 0.05) / (darker + 0.05);
 }

@@ -212,7 +212,5 @@ void TestPageStatements::refusesASourceWithoutItsKey()
     QVERIFY_THROWS_EXCEPTION(EADOError, Statements(3, Qt::AscendingOrder));
 }
 
-Q_DECLARE_METATYPE(TPageStart)
-
 QTEST_GUILESS_MAIN(TestPageStatements)
 #include "test_page_statements.moc"

@@ -5,6 +5,7 @@
 #include "ModalBox.h"
 #include "PersianText.h"
 
+#include <array>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -54,13 +55,13 @@ private Q_SLOTS:
 
     void aBoxNamesItsSubjectAndGivesTheFocusBack()
     {
-        constexpr TSubjectMessage operations[] = {
+        static constexpr std::array<TSubjectMessage, 4> operations{
             &THostMessages::MsgCodeNotAvailable, &THostMessages::MsgNotSelected,
             &THostMessages::MsgRepeatedCode, &THostMessages::MsgRequiredField};
         QFETCH(int, message);
         TForm form;
         ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
-        (messages_.*operations[message])(QStringLiteral("نرخ ارز"), &form.First, nullptr);
+        (messages_.*operations.at(static_cast<std::size_t>(message)))(QStringLiteral("نرخ ارز"), &form.First, nullptr);
         QCOMPARE(answer.Boxes(), 1);
         QVERIFY(answer.Texts.constFirst().contains(PersianText::Isolated(QStringLiteral("نرخ ارز"))));
         form.Activate();

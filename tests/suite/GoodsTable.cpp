@@ -15,7 +15,7 @@ TGoodsTable::TGoodsTable(int rows)
     connection_.BeginTrans();
     for (int code = 1; code <= rows; ++code) {
         const bool isBare = code == 4;
-        const QVariant price = QString::number((code == 3 ? -1 : 1) * 1'234'500 * code);
+        const QVariant price = QString::number((code == 3 ? -1 : 1) * 1'234'500LL * code);
         connection_.Execute(
             QStringLiteral("INSERT INTO dbo.kala (Code, Name, Price, Active, SoldAt) VALUES (?, ?, ?, ?, ?)"),
             {code, isBare ? QVariant() : QVariant(NameOf(code)), isBare ? QVariant() : price, code % 2 == 1,
