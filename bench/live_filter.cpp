@@ -118,8 +118,8 @@ void TLiveFilter::Filter(const QString& value, double* answered, double* painted
 {
     QElapsedTimer timer;
     bool done = false;
-    const auto arrival =
-        QObject::connect(&list_, &TDataSet::dataChanged, [&] { *answered = Milliseconds(timer); });
+    const auto arrival = QObject::connect(&list_, &TDataSet::dataChanged,
+                                          [answered, clock = &timer] { *answered = Milliseconds(*clock); });
     window_.OnPainted = [&] {
         if (*answered > 0 && !done) {
             *painted = Milliseconds(timer);
