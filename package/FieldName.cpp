@@ -72,5 +72,5 @@ QString FieldName::Bracketed(const QString& name)
 
 QString FieldName::Column(const QString& name)
 {
-    return Parts(name.trimmed()).last();
+    return Parts(name.trimmed()).constLast();
 }

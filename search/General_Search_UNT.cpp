@@ -119,7 +119,7 @@ void TGeneral_Search_Frame::Clear()
     TarvaSearch_General->SetActive(true);
 }
 
-void TGeneral_Search_Frame::ReverstSearchEnabled(bool enabled)
+void TGeneral_Search_Frame::ReverstSearchEnabled(bool enabled) const
 {
     Search_Reverst_CHK->setEnabled(enabled);
     Search_Reverst_LBL->setEnabled(enabled);
@@ -176,7 +176,7 @@ void TGeneral_Search_Frame::Search_EDTKeyDown(quint16& key)
         Search_EDT->SetText(QString());
 }
 
-void TGeneral_Search_Frame::Search_Reverst_CHKClick(const QObject* sender)
+void TGeneral_Search_Frame::Search_Reverst_CHKClick(const QObject* sender) const
 {
     if (sender == Search_Reverst_LBL)
         Search_Reverst_CHK->SetChecked(!Search_Reverst_CHK->Checked());

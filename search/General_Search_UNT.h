@@ -38,7 +38,7 @@ public:
     /// Empties the condition and the edits; the criterion ends switched on.
     void Clear();
     /// Enables or disables the "not" box together with its label.
-    void ReverstSearchEnabled(bool enabled);
+    void ReverstSearchEnabled(bool enabled) const;
     /// Enter has been pressed: the next filtering does not wait, and is followed by doselection.
     void SetRet_press(bool pressed);
     void SetFilter_is_done(bool done);
@@ -71,7 +71,7 @@ private:
     void EditChanged(TMessage message);
     void EditKeyPress(TMessage message, QChar& key);
     void Search_EDTKeyDown(quint16& key);
-    void Search_Reverst_CHKClick(const QObject* sender);
+    void Search_Reverst_CHKClick(const QObject* sender) const;
     void TarvaSearch_GeneralChange();
     void TarvaSearch_GeneralChangeItemIndex();
 

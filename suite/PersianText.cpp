@@ -85,7 +85,7 @@ QString PersianText::NumberFromAnyScript(const QString& text)
     QString result;
     bool hasDigit = false;
     bool hasPoint = false;
-    for (const QChar character : text.trimmed()) {
+    for (const QChar character : QStringView(text).trimmed()) {
         if (const int digit = DigitValue(character); digit >= 0) {
             result += QChar(u'0' + digit);
             hasDigit = true;

@@ -322,7 +322,7 @@ QRect TSmartButton_TRV::ArrowRect() const
     return d->kind == bkDropDown ? QStyle::visualRect(layoutDirection(), rect(), atTheRight) : QRect();
 }
 
-void TSmartButton_TRV::PaintLabel(QPainter& painter, QStyleOptionButton option) const
+void TSmartButton_TRV::PaintLabel(QPainter& painter, const QStyleOptionButton& option) const
 {
     const QIcon shown = ShownIcon();
     const int iconWidth = shown.isNull() ? 0 : iconSize().width();

@@ -65,7 +65,7 @@ protected:
 
 private:
     QRect ArrowRect() const;
-    void PaintLabel(QPainter& painter, QStyleOptionButton option) const;
+    void PaintLabel(QPainter& painter, const QStyleOptionButton& option) const;
     void PaintArrow(QPainter& painter, const QStyleOptionButton& option) const;
     QIcon ShownIcon() const;
     void OpenMenu();

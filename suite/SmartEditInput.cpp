@@ -220,15 +220,13 @@ bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
     return done;
 }
 
-bool TSmartEdit_TRV::TPrivate::PasteText(const QString& text)
+bool TSmartEdit_TRV::TPrivate::PasteText(const QString& text) const
 {
     const QString clean = PersianText::SingleLine(text);
     if (clean.isEmpty()) {
         Balloon::Show(
             edit,
-            QStringLiteral("متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری "
-                           "رونوشت "
-                           "کنید."));
+            QStringLiteral("متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری رونوشت کنید."));
         return false;
     }
     const QString fitting = FittingText(clean);

@@ -47,7 +47,7 @@ struct TSmartEdit_TRV::TPrivate
     QString FittingText(const QString& text) const;
     bool Paste(const QString& text);
     bool PasteNumber(const QString& text);
-    bool PasteText(const QString& text);
+    bool PasteText(const QString& text) const;
     void Copy() const;
     void Cut();
     void Undo();

@@ -151,7 +151,7 @@ void FieldTest::aNumberTooLargeForAnIntIsRefused()
     TOneValue data(qint64(3000000000));
     QCOMPARE(data.Field(0)->AsLargeInt(), 3000000000);
     QCOMPARE(ErrorOf([&] { data.Field(0)->AsInteger(); }).Kind(), TAdoErrorKind::WrongState);
-    TOneValue limit(qint64(std::numeric_limits<int>::min()));
+    TOneValue limit(QVariant(qint64{std::numeric_limits<int>::min()}));
     QCOMPARE(limit.Field(0)->AsInteger(), std::numeric_limits<int>::min());
 }
 

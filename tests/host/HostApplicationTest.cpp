@@ -6,6 +6,7 @@
 #include "AdoError.h"
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <thread>
