@@ -369,8 +369,6 @@ void TDatabaseFileTest::aServerWithoutTheTablesIsRefusedWithTheScriptsName()
     const QString path = Path(QStringLiteral("server.db"));
     ForeignDatabase(path);
     const QString message = Refusal(QStringLiteral("odbc:DRIVER=SQLite3;Database=") + path);
-    if (message.contains(QStringLiteral("SQLite3")) || message.isEmpty())
-        QSKIP("The driver is not installed");
     QVERIFY2(message.contains(QStringLiteral("schema.sql")), qPrintable(message));
 }
 
