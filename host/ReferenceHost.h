@@ -1,13 +1,16 @@
 #pragma once
 
+#include "AccountingServices.h"
 #include "HostCommon.h"
 #include "HostDataModule.h"
 #include "HostExport.h"
-#include "HostLaterServices.h"
 #include "HostMessageBoxes.h"
 #include "HostServices.h"
 #include "HostSettingsFile.h"
 #include "HostSystemClock.h"
+#include "PickerDialogs.h"
+#include "PictureServices.h"
+#include "RunTimeLibraries.h"
 
 /// The reference host: every service that frames need, installed while it lives.
 class HOST_EXPORT TReferenceHost

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "HostExport.h"
+#include "HostPickers.h"
+
+/// No selection dialog is offered yet: each operation throws EServiceNotOffered.
+class HOST_EXPORT THostPickers : public IPickers
+{
+public:
+    int Select_Entity(TSoftwarePart part, const QString& argument, bool all) override;
+    int Select_GroupList(TSoftwarePart part, const QString& argument) override;
+    THCSelectedCode Select_AccountCodes(TSelectGroups groups, const QString& total, const QString& assistant,
+                                        const QString& detail, quint8 focusLevel) override;
+    int Select_AccTotals1(const QString& groups, const QString& code) override;
+    int Select_AccAssistants1(int total, const QString& code) override;
+    int Select_AccDetails1(int total, int assistant, const QString& code) override;
+    int Call_insert_tags(const QString& name, quint8 mode) override;
+};

@@ -1,0 +1,495 @@
+#include "ActiveWindow.h"
+#include "Balloon.h"
+#include "SmartEdit_TRV.h"
+#include "TypedKeys.h"
+
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int LongDelay = 60000;
+
+struct TForm
+{
+    QWidget window;
+    QVBoxLayout layout{&window};
+    TSmartEdit_TRV edit;
+    TSmartEdit_TRV other;
+    QStringList log;
+
+    TForm()
+    {
+        layout.addWidget(&edit);
+        layout.addWidget(&other);
+        edit.OnChange = [this](QObject*) { log << QStringLiteral("change ") + edit.Text(); };
+        edit.OnEditValueChange = [this](QObject*) { log << QStringLiteral("value ") + edit.Text(); };
+        edit.OnExit = [this](QObject*) { log << QStringLiteral("exit"); };
+        edit.setFocus();
+        window.show();
+    }
+
+    bool Ready()
+    {
+        return ActiveWindow::Activate(&window) && QTest::qWaitFor([this] { return edit.hasFocus(); });
+    }
+};
+
+} // namespace
+
+class SmartEditEventsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyChangeOfTheTextIsRaisedOnce();
+    void groupingIsNoChangeOfTheText();
+    void whatTheProgramWritesIsRaisedAsAChangeOnly();
+    void keyDownAndKeyPressComeBeforeTheText();
+    void swallowedKeysAreNotTyped();
+    void typingQuicklyAnnouncesTheValueOnce();
+    void theDelayRunsFromTheLastChange();
+    void leavingAnnouncesTheValueAtOnceAndBeforeExit();
+    void leavingUnchangedAnnouncesNothing();
+    void anotherWindowOrAMenuDoesNotAnnounce();
+    void leavingCompletesWhatIsHalfTyped_data();
+    void leavingCompletesWhatIsHalfTyped();
+    void leavingBringsTheValueBackIntoTheBounds();
+    void aChangeHandlerMayWriteTheText();
+    void aChangeHandlerMayDestroyTheEdit();
+    void numbersAreSelectedWhenTabEntersThem();
+    void valuesSurviveTheirText_data();
+    void valuesSurviveTheirText();
+    void textOfTheProgramBecomesANumber_data();
+    void textOfTheProgramBecomesANumber();
+    void clearEmptiesTextsAndZeroesNumbers();
+    void theCaretIsSetAndRead();
+    void anErrorStaysUntilTheUserTypes();
+    void theHintOfAMultiCurrencyEditTellsRateAndTitle();
+    void theContextMenuIsPersianAndWorks();
+    void copyingANumberLeavesItsGroupingBehind();
+    void propertiesAreReadBackAsTheyWereSet();
+};
+
+void SmartEditEventsTest::everyChangeOfTheTextIsRaisedOnce()
+{
+    TForm form;
+    TypedKeys::Script(&form.edit, QStringLiteral("ab<"));
+    form.edit.selectAll();
+    TypedKeys::Script(&form.edit, QStringLiteral("x"));
+    form.edit.SetText(QStringLiteral("yz"));
+    form.edit.SetText(QStringLiteral("yz"));
+    form.edit.Clear();
+    QGuiApplication::clipboard()->setText(QStringLiteral("۱\n۲"));
+    QTest::keyClick(&form.edit, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(form.log,
+             QStringList({QStringLiteral("change a"), QStringLiteral("change ab"), QStringLiteral("change a"),
+                          QStringLiteral("change x"), QStringLiteral("change yz"), QStringLiteral("change "),
+                          QStringLiteral("change 1 2")}));
+}
+
+void SmartEditEventsTest::groupingIsNoChangeOfTheText()
+{
+    TForm form;
+    form.edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    form.edit.SetPrecision(2);
+    form.log.clear();
+    TypedKeys::Text(&form.edit, QStringLiteral("1234.5"));
+    QCOMPARE(form.log, QStringList({QStringLiteral("change 1"), QStringLiteral("change 12"),
+                                    QStringLiteral("change 123"), QStringLiteral("change 1234"),
+                                    QStringLiteral("change 1234.5")}));
+}
+
+void SmartEditEventsTest::whatTheProgramWritesIsRaisedAsAChangeOnly()
+{
+    TForm form;
+    form.edit.SetDelayTimeCount(1);
+    form.edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    form.log.clear();
+    form.edit.SetValue(42500);
+    form.edit.SetText(QStringLiteral("1"));
+    form.edit.QLineEdit::setText(QStringLiteral("۱۲۳۴"));
+    QTest::qWait(40);
+    QCOMPARE(form.log, QStringList({QStringLiteral("change 42500"), QStringLiteral("change 1"),
+                                    QStringLiteral("change 1234")}));
+    QCOMPARE(form.edit.text(), QStringLiteral("1,234"));
+}
+
+void SmartEditEventsTest::keyDownAndKeyPressComeBeforeTheText()
+{
+    TForm form;
+    form.edit.OnKeyDown = [&](QObject*, quint16& key, Qt::KeyboardModifiers) {
+        form.log << QStringLiteral("down %1").arg(key);
+    };
+    form.edit.OnKeyPress = [&](QObject*, QChar& key) {
+        form.log << QStringLiteral("press %1").arg(key.unicode());
+    };
+    form.edit.OnKeyUp = [&](QObject*, quint16& key, Qt::KeyboardModifiers) {
+        form.log << QStringLiteral("up %1").arg(key);
+    };
+    TypedKeys::Stroke(&form.edit, Qt::Key_7, Qt::KeypadModifier, QStringLiteral("7"));
+    TypedKeys::Stroke(&form.edit, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QCOMPARE(form.log,
+             QStringList({QStringLiteral("down 103"), QStringLiteral("press 55"), QStringLiteral("change 7"),
+                          QStringLiteral("up 103"), QStringLiteral("down 13"), QStringLiteral("press 13"),
+                          QStringLiteral("up 13")}));
+}
+
+void SmartEditEventsTest::swallowedKeysAreNotTyped()
+{
+    TForm form;
+    form.edit.SetEditType(TSmartEdit_TRV::etNumeric);
+    form.edit.OnKeyDown = [](QObject*, quint16& key, Qt::KeyboardModifiers) {
+        if (key >= VirtualKey::Numpad0 && key <= VirtualKey::Numpad9)
+            key = 0;
+    };
+    form.edit.OnKeyPress = [](QObject*, QChar& key) {
+        if (key == u'۵' || key.unicode() == VirtualKey::Back)
+            key = QChar();
+    };
+    TypedKeys::Stroke(&form.edit, Qt::Key_1, Qt::KeypadModifier, QStringLiteral("1"));
+    TypedKeys::Script(&form.edit, QStringLiteral("۲۵۳<"));
+    QCOMPARE(form.edit.Text(), QStringLiteral("23"));
+}
+
+void SmartEditEventsTest::typingQuicklyAnnouncesTheValueOnce()
+{
+    TForm form;
+    form.edit.SetDelayTimeCount(50);
+    QSignalSpy announced(&form.edit, &TSmartEdit_TRV::editValueChanged);
+    TypedKeys::Text(&form.edit, QStringLiteral("abc"));
+    QVERIFY(announced.isEmpty());
+    QTRY_COMPARE(announced.size(), 1);
+    QCOMPARE(form.log.last(), QStringLiteral("value abc"));
+    QTest::qWait(150);
+    QCOMPARE(announced.size(), 1);
+}
+
+void SmartEditEventsTest::theDelayRunsFromTheLastChange()
+{
+    TForm form;
+    QCOMPARE(form.edit.DelayTimeCount(), 300);
+    form.edit.SetDelayTimeCount(200);
+    QSignalSpy announced(&form.edit, &TSmartEdit_TRV::editValueChanged);
+    QElapsedTimer sinceLast;
+    for (const QChar character : QStringLiteral("abc")) {
+        QTest::qWait(20);
+        TypedKeys::Text(&form.edit, QString(character));
+        sinceLast.start();
+    }
+    QVERIFY(announced.wait());
+    QVERIFY2(sinceLast.elapsed() >= 190, qPrintable(QString::number(sinceLast.elapsed())));
+    QCOMPARE(announced.size(), 1);
+}
+
+void SmartEditEventsTest::leavingAnnouncesTheValueAtOnceAndBeforeExit()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetDelayTimeCount(LongDelay);
+    TypedKeys::Text(&form.edit, QStringLiteral("a"));
+    QTest::keyClick(&form.edit, Qt::Key_Tab);
+    QCOMPARE(form.log,
+             QStringList({QStringLiteral("change a"), QStringLiteral("value a"), QStringLiteral("exit")}));
+}
+
+void SmartEditEventsTest::leavingUnchangedAnnouncesNothing()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetText(QStringLiteral("by the program"));
+    form.log.clear();
+    QTest::keyClick(&form.edit, Qt::Key_Tab);
+    QCOMPARE(form.log, QStringList({QStringLiteral("exit")}));
+}
+
+void SmartEditEventsTest::anotherWindowOrAMenuDoesNotAnnounce()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetDelayTimeCount(LongDelay);
+    TypedKeys::Text(&form.edit, QStringLiteral("a"));
+    QMenu menu;
+    menu.addAction(QStringLiteral("رونوشت"));
+    menu.popup(form.window.mapToGlobal(QPoint(5, 5)));
+    QTRY_VERIFY(menu.isVisible());
+    menu.close();
+    QWidget other;
+    other.show();
+    QVERIFY(ActiveWindow::Activate(&other));
+    QTRY_VERIFY(!form.window.isActiveWindow());
+    QCOMPARE(form.log, QStringList({QStringLiteral("change a")}));
+}
+
+void SmartEditEventsTest::leavingCompletesWhatIsHalfTyped_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("display");
+    QTest::newRow("point") << QStringLiteral("12.") << QStringLiteral("12");
+    QTest::newRow("minus") << QStringLiteral("-") << QStringLiteral("0");
+    QTest::newRow("leading zeros") << QStringLiteral("1005{{{{<") << QStringLiteral("5");
+    QTest::newRow("decimals as typed") << QStringLiteral("1.50") << QStringLiteral("1.50");
+}
+
+void SmartEditEventsTest::leavingCompletesWhatIsHalfTyped()
+{
+    QFETCH(QString, script);
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    form.edit.SetPrecision(2);
+    TypedKeys::Script(&form.edit, script);
+    form.other.setFocus();
+    QTEST(form.edit.text(), "display");
+}
+
+void SmartEditEventsTest::leavingBringsTheValueBackIntoTheBounds()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetEditType(TSmartEdit_TRV::etNumeric);
+    form.edit.SetMinValue(100);
+    form.edit.SetMaxValue(500);
+    form.edit.SetDelayTimeCount(LongDelay);
+    form.log.clear();
+    TypedKeys::Text(&form.edit, QStringLiteral("7"));
+    form.other.setFocus();
+    QCOMPARE(form.edit.Text(), QStringLiteral("100"));
+    QVERIFY(Balloon::ShownText().contains(QStringLiteral("100")));
+    QCOMPARE(form.log, QStringList({QStringLiteral("change 7"), QStringLiteral("change 100"),
+                                    QStringLiteral("value 100"), QStringLiteral("exit")}));
+}
+
+void SmartEditEventsTest::aChangeHandlerMayWriteTheText()
+{
+    TForm form;
+    int changes = 0;
+    form.edit.OnChange = [&](QObject*) {
+        ++changes;
+        form.edit.SetText(form.edit.Text().trimmed());
+    };
+    TypedKeys::Text(&form.edit, QStringLiteral("a "));
+    QCOMPARE(form.edit.Text(), QStringLiteral("a"));
+    QCOMPARE(changes, 3);
+}
+
+void SmartEditEventsTest::aChangeHandlerMayDestroyTheEdit()
+{
+    for (const auto type : {TSmartEdit_TRV::etString, TSmartEdit_TRV::etCurrency}) {
+        QWidget window;
+        auto* edit = new TSmartEdit_TRV(&window);
+        const QPointer<TSmartEdit_TRV> alive = edit;
+        edit->SetEditType(type);
+        edit->OnChange = [edit](QObject*) { edit->deleteLater(); };
+        TypedKeys::Text(edit, QStringLiteral("12"));
+        QTRY_VERIFY(!alive);
+    }
+}
+
+void SmartEditEventsTest::numbersAreSelectedWhenTabEntersThem()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.other.SetEditType(TSmartEdit_TRV::etCurrency);
+    form.other.SetText(QStringLiteral("1234"));
+    QTest::keyClick(&form.edit, Qt::Key_Tab);
+    QCOMPARE(form.other.selectedText(), QStringLiteral("1,234"));
+    TypedKeys::Text(&form.other, QStringLiteral("5"));
+    QCOMPARE(form.other.Text(), QStringLiteral("5"));
+}
+
+void SmartEditEventsTest::valuesSurviveTheirText_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<QString>("display");
+    const auto row = [](const QString& value, int precision, const QString& display) {
+        QTest::addRow("%s to %d", qPrintable(value), precision) << value << precision << display;
+    };
+    row(QStringLiteral("0"), 0, QStringLiteral("0"));
+    row(QStringLiteral("0.1"), 9, QStringLiteral("0.1"));
+    row(QStringLiteral("0.3"), 18, QStringLiteral("0.3"));
+    row(QStringLiteral("42500.123456789"), 9, QStringLiteral("42,500.123456789"));
+    row(QStringLiteral("922337203685477.5807"), 4, QStringLiteral("922,337,203,685,477.5807"));
+    row(QStringLiteral("-1234567890123456789"), 0, QStringLiteral("-1,234,567,890,123,456,789"));
+    row(QStringLiteral("2.345"), 2, QStringLiteral("2.35"));
+    row(QStringLiteral("-0.004"), 2, QStringLiteral("0"));
+    row(QStringLiteral("1e15"), 0, QStringLiteral("1,000,000,000,000,000"));
+    row(QStringLiteral("1.50"), 2, QStringLiteral("1.5"));
+}
+
+void SmartEditEventsTest::valuesSurviveTheirText()
+{
+    QFETCH(QString, value);
+    QFETCH(int, precision);
+    TSmartEdit_TRV edit;
+    edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    edit.SetPrecision(precision);
+    const long double number = std::strtold(qPrintable(value), nullptr);
+    edit.SetValue(number);
+    QTEST(edit.text(), "display");
+    if (precision >= 4 || value.endsWith(u'9'))
+        QCOMPARE(edit.GetValue(), number);
+    edit.SetText(edit.Text());
+    QTEST(edit.text(), "display");
+    // The same number as a double, which is how most of them come.
+    if (value.size() < 16) {
+        edit.SetValue(0);
+        edit.SetValue(value.toDouble());
+        QTEST(edit.text(), "display");
+    }
+}
+
+void SmartEditEventsTest::textOfTheProgramBecomesANumber_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("trailing zeros") << QStringLiteral("42500.0000") << QStringLiteral("42500");
+    QTest::newRow("leading zeros") << QStringLiteral("00012") << QStringLiteral("12");
+    QTest::newRow("exponent") << QStringLiteral("1e+15") << QStringLiteral("1000000000000000");
+    QTest::newRow("Persian") << QStringLiteral("۱٬۲۳۴٫۵") << QStringLiteral("1234.5");
+    QTest::newRow("too many decimals") << QStringLiteral("0.126") << QStringLiteral("0.13");
+    QTest::newRow("all nines") << QStringLiteral("-99.999") << QStringLiteral("-100");
+    QTest::newRow("empty") << QString() << QStringLiteral("0");
+    QTest::newRow("no number") << QStringLiteral("مرکزهزينه") << QStringLiteral("0");
+    QTest::newRow("infinity") << QStringLiteral("inf") << QStringLiteral("0");
+}
+
+void SmartEditEventsTest::textOfTheProgramBecomesANumber()
+{
+    QFETCH(QString, text);
+    TSmartEdit_TRV edit;
+    edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    edit.SetPrecision(2);
+    edit.SetText(QStringLiteral("7"));
+    edit.SetText(text);
+    QTEST(edit.Text(), "result");
+}
+
+void SmartEditEventsTest::clearEmptiesTextsAndZeroesNumbers()
+{
+    TSmartEdit_TRV edit;
+    QCOMPARE(edit.EditType(), TSmartEdit_TRV::etString);
+    edit.SetText(QStringLiteral("12a"));
+    QCOMPARE(edit.GetValue(), 0.0L);
+    edit.SetText(QStringLiteral("007"));
+    QCOMPARE(edit.GetValue(), 7.0L);
+    edit.Clear();
+    QCOMPARE(edit.Text(), QString());
+    QCOMPARE(edit.GetValue(), 0.0L);
+    edit.SetEditType(TSmartEdit_TRV::etNumeric);
+    QCOMPARE(edit.Text(), QStringLiteral("0"));
+    edit.SetValue(8);
+    edit.Clear();
+    QCOMPARE(edit.Text(), QStringLiteral("0"));
+}
+
+void SmartEditEventsTest::theCaretIsSetAndRead()
+{
+    TSmartEdit_TRV edit;
+    edit.SetText(QStringLiteral("abcd"));
+    edit.SetCaretPos(2);
+    QCOMPARE(edit.CaretPos(), 2);
+    edit.SetCaretPos(99);
+    QCOMPARE(edit.CaretPos(), 4);
+    edit.SetCaretPos(-1);
+    QCOMPARE(edit.CaretPos(), 0);
+}
+
+void SmartEditEventsTest::anErrorStaysUntilTheUserTypes()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    const QString sentence = QStringLiteral("این کد وجود ندارد؛ کد دیگری بنویسید.");
+    form.edit.ShowError(sentence);
+    QVERIFY(form.edit.HasError());
+    QCOMPARE(Balloon::ShownText(), sentence);
+    QCOMPARE(form.edit.accessibleDescription(), sentence);
+    form.other.setFocus();
+    form.edit.setFocus();
+    form.edit.SetText(QStringLiteral("12"));
+    QVERIFY(form.edit.HasError());
+    TypedKeys::Text(&form.edit, QStringLiteral("3"));
+    QVERIFY(!form.edit.HasError());
+    QCOMPARE(Balloon::ShownText(), QString());
+    QCOMPARE(form.edit.accessibleDescription(), QString());
+}
+
+void SmartEditEventsTest::theHintOfAMultiCurrencyEditTellsRateAndTitle()
+{
+    TSmartEdit_TRV edit;
+    edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    edit.SetCurrencyRate(42500.5L);
+    edit.SetCurrencyTypeTitle(QStringLiteral("دلار-آمریکا"));
+    QCOMPARE(edit.toolTip(), QString());
+    edit.SetMultiCurrency(true);
+    QVERIFY(edit.toolTip().contains(QStringLiteral("دلار-آمریکا")));
+    QVERIFY(edit.toolTip().contains(QStringLiteral("42,500.5")));
+    edit.SetCurrencyRate(43000);
+    QVERIFY(edit.toolTip().contains(QStringLiteral("43,000")));
+}
+
+void SmartEditEventsTest::theContextMenuIsPersianAndWorks()
+{
+    TForm form;
+    QVERIFY(form.Ready());
+    form.edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    form.edit.SetText(QStringLiteral("1234"));
+    form.edit.selectAll();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), form.edit.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&form.edit, &event);
+    auto* menu = form.edit.findChild<QMenu*>();
+    QVERIFY(menu && menu->isVisible());
+    QCOMPARE(menu->layoutDirection(), Qt::RightToLeft);
+    QAction* cut = nullptr;
+    for (QAction* action : menu->actions()) {
+        if (action->text() == QStringLiteral("&بریدن"))
+            cut = action;
+    }
+    QVERIFY(cut && cut->isEnabled());
+    cut->trigger();
+    menu->close();
+    QCOMPARE(form.edit.Text(), QStringLiteral("0"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("1234"));
+}
+
+void SmartEditEventsTest::copyingANumberLeavesItsGroupingBehind()
+{
+    TSmartEdit_TRV edit;
+    edit.SetEditType(TSmartEdit_TRV::etCurrency);
+    edit.SetText(QStringLiteral("1234567"));
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("1234567"));
+    QCOMPARE(edit.text(), QStringLiteral("1,234,567"));
+}
+
+void SmartEditEventsTest::propertiesAreReadBackAsTheyWereSet()
+{
+    TSmartEdit_TRV edit;
+    for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QVariant>>{
+             {"EditType", QVariant::fromValue(TSmartEdit_TRV::etCurrency)},
+             {"ValueType", QVariant::fromValue(TSmartEdit_TRV::vtInt)},
+             {"MaxLength", 15},
+             {"DelayTimeCount", 250},
+             {"Precision", 4},
+             {"Calculator", true},
+             {"MultiCurrency", true},
+             {"ReverseCurrency", true},
+             {"MinValue", -5.5},
+             {"MaxValue", 1e9},
+             {"CanTakeFocus", false}}) {
+        QVERIFY2(edit.property(name) != value, name);
+        QVERIFY2(edit.setProperty(name, value), name);
+        QCOMPARE(edit.property(name), value);
+    }
+    edit.SetEnabled(false);
+    QVERIFY(!edit.isEnabled());
+}
+
+QTEST_MAIN(SmartEditEventsTest)
+#include "SmartEditEventsTest.moc"
