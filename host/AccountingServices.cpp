@@ -1,22 +1,48 @@
 #include "AccountingServices.h"
 
+#include "AccountLevels.h"
+#include "AccountNames.h"
 #include "Codes.h"
 #include "NotOffered.h"
+
+#include <QStringList>
+
+THostAccounting::THostAccounting(TADOConnection& connection) : connection_(&connection)
+{
+}
 
 QString THostAccounting::CompleteCode(const QString& code, int length)
 {
     return Codes::Complete(code, length);
 }
 
-QString THostAccounting::AccGroupsToString(TSelectGroups /*groups*/)
+QString THostAccounting::AccGroupsToString(TSelectGroups groups)
 {
-    throw EServiceNotOffered("AccGroupsToString");
+    QStringList ordinals;
+    for (unsigned ordinal = 0; groups.Bits() >> ordinal != 0; ++ordinal) {
+        if ((groups.Bits() >> ordinal & 1U) != 0)
+            ordinals.append(QString::number(ordinal));
+    }
+    return ordinals.join(u',');
 }
 
-QString THostAccounting::GetHesabName(const QString& /*total*/, const QString& /*assistant*/,
-                                      const QString& /*detail*/, THesabType /*kind*/, bool& /*found*/)
+QString THostAccounting::GetHesabName(const QString& total, const QString& assistant, const QString& detail,
+                                      THesabType kind, bool& found)
 {
-    throw EServiceNotOffered("GetHesabName");
+    found = false;
+    const auto totalCode = AccountLevels::CodeOf(total);
+    const auto assistantCode = AccountLevels::CodeOf(assistant);
+    const auto detailCode = AccountLevels::CodeOf(detail);
+    if (!totalCode || !assistantCode || !detailCode)
+        return {};
+    const TAccountCodes codes{*totalCode, *assistantCode, *detailCode};
+    if (codes.Total == 0) {
+        found = codes.Assistant == 0 && codes.Detail == 0;
+        return {};
+    }
+    const auto names = ReadAccountNames(*connection_, codes);
+    found = names.has_value();
+    return found ? names->Of(kind) : QString();
 }
 
 bool THostAccounting::VoucherConflicts()

@@ -2,6 +2,11 @@
 
 #include "NotOffered.h"
 
+THostPickers::THostPickers(TADOConnection& connection, THostSettings& settings)
+    : accounts_(connection, settings)
+{
+}
+
 int THostPickers::Select_Entity(TSoftwarePart /*part*/, const QString& /*argument*/, bool /*all*/)
 {
     throw EServiceNotOffered("Select_Entity");
@@ -12,26 +17,26 @@ int THostPickers::Select_GroupList(TSoftwarePart /*part*/, const QString& /*argu
     throw EServiceNotOffered("Select_GroupList");
 }
 
-THCSelectedCode THostPickers::Select_AccountCodes(TSelectGroups /*groups*/, const QString& /*total*/,
-                                                  const QString& /*assistant*/, const QString& /*detail*/,
-                                                  quint8 /*focusLevel*/)
+THCSelectedCode THostPickers::Select_AccountCodes(TSelectGroups groups, const QString& total,
+                                                  const QString& assistant, const QString& detail,
+                                                  quint8 focusLevel)
 {
-    throw EServiceNotOffered("Select_AccountCodes");
+    return accounts_.Select_AccountCodes(groups, total, assistant, detail, focusLevel);
 }
 
-int THostPickers::Select_AccTotals1(const QString& /*groups*/, const QString& /*code*/)
+int THostPickers::Select_AccTotals1(const QString& groups, const QString& code)
 {
-    throw EServiceNotOffered("Select_AccTotals1");
+    return accounts_.Select_AccTotals1(groups, code);
 }
 
-int THostPickers::Select_AccAssistants1(int /*total*/, const QString& /*code*/)
+int THostPickers::Select_AccAssistants1(int total, const QString& code)
 {
-    throw EServiceNotOffered("Select_AccAssistants1");
+    return accounts_.Select_AccAssistants1(total, code);
 }
 
-int THostPickers::Select_AccDetails1(int /*total*/, int /*assistant*/, const QString& /*code*/)
+int THostPickers::Select_AccDetails1(int total, int assistant, const QString& code)
 {
-    throw EServiceNotOffered("Select_AccDetails1");
+    return accounts_.Select_AccDetails1(total, assistant, code);
 }
 
 int THostPickers::Call_insert_tags(const QString& /*name*/, quint8 /*mode*/)

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "AccountPickers.h"
 #include "HostExport.h"
 #include "HostPickers.h"
 
-/// No selection dialog is offered yet: each operation throws EServiceNotOffered.
+/// The selection dialogs. Those of accounts are TAccountPickers; the others throw EServiceNotOffered.
 class HOST_EXPORT THostPickers : public IPickers
 {
 public:
+    /// Both must outlive the dialogs.
+    THostPickers(TADOConnection& connection, THostSettings& settings);
+
     int Select_Entity(TSoftwarePart part, const QString& argument, bool all) override;
     int Select_GroupList(TSoftwarePart part, const QString& argument) override;
     THCSelectedCode Select_AccountCodes(TSelectGroups groups, const QString& total, const QString& assistant,
@@ -15,4 +19,7 @@ public:
     int Select_AccAssistants1(int total, const QString& code) override;
     int Select_AccDetails1(int total, int assistant, const QString& code) override;
     int Call_insert_tags(const QString& name, quint8 mode) override;
+
+private:
+    TAccountPickers accounts_;
 };
