@@ -2,25 +2,9 @@
 
 #include "Look.h"
 #include "PersianText.h"
-#include "SolarCalendar.h"
-
-#include <array>
+#include "SmartFaDate.h"
 
 namespace DisplayText {
-namespace {
-
-QString DayName(const QDate& date)
-{
-    static const std::array<QString, 7> names = {
-        QStringLiteral("دوشنبه"),   QStringLiteral("سه‌شنبه"),
-        QStringLiteral("چهارشنبه"), QStringLiteral("پنجشنبه"),
-        QStringLiteral("جمعه"),     QStringLiteral("شنبه"),
-        QStringLiteral("یکشنبه")};
-    return names.at(static_cast<size_t>(date.dayOfWeek() - 1));
-}
-
-} // namespace
-
 QString Grouped(const QString& number)
 {
     const QChar sign = Look::Digits() == Look::TDigits::Persian ? QChar(0x066C) : QChar(u',');
@@ -55,13 +39,13 @@ QString DayInWords(const QDate& date, bool gregorian)
 {
     if (gregorian)
         return QStringLiteral("%1 %2").arg(
-            DayName(date), PersianText::Isolated(date.toString(QStringLiteral("yyyy/MM/dd"))));
-    const SolarCalendar::TDay day = SolarCalendar::FromGregorian(date);
+            TFaDate::DayName(date), PersianText::Isolated(date.toString(QStringLiteral("yyyy/MM/dd"))));
+    const TFaDate day = TFaDate::CreateByGregorianDate(date);
     return QStringLiteral("%1 %2 %3 %4")
-        .arg(DayName(date))
-        .arg(day.Day)
-        .arg(SolarCalendar::MonthName(day.Month))
-        .arg(day.Year);
+        .arg(TFaDate::DayName(date))
+        .arg(day.Day())
+        .arg(TFaDate::MonthName(day.Month()))
+        .arg(day.Year());
 }
 
 } // namespace DisplayText

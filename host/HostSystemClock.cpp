@@ -1,7 +1,7 @@
 #include "HostSystemClock.h"
 
 #include "HostSettings.h"
-#include "SolarCalendar.h"
+#include "SmartFaDate.h"
 
 #include <chrono>
 
@@ -23,7 +23,7 @@ quint32 THostClock::TickCount()
 
 QString THostClock::DateText(const QDate& date, const QString& separator) const
 {
-    if (settings_->SettingRecord().IsGregorian())
-        return SolarCalendar::Text({date.year(), date.month(), date.day()}, separator);
-    return SolarCalendar::Text(SolarCalendar::FromGregorian(date), separator);
+    const TFaDate day = TFaDate::CreateByGregorianDate(date);
+    const bool gregorian = settings_->SettingRecord().IsGregorian();
+    return (gregorian ? day.GetGregorianDateString() : day.ToDateString()).replace(u'/', separator);
 }
