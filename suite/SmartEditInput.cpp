@@ -24,6 +24,14 @@ bool IsTyping(const QKeyEvent* event)
            event->text().front() != QChar(0x7F);
 }
 
+// The toolkit's line writes the letter of Alt and a letter that no mnemonic has taken.
+bool WritesBesideTyping(const QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers held = event->modifiers() & (Qt::AltModifier | Qt::MetaModifier);
+    return held != Qt::NoModifier && !IsTyping(event) && !event->text().isEmpty() &&
+           event->text().front() >= u' ';
+}
+
 bool IsDirectionKey(const QKeyEvent* event)
 {
     return event->key() == Qt::Key_Direction_L || event->key() == Qt::Key_Direction_R;
@@ -78,9 +86,13 @@ bool TSmartEdit_TRV::TPrivate::HandleKey(QKeyEvent* event)
     }
     if (IsNumber())
         return HandleNumberKey(event);
+    if (WritesBesideTyping(event)) {
+        event->ignore();
+        return true;
+    }
     if (!IsTyping(event))
         return false;
-    const QString clean = FittingText(PersianText::SingleLine(event->text()));
+    const QString clean = FittingText(CleanText(event->text()));
     if (clean == event->text())
         return false;
     if (!clean.isEmpty() && CanChange())
@@ -167,6 +179,16 @@ void TSmartEdit_TRV::TPrivate::Type(const QString& text)
     }
 }
 
+// What a text edit takes of a text.
+QString TSmartEdit_TRV::TPrivate::CleanText(const QString& text) const
+{
+    if (!digitsOnly)
+        return PersianText::SingleLine(text);
+    QString digits = PersianText::AsciiDigits(text);
+    digits.removeIf([](QChar character) { return character < u'0' || character > u'9'; });
+    return digits;
+}
+
 // As much of a text as the edit still has room for.
 QString TSmartEdit_TRV::TPrivate::FittingText(const QString& text) const
 {
@@ -182,10 +204,13 @@ bool TSmartEdit_TRV::TPrivate::Paste(const QString& text)
 {
     if (text.isEmpty() || !CanChange())
         return false;
-    return IsNumber() ? PasteNumber(text) : PasteText(text);
+    if (IsNumber())
+        return PasteNumber(text);
+    return digitsOnly ? PasteDigits(text) : PasteText(text);
 }
 
-bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
+// The one number of a text; a sentence to the user where there is not just one.
+std::optional<QString> TSmartEdit_TRV::TPrivate::FindNumber(const QString& text) const
 {
     QString found;
     switch (DecimalText::Find(text, found)) {
@@ -193,31 +218,53 @@ bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
         Balloon::Show(
             edit,
             QStringLiteral(
-                "در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید "
-                "و "
-                "دوباره "
-                "بچسبانید."));
-        return false;
+                "در متن چسبانده‌شده عددی نیست؛ یک عدد رونوشت کنید و دوباره بچسبانید."));
+        return {};
     case DecimalText::TFinding::Several:
         Balloon::Show(
             edit,
             QStringLiteral(
-                "متن چسبانده‌شده یک عدد تنها نیست؛ فقط همان عدد را "
-                "رونوشت "
-                "کنید."));
-        return false;
+                "متن چسبانده‌شده یک عدد تنها نیست؛ فقط همان عدد را رونوشت کنید."));
+        return {};
     case DecimalText::TFinding::One:
         break;
     }
+    return found;
+}
+
+bool TSmartEdit_TRV::TPrivate::PasteNumber(const QString& text)
+{
+    const std::optional<QString> found = FindNumber(text);
+    if (!found)
+        return false;
     TNumberText::TTaken taken = TNumberText::TTaken::Yes;
     const TNumberRules rules = Rules();
     const bool done = Edit([&](TNumberText& typed) {
-        taken = typed.Paste(found, rules);
+        taken = typed.Paste(*found, rules);
         return taken == TNumberText::TTaken::Yes;
     });
     if (taken != TNumberText::TTaken::Yes)
         Balloon::Show(edit, RefusalOf(taken, rules));
     return done;
+}
+
+// A code is taken whole or not at all; half of one would be another one. Its zeros in front stay.
+bool TSmartEdit_TRV::TPrivate::PasteDigits(const QString& text) const
+{
+    const std::optional<QString> found = FindNumber(text);
+    if (!found)
+        return false;
+    const QString digits = CleanText(text);
+    if (found->startsWith(u'-') || found->contains(u'.')) {
+        Balloon::Show(
+            edit, QStringLiteral("کد فقط رقم دارد؛ کد را بی علامت و اعشار رونوشت کنید و دوباره بچسبانید."));
+    } else if (FittingText(digits) != digits) {
+        Balloon::Show(edit, RefusalOf(TNumberText::TTaken::TooManyDigits, Rules()));
+    } else {
+        edit->insert(digits);
+        return true;
+    }
+    return false;
 }
 
 bool TSmartEdit_TRV::TPrivate::PasteText(const QString& text) const
@@ -226,7 +273,8 @@ bool TSmartEdit_TRV::TPrivate::PasteText(const QString& text) const
     if (clean.isEmpty()) {
         Balloon::Show(
             edit,
-            QStringLiteral("متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری رونوشت کنید."));
+            QStringLiteral(
+                "متن چسبانده‌شده نوشته‌ای ندارد؛ متن دیگری رونوشت کنید."));
         return false;
     }
     const QString fitting = FittingText(clean);

@@ -182,3 +182,9 @@ void TSmartEdit_TRV::TPrivate::RefreshHint() const
                          DecimalText::FromValue(currencyRate, DecimalText::MostDecimals)));
     edit->setToolTip(lines.join(u'\n'));
 }
+
+void TSmartEdit_TRV::TPrivate::RefreshInputHints() const
+{
+    const Qt::InputMethodHint ofText = digitsOnly ? Qt::ImhDigitsOnly : Qt::ImhNone;
+    edit->setInputMethodHints(IsNumber() ? Qt::ImhFormattedNumbersOnly : ofText);
+}

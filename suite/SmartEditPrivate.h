@@ -37,6 +37,7 @@ struct TSmartEdit_TRV::TPrivate
     void KeepBounds();
     void ClearError();
     void RefreshHint() const;
+    void RefreshInputHints() const;
 
     // SmartEditInput.cpp: from the user to the text
     bool HandleKey(QKeyEvent* event);
@@ -44,9 +45,12 @@ struct TSmartEdit_TRV::TPrivate
     bool Edit(const std::function<bool(TNumberText&)>& change);
     bool IsWithinReach(const TNumberText& candidate);
     void Type(const QString& text);
+    QString CleanText(const QString& text) const;
     QString FittingText(const QString& text) const;
     bool Paste(const QString& text);
+    std::optional<QString> FindNumber(const QString& text) const;
     bool PasteNumber(const QString& text);
+    bool PasteDigits(const QString& text) const;
     bool PasteText(const QString& text) const;
     void Copy() const;
     void Cut();
@@ -65,6 +69,7 @@ struct TSmartEdit_TRV::TPrivate
     TEditType editType = etString;
     TValueType valueType = vtFloat;
     int maxLength = 0;
+    bool digitsOnly = false;
     int precision = 0;
     int delayTime = 300;
     bool calculator = false;

@@ -38,7 +38,7 @@ void TSmartEdit_TRV::SetEditType(TEditType type)
     const QString text = Text();
     d->editType = type;
     d->number.SetGrouped(type == etCurrency);
-    setInputMethodHints(type == etString ? Qt::ImhNone : Qt::ImhFormattedNumbersOnly);
+    d->RefreshInputHints();
     d->RefreshCalculatorButton();
     d->SetText(text);
     d->ShowSign();
@@ -64,6 +64,17 @@ int TSmartEdit_TRV::MaxLength() const
 void TSmartEdit_TRV::SetMaxLength(int length)
 {
     d->maxLength = qMax(0, length);
+}
+
+bool TSmartEdit_TRV::DigitsOnly() const
+{
+    return d->digitsOnly;
+}
+
+void TSmartEdit_TRV::SetDigitsOnly(bool only)
+{
+    d->digitsOnly = only;
+    d->RefreshInputHints();
 }
 
 int TSmartEdit_TRV::DelayTimeCount() const
@@ -222,10 +233,15 @@ bool TSmartEdit_TRV::event(QEvent* event)
     return ControlDispatch::Event(this, *this, event) || QLineEdit::event(event);
 }
 
+bool TSmartEdit_TRV::HandleOwnKey(QKeyEvent* /*event*/)
+{
+    return false;
+}
+
 void TSmartEdit_TRV::keyPressEvent(QKeyEvent* event)
 {
     ControlDispatch::KeyPress(this, *this, event, [this](QKeyEvent* own) {
-        if (!d->HandleKey(own))
+        if (!HandleOwnKey(own) && !d->HandleKey(own))
             QLineEdit::keyPressEvent(own);
     });
 }
@@ -248,7 +264,7 @@ void TSmartEdit_TRV::inputMethodEvent(QInputMethodEvent* event)
         return;
     }
     QInputMethodEvent clean(event->preeditString(), event->attributes());
-    clean.setCommitString(d->FittingText(PersianText::SingleLine(text)), event->replacementStart(),
+    clean.setCommitString(d->FittingText(d->CleanText(text)), event->replacementStart(),
                           event->replacementLength());
     QLineEdit::inputMethodEvent(&clean);
 }

@@ -15,6 +15,7 @@ class SUITE_EXPORT TSmartEdit_TRV : public QLineEdit, public TControlEvents
     Q_PROPERTY(TEditType EditType READ EditType WRITE SetEditType)
     Q_PROPERTY(TValueType ValueType READ ValueType WRITE SetValueType)
     Q_PROPERTY(int MaxLength READ MaxLength WRITE SetMaxLength)
+    Q_PROPERTY(bool DigitsOnly READ DigitsOnly WRITE SetDigitsOnly)
     Q_PROPERTY(int DelayTimeCount READ DelayTimeCount WRITE SetDelayTimeCount)
     Q_PROPERTY(int Precision READ Precision WRITE SetPrecision)
     Q_PROPERTY(bool Calculator READ Calculator WRITE SetCalculator)
@@ -40,6 +41,11 @@ public:
     /// Longest text the user may type, grouping signs and minus not counted; 0 means no limit.
     int MaxLength() const;
     void SetMaxLength(int length);
+    /// Whether the user can bring nothing but digits into a text edit: for codes, whose leading zeros count.
+    /// What else he types is refused, and a pasted text that is no code, whole and with a sentence that says
+    /// why. The program may still show any text. Number edits ignore it.
+    bool DigitsOnly() const;
+    void SetDigitsOnly(bool only);
     /// Milliseconds between the last change of the value and OnEditValueChange. 300 by default.
     int DelayTimeCount() const;
     void SetDelayTimeCount(int milliseconds);
@@ -69,7 +75,7 @@ public:
     /// number as 0. Raises OnChange when the text differs; OnEditValueChange is for what the user changes.
     void SetText(const QString& text);
     /// Empties a text edit; a number edit shows "0".
-    void Clear();
+    virtual void Clear();
     /// The value of a number edit, 0 where there is none; the text of a text edit read as a number.
     long double GetValue() const;
     void SetValue(long double value);
@@ -93,6 +99,9 @@ Q_SIGNALS:
     void editValueChanged();
 
 protected:
+    /// A key that a derived edit handles in its own way, asked after OnKeyDown and OnKeyPress; true where it
+    /// has. The edit may be gone by then.
+    virtual bool HandleOwnKey(QKeyEvent* event);
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

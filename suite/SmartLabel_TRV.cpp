@@ -49,7 +49,7 @@ QWidget* TSmartLabel_TRV::FocusControl() const
 
 void TSmartLabel_TRV::SetFocusControl(QWidget* control)
 {
-    setBuddy(control != nullptr ? control : this);
+    setBuddy(control != nullptr ? control : MnemonicHolder());
 }
 
 void TSmartLabel_TRV::SetOnBand(bool on)
@@ -58,12 +58,26 @@ void TSmartLabel_TRV::SetOnBand(bool on)
     update();
 }
 
+void TSmartLabel_TRV::SetShowAccelChar(bool show)
+{
+    showAccelChar_ = show;
+    if (FocusControl() == nullptr)
+        setBuddy(MnemonicHolder());
+    updateGeometry();
+    update();
+}
+
+QString TSmartLabel_TRV::ShownText() const
+{
+    return showAccelChar_ ? TMnemonicText::Parse(text()).Text : text();
+}
+
 QSize TSmartLabel_TRV::sizeHint() const
 {
     if (text().isEmpty() || wordWrap())
         return QLabel::sizeHint();
     const int space = 2 * (frameWidth() + margin());
-    const QSize textSize = fontMetrics().size(0, TMnemonicText::Parse(text()).Text);
+    const QSize textSize = fontMetrics().size(0, ShownText());
     return textSize + QSize(space + qMax(indent(), 0), space);
 }
 
@@ -80,8 +94,7 @@ bool TSmartLabel_TRV::event(QEvent* event)
     }
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsElided()) {
 
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), TMnemonicText::Parse(text()).Text,
-                           this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ShownText(), this);
         return true;
     }
     return QLabel::event(event);
@@ -111,17 +124,16 @@ void TSmartLabel_TRV::paintEvent(QPaintEvent* event)
     drawFrame(&painter);
     const QRect area = TextRect();
     int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
-    flags |= Qt::TextShowMnemonic | Qt::TextForceRightToLeft | (wordWrap() ? Qt::TextWordWrap : 0);
+    flags |= MnemonicFlag() | Qt::TextForceRightToLeft | (wordWrap() ? Qt::TextWordWrap : 0);
     const QString shown =
-        IsElided() ? fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), Qt::TextShowMnemonic)
-                   : text();
+        IsElided() ? fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), MnemonicFlag()) : text();
     style()->drawItemText(&painter, area, flags, TextPalette(), isEnabled(), shown, QPalette::WindowText);
 }
 
 bool TSmartLabel_TRV::IsElided() const
 {
     return !wordWrap() && !text().contains(u'\n') &&
-           fontMetrics().horizontalAdvance(TMnemonicText::Parse(text()).Text) > TextRect().width();
+           fontMetrics().horizontalAdvance(ShownText()) > TextRect().width();
 }
 
 QRect TSmartLabel_TRV::TextRect() const

@@ -15,6 +15,7 @@ class SUITE_EXPORT TSmartLabel_TRV : public QLabel
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     Q_PROPERTY(bool OnBand READ OnBand WRITE SetOnBand)
+    Q_PROPERTY(bool ShowAccelChar READ ShowAccelChar WRITE SetShowAccelChar)
 
 public:
     explicit TSmartLabel_TRV(QWidget* parent = nullptr);
@@ -28,6 +29,10 @@ public:
     /// Whether the label stands on the dark band and is painted in the band's text colour.
     bool OnBand() const { return onBand_; }
     void SetOnBand(bool on);
+    /// Whether & marks the caption's mnemonic. True at first; a label that shows data takes it as a character
+    /// like others.
+    bool ShowAccelChar() const { return showAccelChar_; }
+    void SetShowAccelChar(bool show);
 
     TNotifyEvent OnClick; ///< by mouse, or by the mnemonic of a label without FocusControl
 
@@ -41,6 +46,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The buddy of a label without FocusControl: the toolkit claims the mnemonics of labels with a buddy.
+    QWidget* MnemonicHolder() { return showAccelChar_ ? this : nullptr; }
+    QString ShownText() const;
+    int MnemonicFlag() const { return showAccelChar_ ? Qt::TextShowMnemonic : 0; }
     bool IsElided() const;
     QRect TextRect() const;
     QPalette TextPalette() const;
@@ -48,4 +57,5 @@ private:
     void RaiseClick();
 
     bool onBand_ = false;
+    bool showAccelChar_ = true;
 };
