@@ -11,43 +11,43 @@
 
 namespace {
 
-struct TKeyHelp
+QVector<TKeyHelp> WindowKeys()
 {
-    const char16_t* Key;
-    const char16_t* Meaning;
-};
+    return {
+        {QStringLiteral("Ctrl+1 … Ctrl+9"),
+         QStringLiteral("صفحه‌های برنامه، به ترتیب ستون کنار پنجره")},
+        {QStringLiteral("F1"), QStringLiteral("همین راهنما، با کلیدهای صفحهٔ جاری")},
+        {QStringLiteral("Ctrl+Q"), QStringLiteral("خروج")},
+    };
+}
 
-constexpr TKeyHelp keys[] = {
-    {u"F10", u"رفتن به فیلد جستجو؛ با ↑ و ↓ فیلد را برگزینید و با Tab به جای نوشتن بروید"},
-    {u"Enter", u"جستجوی بی‌درنگ و باز کردن کارت ردیف پیدا شده"},
-    {u"↓ ↑", u"از جای نوشتن به فهرست؛ در فهرست، ردیف بعدی و قبلی"},
-    {u"Escape", u"پاک کردن جستجو، بستن کارت"},
-    {u"Alt+ن", u"وارونه کردن جستجو: ردیف‌هایی که چنین نیستند"},
-    {u"F5", u"خواندن دوبارهٔ فهرست"},
-    {u"F7",
-     u"مرتب‌سازی؛ انتخاب دوبارهٔ همان ستون ترتیب را وارونه "
-     u"می‌کند"},
-    {u"PageDown PageUp", u"صفحهٔ بعدی و قبلی؛ در کارت، رکورد بعدی و قبلی"},
-    {u"Ctrl+1  Ctrl+2", u"فهرست کالاها، فهرست اشخاص"},
-    {u"Ctrl+Q", u"خروج"},
-};
+void AddHeading(QGridLayout* grid, const QString& caption, QWidget* parent)
+{
+    auto* heading = new TSmartLabel_TRV(parent);
+    heading->setTextFormat(Qt::PlainText);
+    heading->setForegroundRole(QPalette::Link);
+    heading->SetCaption(caption);
+    grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
+}
 
-void AddLine(QGridLayout* grid, int row, const TKeyHelp& line, QWidget* parent)
+void AddLine(QGridLayout* grid, const TKeyHelp& line, QWidget* parent)
 {
     auto* key = new TSmartLabel_TRV(parent);
     key->setTextFormat(Qt::PlainText);
     key->setFont(RelativeFonts::Bold());
-    key->SetCaption(PersianText::Isolated(QString::fromUtf16(line.Key)));
+    key->SetCaption(PersianText::Isolated(line.Key));
     auto* meaning = new TSmartLabel_TRV(parent);
     meaning->setTextFormat(Qt::PlainText);
-    meaning->SetCaption(QString::fromUtf16(line.Meaning));
+    meaning->SetCaption(line.Meaning);
+    const int row = grid->rowCount();
     grid->addWidget(key, row, 0);
     grid->addWidget(meaning, row, 1);
 }
 
 } // namespace
 
-THelpWindow::THelpWindow(QWidget* parent) : QDialog(parent)
+THelpWindow::THelpWindow(const QString& pageTitle, const QVector<TKeyHelp>& pageKeys, QWidget* parent)
+    : QDialog(parent)
 {
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(QStringLiteral("کلیدها"));
@@ -57,9 +57,12 @@ THelpWindow::THelpWindow(QWidget* parent) : QDialog(parent)
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Look::GroupGap);
     grid->setVerticalSpacing(Look::LineGap);
-    int row = 0;
-    for (const TKeyHelp& line : keys)
-        AddLine(grid, row++, line, this);
+    AddHeading(grid, pageTitle, this);
+    for (const TKeyHelp& line : pageKeys)
+        AddLine(grid, line, this);
+    AddHeading(grid, QStringLiteral("همه‌جا"), this);
+    for (const TKeyHelp& line : WindowKeys())
+        AddLine(grid, line, this);
     column->addLayout(grid);
     auto* close = new QPushButton(QStringLiteral("ب&ستن"), this);
     close->setMinimumHeight(Look::ControlHeight);

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "Page.h"
+
 #include <QDialog>
 
-/// The keys of the workbench, on F1.
+/// The keys of the page in front and of the window, on F1.
 class THelpWindow : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit THelpWindow(QWidget* parent = nullptr);
+    THelpWindow(const QString& pageTitle, const QVector<TKeyHelp>& pageKeys, QWidget* parent = nullptr);
     ~THelpWindow() override;
 };

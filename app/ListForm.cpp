@@ -32,7 +32,7 @@ struct TListForm::TParts
 };
 
 TListForm::TListForm(const TListDescription& list, TReferenceHost& host, QWidget* parent)
-    : QWidget(parent), list_(list), host_(&host), parts_(std::make_unique<TParts>())
+    : TPage(parent), list_(list), host_(&host), parts_(std::make_unique<TParts>())
 {
     setObjectName(list_.Key + QStringLiteral("List"));
     setWindowTitle(list_.Title);
@@ -51,6 +51,32 @@ TListForm::~TListForm()
     parts_->Source.SetDataSet(nullptr);
     delete card_;
     delete parts_->Footer;
+}
+
+void TListForm::Enter()
+{
+    if (!parts_->DataSet.Active())
+        Refresh();
+    FocusSearchEdit();
+}
+
+QVector<TKeyHelp> TListForm::Keys() const
+{
+    return {
+        {QStringLiteral("F10"),
+         QStringLiteral("رفتن به فیلد جستجو؛ با ↑ و ↓ فیلد را برگزینید و با Tab به جای نوشتن بروید")},
+        {QStringLiteral("Enter"),
+         QStringLiteral("جستجوی بی‌درنگ و باز کردن کارت ردیف پیدا شده")},
+        {QStringLiteral("↓ ↑"), QStringLiteral("از جای نوشتن به فهرست؛ در فهرست، ردیف بعدی و قبلی")},
+        {QStringLiteral("Escape"), QStringLiteral("پاک کردن جستجو، بستن کارت")},
+        {QStringLiteral("Alt+ن"),
+         QStringLiteral("وارونه کردن جستجو: ردیف‌هایی که چنین نیستند")},
+        {QStringLiteral("F5"), QStringLiteral("خواندن دوبارهٔ فهرست")},
+        {QStringLiteral("F7"),
+         QStringLiteral(
+             "مرتب‌سازی؛ انتخاب دوبارهٔ همان ستون ترتیب را وارونه می‌کند")},
+        {QStringLiteral("PageDown PageUp"), QStringLiteral("صفحهٔ بعدی و قبلی؛ در کارت، رکورد بعدی و قبلی")},
+    };
 }
 
 TPagedDataSet& TListForm::DataSet()

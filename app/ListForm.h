@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ListDescription.h"
+#include "Page.h"
 
 #include <memory>
 #include <QPointer>
-#include <QWidget>
 
 class QMenu;
 class TGeneral_Search_Frame;
@@ -15,7 +15,7 @@ class TReferenceHost;
 
 /// A list of one kind of records: the search bar above, the grid, the condition in words and the number of
 /// rows below. What it lists is told by its description.
-class TListForm : public QWidget
+class TListForm : public TPage
 {
     Q_OBJECT
 
@@ -23,6 +23,11 @@ public:
     /// The host must outlive the form. Reads the list's state from the host's settings.
     TListForm(const TListDescription& list, TReferenceHost& host, QWidget* parent = nullptr);
     ~TListForm() override;
+
+    void Enter() override;
+    void SaveState() const override;
+    void Reconnect() override { Refresh(); }
+    QVector<TKeyHelp> Keys() const override;
 
     const TListDescription& Description() const { return list_; }
     TPagedDataSet& DataSet();
@@ -40,7 +45,6 @@ public:
     void ClearSearch();      ///< Escape
     void OpenCard();         ///< of the current row; nothing happens on an empty list
     void ShowSortMenu();     ///< F7
-    void SaveState() const;
 
 private:
     void Lay();

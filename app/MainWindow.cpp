@@ -44,17 +44,17 @@ QAction* AddChoice(QMenu* menu, QActionGroup* group, const QString& name, const 
 } // namespace
 
 TMainWindow::TMainWindow(TReferenceHost& host, const QString& databaseName)
-    : host_(&host), lists_({GoodsList(), PersonsList()}), forms_(lists_.size(), nullptr)
+    : host_(&host), descriptions_(WorkbenchPages()), pages_(descriptions_.size(), nullptr)
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     auto* center = new QWidget(this);
     auto* row = new QHBoxLayout(center);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    pages_ = new QStackedWidget(center);
+    stack_ = new QStackedWidget(center);
     AddMenus();
     row->addWidget(NewNavigation());
-    row->addWidget(pages_, 1);
+    row->addWidget(stack_, 1);
     setCentralWidget(center);
     AddStatus(databaseName);
     RestoreWindow();
@@ -64,25 +64,28 @@ TMainWindow::~TMainWindow() = default;
 
 void TMainWindow::AddMenus()
 {
-    AddListActions();
+    AddPageActions();
     AddViewMenu();
     AddHelpMenu();
 }
 
-void TMainWindow::AddListActions()
+void TMainWindow::AddPageActions()
 {
-    QMenu* menu = menuBar()->addMenu(QStringLiteral("&فهرست‌ها"));
+    QMenu* lists = menuBar()->addMenu(QStringLiteral("&فهرست‌ها"));
+    QMenu* forms = menuBar()->addMenu(QStringLiteral("&عملیات"));
     auto* group = new QActionGroup(this);
-    for (qsizetype i = 0; i < lists_.size(); ++i) {
-        QAction* action = menu->addAction(lists_.at(i).Title);
+    for (qsizetype place = 0; place < descriptions_.size(); ++place) {
+        const TPageDescription& page = descriptions_.at(place);
+        QAction* action = (page.IsList ? lists : forms)->addAction(page.Title);
+        action->setObjectName(page.Key);
         action->setCheckable(true);
-        action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)));
+        action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)));
         group->addAction(action);
-        connect(action, &QAction::triggered, this, [this, key = lists_.at(i).Key] { OpenList(key); });
-        listActions_.append(action);
+        connect(action, &QAction::triggered, this, [this, place] { OpenPageAt(place); });
+        pageActions_.append(action);
     }
-    menu->addSeparator();
-    QAction* close = menu->addAction(QStringLiteral("&خروج"));
+    lists->addSeparator();
+    QAction* close = lists->addAction(QStringLiteral("&خروج"));
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(close, &QAction::triggered, this, &QWidget::close);
 }
@@ -145,13 +148,13 @@ QWidget* TMainWindow::NewNavigation()
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
     column->setSpacing(Look::Unit);
-    for (QAction* action : qAsConst(listActions_)) {
+    for (QAction* action : qAsConst(pageActions_)) {
         auto* button = new QToolButton(panel);
         button->setDefaultAction(action);
         button->setAutoRaise(true);
         button->setFixedHeight(navigationButtonHeight);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        // The lists have the keyboard; the navigation has Ctrl with a digit.
+        // The pages have the keyboard; the navigation has Ctrl with a digit.
         button->setFocusPolicy(Qt::NoFocus);
         column->addWidget(button);
     }
@@ -181,37 +184,46 @@ void TMainWindow::AddStatus(const QString& databaseName)
     statusBar()->addWidget(line, 1);
 }
 
-TListForm* TMainWindow::OpenList(const QString& key)
+TPage* TMainWindow::OpenPage(const QString& key)
 {
-    for (qsizetype i = 0; i < lists_.size(); ++i) {
-        if (lists_.at(i).Key != key)
-            continue;
-        if (forms_.at(i) == nullptr) {
-            forms_[i] = new TListForm(lists_.at(i), *host_, pages_);
-            pages_->addWidget(forms_.at(i));
+    for (qsizetype place = 0; place < descriptions_.size(); ++place) {
+        if (descriptions_.at(place).Key == key) {
+            OpenPageAt(place);
+            return pages_.at(place);
         }
-        if (!forms_.at(i)->DataSet().Active())
-            forms_.at(i)->Refresh();
-        pages_->setCurrentWidget(forms_.at(i));
-        listActions_.at(i)->setChecked(true);
-        setWindowTitle(
-            QStringLiteral("%1 — %2").arg(lists_.at(i).Title, QGuiApplication::applicationDisplayName()));
-        forms_.at(i)->FocusSearchEdit();
-        return forms_.at(i);
     }
     return nullptr;
 }
 
+void TMainWindow::OpenPageAt(qsizetype place)
+{
+    const TPageDescription& description = descriptions_.at(place);
+    if (pages_.at(place) == nullptr) {
+        pages_[place] = description.Create(*host_, stack_);
+        stack_->addWidget(pages_.at(place));
+    }
+    stack_->setCurrentWidget(pages_.at(place));
+    pageActions_.at(place)->setChecked(true);
+    setWindowTitle(
+        QStringLiteral("%1 — %2").arg(description.Title, QGuiApplication::applicationDisplayName()));
+    pages_.at(place)->Enter();
+}
+
+TPage* TMainWindow::CurrentPage() const
+{
+    return qobject_cast<TPage*>(stack_->currentWidget());
+}
+
 TListForm* TMainWindow::CurrentList() const
 {
-    return qobject_cast<TListForm*>(pages_->currentWidget());
+    return qobject_cast<TListForm*>(stack_->currentWidget());
 }
 
 void TMainWindow::Reconnect()
 {
-    for (TListForm* form : qAsConst(forms_)) {
-        if (form != nullptr)
-            form->Refresh();
+    for (TPage* page : qAsConst(pages_)) {
+        if (page != nullptr)
+            page->Reconnect();
     }
 }
 
@@ -230,7 +242,11 @@ Look::TDigits TMainWindow::SavedDigits(const TReferenceHost& host)
 
 void TMainWindow::ShowKeys()
 {
-    auto* help = new THelpWindow(this);
+    const TPage* page = CurrentPage();
+    const qsizetype place = pages_.indexOf(page);
+    if (place < 0)
+        return;
+    auto* help = new THelpWindow(descriptions_.at(place).Title, page->Keys(), this);
     help->setAttribute(Qt::WA_DeleteOnClose);
     help->open();
 }
@@ -258,10 +274,17 @@ void TMainWindow::RestoreWindow()
 
 void TMainWindow::closeEvent(QCloseEvent* event)
 {
+    for (qsizetype place = 0; place < pages_.size(); ++place) {
+        TPage* page = pages_.at(place);
+        if (page != nullptr && !page->MayClose()) {
+            event->ignore();
+            return;
+        }
+    }
     host_->Settings().SetValue(geometryKey, saveGeometry());
-    for (const TListForm* form : qAsConst(forms_)) {
-        if (form != nullptr)
-            form->SaveState();
+    for (const TPage* page : qAsConst(pages_)) {
+        if (page != nullptr)
+            page->SaveState();
     }
     QMainWindow::closeEvent(event);
 }

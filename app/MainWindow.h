@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ListDescription.h"
 #include "Look.h"
+#include "Page.h"
 
 #include <QMainWindow>
 #include <QVector>
@@ -12,7 +12,7 @@ class QStackedWidget;
 class TListForm;
 class TReferenceHost;
 
-/// The window of the workbench: menu, navigation at the right, the open list, and the status bar with
+/// The window of the workbench: menu, navigation at the right, the open page, and the status bar with
 /// database, user and date. Keeps its geometry, the palette and the cut of the digits in the host's settings.
 class TMainWindow : public QMainWindow
 {
@@ -23,10 +23,13 @@ public:
     TMainWindow(TReferenceHost& host, const QString& databaseName);
     ~TMainWindow() override;
 
-    /// Opens a list, or brings the open one forward; the caret stands in its search edit.
-    TListForm* OpenList(const QString& key);
+    /// Opens a page, or brings the open one forward. Null where there is none of the key.
+    TPage* OpenPage(const QString& key);
+    /// The page in front; null before the first one is opened.
+    TPage* CurrentPage() const;
+    /// The list in front; null where a form is.
     TListForm* CurrentList() const;
-    /// Has the open lists read their rows on the connection that was opened again.
+    /// Tells the open pages that the connection was opened again.
     void Reconnect();
 
     /// The scheme that the settings hold.
@@ -38,7 +41,8 @@ protected:
 
 private:
     void AddMenus();
-    void AddListActions();
+    void AddPageActions();
+    void OpenPageAt(qsizetype place);
     void AddViewMenu();
     void AddHelpMenu();
     void AddSchemes(QMenu* menu);
@@ -50,8 +54,8 @@ private:
     void RestoreWindow();
 
     TReferenceHost* host_;
-    QVector<TListDescription> lists_;
-    QVector<QAction*> listActions_;
-    QVector<TListForm*> forms_; ///< one for each list, null until it is opened
-    QStackedWidget* pages_ = nullptr;
+    QVector<TPageDescription> descriptions_;
+    QVector<QAction*> pageActions_;
+    QVector<TPage*> pages_; ///< one for each description, null until it is opened
+    QStackedWidget* stack_ = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "DecimalText.h"
 #include "PersianText.h"
+#include "SmartFaDate.h"
 
 namespace {
 
@@ -256,4 +257,10 @@ std::optional<TVoucherFault> TVoucherDraft::CheckBalance() const
             "سند تراز نیست: %1 %2 بیشتر است. ردیف دیگری بنویسید یا مبلغ‌ها را درست کنید.")
             .arg(tooMuchDebit ? QStringLiteral("بدهکار") : QStringLiteral("بستانکار"),
                  PersianText::Isolated(DecimalText::Grouped(difference))));
+}
+
+QString CompletedDate(const QString& typed, bool gregorian)
+{
+    return gregorian ? TFaDate::CreateByGregorianDate(typed).GetGregorianDateString()
+                     : TFaDate::CreateByPersianDate(typed).ToDateString();
 }

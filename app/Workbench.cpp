@@ -178,7 +178,7 @@ int TWorkbench::ShowWindow(const TCommandLine& line, TReferenceHost& host, const
     TMainWindow window(host, databaseName);
     QObject::connect(application_, &THostApplication::connectionReopened, &window, &TMainWindow::Reconnect);
     window.show();
-    window.OpenList(QStringLiteral("Goods"));
+    window.OpenPage(QStringLiteral("Goods"));
     if (line.TourFolder.isEmpty())
         return QCoreApplication::exec();
     window.resize(tourWindow);

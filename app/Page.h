@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <QKeySequence>
+#include <QString>
+#include <QVector>
+#include <QWidget>
+
+class TReferenceHost;
+
+/// A key and what it does, for the window of the keys.
+struct TKeyHelp
+{
+    QString Key;
+    QString Meaning;
+};
+
+/// A page of the main window: a list or a form. The window makes it when it is first opened and keeps it,
+/// with everything that the user has typed, until the window itself is closed.
+class TPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    ~TPage() override;
+
+    /// The page has come to the front: reads what it has not read yet and puts the caret where work goes on.
+    virtual void Enter() = 0;
+    /// The window wants to close. False keeps it open; the user has been asked.
+    virtual bool MayClose() { return true; }
+    /// Writes sizes, orders and the like into the host's settings.
+    virtual void SaveState() const {}
+    /// The connection was opened again.
+    virtual void Reconnect() {}
+    /// The keys that work on this page.
+    virtual QVector<TKeyHelp> Keys() const = 0;
+};
+
+/// A page as menu and navigation know it.
+struct TPageDescription
+{
+    QString Key;   ///< by which the program opens it
+    QString Title; ///< in menu, navigation and the window's title
+    std::function<TPage*(TReferenceHost& host, QWidget* parent)> Create;
+    bool IsList = true; ///< lists and forms have a menu each
+};
+
+/// All pages in the order of the navigation; Ctrl with the digit of its place opens a page.
+QVector<TPageDescription> WorkbenchPages();
