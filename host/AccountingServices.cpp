@@ -5,6 +5,7 @@
 #include "Codes.h"
 #include "NotOffered.h"
 
+#include <limits>
 #include <QStringList>
 
 THostAccounting::THostAccounting(TADOConnection& connection) : connection_(&connection)
@@ -19,7 +20,7 @@ QString THostAccounting::CompleteCode(const QString& code, int length)
 QString THostAccounting::AccGroupsToString(TSelectGroups groups)
 {
     QStringList ordinals;
-    for (unsigned ordinal = 0; groups.Bits() >> ordinal != 0; ++ordinal) {
+    for (unsigned ordinal = 0; ordinal < std::numeric_limits<quint32>::digits; ++ordinal) {
         if ((groups.Bits() >> ordinal & 1U) != 0)
             ordinals.append(QString::number(ordinal));
     }
