@@ -9,13 +9,6 @@ namespace {
 
 constexpr QLatin1StringView MemoryConnection("sqlite::memory:");
 
-struct TRegisteredFunction
-{
-    QString Name;
-    int ArgumentCount;
-    TDatabaseFunction Function;
-};
-
 /// A database in memory gets a name of its own, by which a clone finds the same one.
 QString NamedIfInMemory(const QString& connectionString)
 {
@@ -29,6 +22,13 @@ QString NamedIfInMemory(const QString& connectionString)
 
 struct TADOConnection::TPrivate
 {
+    struct TRegisteredFunction
+    {
+        QString Name;
+        int ArgumentCount;
+        TDatabaseFunction Function;
+    };
+
     QString ConnectionString;
     QString OpenedString; ///< as the engine got it
     TEngineOptions Options;
@@ -92,7 +92,7 @@ void TADOConnection::Open()
         return;
     d->OpenedString = NamedIfInMemory(d->ConnectionString);
     std::unique_ptr<IEngine> engine = CreateEngine(d->OpenedString, d->Options);
-    for (const TRegisteredFunction& function : d->Functions)
+    for (const TPrivate::TRegisteredFunction& function : d->Functions)
         engine->RegisterFunction(function.Name, function.ArgumentCount, function.Function);
     d->ExchangeEngine(std::move(engine));
 }
@@ -200,7 +200,7 @@ void TADOConnection::RegisterFunction(const QString& name, int argumentCount, TD
 {
     if (d->Engine)
         d->Engine->RegisterFunction(name, argumentCount, function);
-    std::erase_if(d->Functions, [&](const TRegisteredFunction& known) {
+    std::erase_if(d->Functions, [&](const TPrivate::TRegisteredFunction& known) {
         return known.ArgumentCount == argumentCount && known.Name.compare(name, Qt::CaseInsensitive) == 0;
     });
     d->Functions.push_back({name, argumentCount, std::move(function)});

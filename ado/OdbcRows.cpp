@@ -1,5 +1,6 @@
 #include "OdbcRows.h"
 
+#include "ExactDecimal.h"
 #include "OdbcEngine.h"
 
 #include <array>
@@ -60,26 +61,6 @@ TFieldType FieldTypeOf(SQLSMALLINT type, SQLULEN size)
 bool HasLength(TFieldType type)
 {
     return type == TFieldType::ftWideString || type == TFieldType::ftBlob;
-}
-
-/// "0012.500" as "12.5", ".5" as "0.5": one decimal text for one number, whatever the driver writes.
-QString CanonicalDecimal(QString text)
-{
-    text = text.trimmed();
-    const bool negative = text.startsWith(u'-');
-    if (negative || text.startsWith(u'+'))
-        text.remove(0, 1);
-    if (text.contains(u'.')) {
-        while (text.endsWith(u'0'))
-            text.chop(1);
-        if (text.endsWith(u'.'))
-            text.chop(1);
-    }
-    while (text.size() > 1 && text.startsWith(u'0') && text.at(1) != u'.')
-        text.remove(0, 1);
-    if (text.isEmpty() || text.startsWith(u'.'))
-        text.prepend(u'0');
-    return negative && text != QLatin1String("0") ? u'-' + text : text;
 }
 
 QString Digits(int value, int width)
@@ -190,7 +171,7 @@ QVariant TOdbcRows::ReadColumn(int column)
         return ReadTimestamp(number);
     case TFieldType::ftBCD: {
         const QVariant decimal = ReadText(number);
-        return decimal.isValid() ? QVariant(CanonicalDecimal(decimal.toString())) : decimal;
+        return decimal.isValid() ? QVariant(CanonicalDecimal(decimal.toString().trimmed())) : decimal;
     }
     default:
         return ReadText(number);

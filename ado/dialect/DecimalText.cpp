@@ -18,15 +18,6 @@ struct TParts
     std::string_view Fraction; ///< without trailing zeros
 };
 
-std::string_view Trimmed(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
-
 bool AreDigits(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -82,6 +73,15 @@ double Floating(std::string_view text)
 }
 
 } // namespace
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
 
 int CompareDecimals(std::string_view first, std::string_view second)
 {

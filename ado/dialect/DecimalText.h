@@ -8,6 +8,9 @@
 
 namespace Dialect {
 
+/// Without the blanks at both ends.
+std::string_view Trimmed(std::string_view text);
+
 /// The order of two decimal texts by value; texts that are no plain decimals are read as floating numbers.
 int CompareDecimals(std::string_view first, std::string_view second);
 

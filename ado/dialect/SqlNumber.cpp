@@ -10,15 +10,6 @@ namespace Dialect {
 
 namespace {
 
-std::string_view Trimmed(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
-
 /// The value as an exact number; an empty text is 0. Reports the error when it is none.
 std::optional<TDecimal> DecimalOf(sqlite3_context* context, sqlite3_value* value)
 {

@@ -164,9 +164,9 @@ TPiece Concat(const TFunctionCall& call)
     return piece;
 }
 
-constexpr int AnyNumber = 254;
+constexpr int MostTextArguments = 254;
 
-constexpr std::array Rules{
+constexpr std::array TextRules{
     TFunctionRule{"LEN", 1, 1, Len},
     TFunctionRule{"LTRIM", 1, 1, LTrim},
     TFunctionRule{"RTRIM", 1, 1, RTrim},
@@ -184,17 +184,18 @@ constexpr std::array Rules{
     TFunctionRule{"UNICODE", 1, 1, Unicode},
     TFunctionRule{"REPLICATE", 2, 2, Replicate},
     TFunctionRule{"SPACE", 1, 1, Space},
-    TFunctionRule{"CONCAT", 2, AnyNumber, Concat},
+    TFunctionRule{"CONCAT", 2, MostTextArguments, Concat},
 };
 
 } // namespace
 
 const TFunctionRule* FindTextFunction(QStringView name)
 {
-    const auto* const found = std::find_if(Rules.begin(), Rules.end(), [&](const TFunctionRule& rule) {
-        return name.compare(QLatin1StringView(rule.Name), Qt::CaseInsensitive) == 0;
-    });
-    return found == Rules.end() ? nullptr : found;
+    const auto* const found =
+        std::find_if(TextRules.begin(), TextRules.end(), [&](const TFunctionRule& rule) {
+            return name.compare(QLatin1StringView(rule.Name), Qt::CaseInsensitive) == 0;
+        });
+    return found == TextRules.end() ? nullptr : found;
 }
 
 } // namespace Dialect

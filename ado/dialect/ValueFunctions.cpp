@@ -128,11 +128,11 @@ TPiece DataLength(const TFunctionCall& call)
     return WholePiece(Call("length", {call.Sql(0)}), {TKind::BigInt});
 }
 
-constexpr int AnyNumber = 100;
+constexpr int MostValueArguments = 100;
 
-constexpr std::array Rules{
+constexpr std::array ValueRules{
     TFunctionRule{"ISNULL", 2, 2, IsNull},
-    TFunctionRule{"COALESCE", 2, AnyNumber, Coalesce},
+    TFunctionRule{"COALESCE", 2, MostValueArguments, Coalesce},
     TFunctionRule{"NULLIF", 2, 2, NullIf},
     TFunctionRule{"ABS", 1, 1, Abs},
     TFunctionRule{"ROUND", 2, 2, Round},
@@ -154,10 +154,11 @@ constexpr std::array Rules{
 
 const TFunctionRule* FindValueFunction(QStringView name)
 {
-    const auto* const found = std::find_if(Rules.begin(), Rules.end(), [&](const TFunctionRule& rule) {
-        return name.compare(QLatin1StringView(rule.Name), Qt::CaseInsensitive) == 0;
-    });
-    return found == Rules.end() ? nullptr : found;
+    const auto* const found =
+        std::find_if(ValueRules.begin(), ValueRules.end(), [&](const TFunctionRule& rule) {
+            return name.compare(QLatin1StringView(rule.Name), Qt::CaseInsensitive) == 0;
+        });
+    return found == ValueRules.end() ? nullptr : found;
 }
 
 } // namespace Dialect
