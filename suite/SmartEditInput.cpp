@@ -204,9 +204,16 @@ bool TSmartEdit_TRV::TPrivate::Paste(const QString& text)
 {
     if (text.isEmpty() || !CanChange())
         return false;
+    QString taken = text;
+    const QPointer<TSmartEdit_TRV> alive = edit;
+    // A copy, because the handler may replace or clear itself.
+    if (const TPasteEvent handler = edit->OnPaste)
+        handler(edit, taken);
+    if (!alive || taken.isEmpty())
+        return true;
     if (IsNumber())
-        return PasteNumber(text);
-    return digitsOnly ? PasteDigits(text) : PasteText(text);
+        return PasteNumber(taken);
+    return digitsOnly ? PasteDigits(taken) : PasteText(taken);
 }
 
 // The one number of a text; a sentence to the user where there is not just one.

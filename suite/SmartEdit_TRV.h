@@ -6,6 +6,9 @@
 #include <memory>
 #include <QLineEdit>
 
+/// `Text` is what is about to be pasted or dropped, as it came; what the handler leaves of it goes in.
+using TPasteEvent = std::function<void(QObject* Sender, QString& Text)>;
+
 /// One-line edit for text, whole numbers and money. Digits of all three scripts and both decimal and grouping
 /// signs are taken and become ASCII as they are typed or pasted. Text(), Value and the statements made from
 /// them hold ASCII digits; the font draws them as the user reads them.
@@ -94,6 +97,9 @@ public:
     /// Once, DelayTimeCount after the user's last change of the value; at once when the edit is left.
     TNotifyEvent OnEditValueChange;
     void SetOnEditValueChange(TNotifyEvent handler) { OnEditValueChange = std::move(handler); }
+
+    /// Before a text is pasted or dropped. The handler may change it, or put it in itself and leave nothing.
+    TPasteEvent OnPaste;
 
 Q_SIGNALS:
     void editValueChanged();

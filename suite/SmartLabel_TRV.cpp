@@ -67,9 +67,15 @@ void TSmartLabel_TRV::SetShowAccelChar(bool show)
     update();
 }
 
+QString TSmartLabel_TRV::TextInSight() const
+{
+    constexpr int Far = 100;
+    return text().left(text().indexOf(QString(Far, u' ')));
+}
+
 QString TSmartLabel_TRV::ShownText() const
 {
-    return showAccelChar_ ? TMnemonicText::Parse(text()).Text : text();
+    return showAccelChar_ ? TMnemonicText::Parse(TextInSight()).Text : TextInSight();
 }
 
 QSize TSmartLabel_TRV::sizeHint() const
@@ -126,7 +132,8 @@ void TSmartLabel_TRV::paintEvent(QPaintEvent* event)
     int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
     flags |= MnemonicFlag() | Qt::TextForceRightToLeft | (wordWrap() ? Qt::TextWordWrap : 0);
     const QString shown =
-        IsElided() ? fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), MnemonicFlag()) : text();
+        IsElided() ? fontMetrics().elidedText(TextInSight(), Qt::ElideRight, area.width(), MnemonicFlag())
+                   : TextInSight();
     style()->drawItemText(&painter, area, flags, TextPalette(), isEnabled(), shown, QPalette::WindowText);
 }
 

@@ -9,7 +9,8 @@
 /// Label painted as a right-to-left paragraph whatever its first letter is. Its mnemonic focuses
 /// FocusControl; a label without one is clicked, or, where it names the smart check box beside it that
 /// carries the same letter, clicks that box. A caption that does not fit ends in an ellipsis and is shown
-/// whole as a tool tip.
+/// whole as a tool tip. What stands behind a long run of blanks counts as out of sight and is neither
+/// measured nor painted.
 class SUITE_EXPORT TSmartLabel_TRV : public QLabel
 {
     Q_OBJECT
@@ -48,6 +49,7 @@ protected:
 private:
     /// The buddy of a label without FocusControl: the toolkit claims the mnemonics of labels with a buddy.
     QWidget* MnemonicHolder() { return showAccelChar_ ? this : nullptr; }
+    QString TextInSight() const;
     QString ShownText() const;
     int MnemonicFlag() const { return showAccelChar_ ? Qt::TextShowMnemonic : 0; }
     bool IsElided() const;
