@@ -115,8 +115,8 @@ void TPagedDataSet::Refresh()
 {
     if (!d->loader)
         return;
-    const bool sameList = d->loader->Shown() == d->wanted;
-    d->loader->Ask(d->wanted, sameList ? d->place : std::nullopt, true);
+    const bool stays = d->place && d->loader->Shown() == d->wanted;
+    d->loader->Ask(d->wanted, stays ? std::optional(TStanding{*d->place}) : std::nullopt, true);
 }
 
 bool TPagedDataSet::CountIsExact() const
@@ -153,6 +153,11 @@ bool TPagedDataSet::Active() const
 
 void TPagedDataSet::Open()
 {
+    OpenAt({});
+}
+
+void TPagedDataSet::OpenAt(const QVariant& key)
+{
     if (d->loader)
         return;
     if (!d->connection)
@@ -165,7 +170,7 @@ void TPagedDataSet::Open()
     connect(loader, &TPagedLoader::countChanged, this, &TPagedDataSet::ShowCount);
     connect(loader, &TPagedLoader::busyChanged, this, &TPagedDataSet::busyChanged);
     connect(loader, &TPagedLoader::failed, this, &TPagedDataSet::failed);
-    loader->Ask(d->wanted, {}, false);
+    loader->Ask(d->wanted, key.isValid() ? std::optional(TStanding{{{}, key}, false}) : std::nullopt, false);
     AnnounceData();
 }
 

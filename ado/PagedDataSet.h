@@ -56,6 +56,8 @@ public:
 
     bool Active() const override;
     void Open() override; ///< throws EADOError when the source cannot be read; the rows come later
+    /// Opens the list standing on the row that has the key; on the first row where it holds none.
+    void OpenAt(const QVariant& key);
     void Close() override;
     bool IsEmpty() override; ///< waits for the first page of the newest condition
     int RecordCount() override;

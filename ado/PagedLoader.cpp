@@ -81,7 +81,7 @@ void TPagedLoader::MakeReady(TADOConnection& connection, bool reopen)
         connection.Open();
 }
 
-void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TSortKey>& keep, bool reopen)
+void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TStanding>& keep, bool reopen)
 {
     const TQuestion question{
         query,
@@ -138,12 +138,17 @@ void TPagedLoader::FailProbe(const EADOError&)
 }
 
 TPagedLoader::TFirstPages TPagedLoader::ReadFirst(TPageReader& reader, int pageSize,
-                                                  const std::optional<TSortKey>& keep)
+                                                  const std::optional<TStanding>& keep)
 {
     TFirstPages pages;
     pages.First = reader.Read({{}, 0, pageSize});
-    if (keep && pages.First.Count() > 0)
-        pages.Around = reader.ReadAround(reader.Find(keep->Key).value_or(*keep), pageSize);
+    if (!keep || pages.First.Count() == 0)
+        return pages;
+    std::optional<TSortKey> place = reader.Find(keep->Place.Key);
+    if (!place && keep->OrAtPlace)
+        place = keep->Place;
+    if (place)
+        pages.Around = reader.ReadAround(*place, pageSize);
     return pages;
 }
 

@@ -13,6 +13,14 @@ struct ADO_EXPORT TPagedQuery
     bool operator==(const TPagedQuery&) const = default;
 };
 
+/// The row to stand on in a new list. Where the list does not hold its key: the row that now stands at the
+/// place, or the first one.
+struct ADO_EXPORT TStanding
+{
+    TSortKey Place;
+    bool OrAtPlace = true;
+};
+
 /// The pages that are wanted but not here, served newest first. A page far from the newest one has been
 /// scrolled out of sight and is forgotten.
 class ADO_EXPORT TPageQueue
@@ -42,9 +50,9 @@ public:
 
     /// Abandons everything, ends the threads and forgets the rows; nothing is announced any more.
     void Stop();
-    /// Abandons what is under way and reads anew. `keep` is the place to come back to in the new list;
-    /// `reopen` allows to open a lost connection again.
-    void Ask(const TPagedQuery& query, const std::optional<TSortKey>& keep, bool reopen);
+    /// Abandons what is under way and reads anew. `keep` is the row to stand on in the new list, else
+    /// it is the first one; `reopen` allows to open a lost connection again.
+    void Ask(const TPagedQuery& query, const std::optional<TStanding>& keep, bool reopen);
 
     int Count() const { return list_.Count(); }
     bool CountIsExact() const { return list_.CountIsExact(); }
@@ -82,7 +90,7 @@ private:
     {
         TPagedQuery Query;
         std::shared_ptr<const TPageStatements> Statements;
-        std::optional<TSortKey> Keep;
+        std::optional<TStanding> Keep;
         bool Reopen = false;
     };
 
@@ -92,7 +100,7 @@ private:
                              void (TPagedLoader::*fail)(const EADOError& error),
                              const std::shared_ptr<const TPageStatements>& statements, bool reopen);
     static void MakeReady(TADOConnection& connection, bool reopen);
-    static TFirstPages ReadFirst(TPageReader& reader, int pageSize, const std::optional<TSortKey>& keep);
+    static TFirstPages ReadFirst(TPageReader& reader, int pageSize, const std::optional<TStanding>& keep);
 
     void AskFirst(const TQuestion& question);
     void BeginProbe(const TQuestion& question);

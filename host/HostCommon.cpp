@@ -2,6 +2,8 @@
 
 #include "ADOQuery.h"
 #include "Codes.h"
+#include "HostServices.h"
+#include "Lookups.h"
 #include "NotOffered.h"
 
 #include <QWidget>
@@ -28,11 +30,10 @@ void THostCommonLibrary::SetWinControlRightAlign(QWidget* control)
         control->setLayoutDirection(Qt::RightToLeft);
 }
 
-QVariant THostCommonLibrary::LookupDBs(const QString& /*code*/, const QString& /*fields*/,
-                                       LocateDBsOptions /*option*/, QWidget* /*control*/,
-                                       PerLocateOptions /*persons*/)
+QVariant THostCommonLibrary::LookupDBs(const QString& code, const QString& fields, LocateDBsOptions option,
+                                       QWidget* /*control*/, PerLocateOptions persons)
 {
-    throw EServiceNotOffered("LookupDBs");
+    return Lookups::Find(*Host().DM.ADOConnection1(), code, fields, option, persons);
 }
 
 bool THostCommonLibrary::LocateLockCode_SoftwarePart(const QString& /*code*/, TSoftwarePart /*part*/,

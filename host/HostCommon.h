@@ -12,7 +12,7 @@ public:
     void ResetDataset(TADOQuery* query) override;
     void SetWinControlRightAlign(QWidget* control) override;
 
-    /// Not offered yet: throws EServiceNotOffered.
+    /// See Lookups::Find.
     QVariant LookupDBs(const QString& code, const QString& fields, LocateDBsOptions option, QWidget* control,
                        PerLocateOptions persons) override;
     /// Not offered yet: throws EServiceNotOffered.

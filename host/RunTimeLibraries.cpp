@@ -1,23 +1,109 @@
 #include "RunTimeLibraries.h"
 
-#include "NotOffered.h"
+#include "HostServices.h"
 
-THostLibraries::THandle THostLibraries::Tarva_LoadLibrary(const QString& /*library*/)
+#include <algorithm>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QScopeGuard>
+
+namespace {
+
+bool IsNameCharacter(QChar character)
 {
-    throw EServiceNotOffered("Tarva_LoadLibrary");
+    return character.unicode() < 128 && (character.isLetterOrNumber() || character == u'_');
 }
 
-void THostLibraries::Tarva_FreeLibrary(const QString& /*library*/, THandle /*handle*/)
+// Empty for a text that is no library's name.
+QString BareName(const QString& library)
 {
-    throw EServiceNotOffered("Tarva_FreeLibrary");
+    const QString name = library.endsWith(QLatin1String(".dll"), Qt::CaseInsensitive)
+                             ? library.chopped(int(sizeof(".dll")) - 1)
+                             : library;
+    return std::all_of(name.begin(), name.end(), IsNameCharacter) ? name : QString();
 }
 
-QFunctionPointer THostLibraries::FindFunction(THandle /*handle*/, const QByteArray& /*function*/)
+QString PlatformFile(const QString& name)
 {
-    throw EServiceNotOffered("FindFunction");
+#if defined(Q_OS_WIN)
+    return name + QStringLiteral(".dll");
+#elif defined(Q_OS_MACOS)
+    return QStringLiteral("lib") + name + QStringLiteral(".dylib");
+#else
+    return QStringLiteral("lib") + name + QStringLiteral(".so");
+#endif
 }
 
-int THostLibraries::Run_DLL_FuncReturnInt(const QString& /*library*/, const QString& /*function*/)
+} // namespace
+
+THostLibraries::THostLibraries(const QString& folder) : folder_(folder)
 {
-    throw EServiceNotOffered("Run_DLL_FuncReturnInt");
+}
+
+THostLibraries::~THostLibraries() = default;
+
+QString THostLibraries::DefaultFolder()
+{
+#if defined(Q_OS_WIN)
+    return QCoreApplication::applicationDirPath();
+#else
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib"));
+#endif
+}
+
+// The whole path, and only of a file that is there: a bare name would be sought along the system's paths.
+QString THostLibraries::FileOf(const QString& library) const
+{
+    const QString name = BareName(library);
+    if (name.isEmpty() || folder_.isEmpty())
+        return {};
+    const QFileInfo file(QDir(folder_), PlatformFile(name));
+    return file.isFile() ? file.absoluteFilePath() : QString();
+}
+
+THostLibraries::THandle THostLibraries::Tarva_LoadLibrary(const QString& library)
+{
+    const QString file = FileOf(library);
+    if (file.isEmpty())
+        return 0;
+    auto loaded = std::make_unique<QLibrary>(file);
+    loaded->setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    if (!loaded->load()) {
+        qWarning("%s", qPrintable(loaded->errorString()));
+        return 0;
+    }
+    libraries_.emplace(++lastHandle_, std::move(loaded));
+    return lastHandle_;
+}
+
+void THostLibraries::Tarva_FreeLibrary(const QString& /*library*/, THandle handle)
+{
+    libraries_.erase(handle);
+}
+
+QFunctionPointer THostLibraries::FindFunction(THandle handle, const QByteArray& function)
+{
+    const auto found = libraries_.find(handle);
+    return found != libraries_.end() && !function.isEmpty() ? found->second->resolve(function.constData())
+                                                            : nullptr;
+}
+
+int THostLibraries::Run_DLL_FuncReturnInt(const QString& library, const QString& function)
+{
+    const THandle handle = Tarva_LoadLibrary(library);
+    if (handle == 0) {
+        Host().Messages.ShowMessage(
+            QStringLiteral("کتابخانهٔ «%1» پیدا نشد یا بار نشد؛ این کار انجام نشد.").arg(library));
+        return 0;
+    }
+    const auto free = qScopeGuard([&] { Tarva_FreeLibrary(library, handle); });
+    const QFunctionPointer found = FindFunction(handle, function.toLatin1());
+    if (found == nullptr) {
+        Host().Messages.ShowMessage(
+            QStringLiteral("کتابخانهٔ «%1» عملیات «%2» را ندارد؛ این کار انجام نشد.").arg(library, function));
+        return 0;
+    }
+    return reinterpret_cast<int (*)()>(found)();
 }

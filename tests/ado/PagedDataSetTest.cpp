@@ -51,6 +51,8 @@ private Q_SLOTS:
     void isEmptyWaitsForTheNewCondition();
     void aClosedListIsEmpty();
     void openingRefusesATableThatIsNotThere();
+    void openingStandsOnTheWantedRow_data();
+    void openingStandsOnTheWantedRow();
     void orderingRefusesAFieldThatIsNotRead();
     void scrollingFastReadsOnlyWhatIsInSight();
     void memoryStaysBoundedWhileWalking();
@@ -271,6 +273,38 @@ void PagedDataSetTest::openingRefusesATableThatIsNotThere()
     dataSet->SetSource(source);
     QVERIFY_THROWS_EXCEPTION(EADOError, dataSet->Open());
     QVERIFY(!dataSet->Active());
+}
+
+void PagedDataSetTest::openingStandsOnTheWantedRow_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("rawOrder");
+    QTest::addColumn<QVariant>("key");
+    QTest::addColumn<bool>("isThere");
+    for (const char* field : {"Code", "Name"}) {
+        const QString order =
+            field == QLatin1String("Code") ? QStringLiteral("Code") : QStringLiteral("Name, Code");
+        QTest::addRow("%s, on the first page", field) << field << order << QVariant(7) << true;
+        QTest::addRow("%s, far behind", field) << field << order << QVariant(rowCount - 3) << true;
+        QTest::addRow("%s, not there", field) << field << order << QVariant(rowCount + 5) << false;
+        QTest::addRow("%s, none wanted", field) << field << order << QVariant() << false;
+    }
+}
+
+void PagedDataSetTest::openingStandsOnTheWantedRow()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, rawOrder);
+    QFETCH(QVariant, key);
+    QFETCH(bool, isThere);
+    const auto dataSet = goods_.DataSet();
+    dataSet->SetOrder(field, Qt::AscendingOrder);
+    dataSet->OpenAt(key);
+    QVERIFY(dataSet->WaitForFirstPage());
+    QVERIFY(dataSet->WaitForCurrentRow());
+    const QVariantList codes = goods_.Codes({}, rawOrder);
+    QCOMPARE(dataSet->RecNo(), isThere ? int(codes.indexOf(key)) + 1 : 1);
+    QCOMPARE(dataSet->CurrentKey(), isThere ? key : codes.constFirst());
 }
 
 void PagedDataSetTest::orderingRefusesAFieldThatIsNotRead()

@@ -78,14 +78,7 @@ private Q_SLOTS:
         TADOConnection connection;
         THostSettings settings(folder_.filePath(QStringLiteral("settings.ini")));
         const TReferenceHost host(connection, settings);
-        QVERIFY(MissingService([] {
-                    Host().Pickers.Select_Entity(TSoftwarePart::spGoods, {}, false);
-                }).contains("Select_Entity"));
-        QVERIFY(MissingService([] { Host().Libraries.Tarva_LoadLibrary({}); }).contains("Tarva_LoadLibrary"));
-        QVERIFY(MissingService([] {
-                    Host().CommonLibrary.LookupDBs({}, {}, LocateDBsOptions::ldGoods, nullptr,
-                                                   PerLocateOptions::plAll);
-                }).contains("LookupDBs"));
+        QVERIFY(MissingService([] { Host().Pickers.Call_insert_tags({}, 1); }).contains("Call_insert_tags"));
         QVERIFY(MissingService([] { Host().Accounting.VoucherConflicts(); }).contains("VoucherConflicts"));
     }
 

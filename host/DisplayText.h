@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HostExport.h"
 #include "SmartDBGrid_TRV.h"
 
 #include <QDate>
@@ -10,12 +11,12 @@
 namespace DisplayText {
 
 /// A decimal text with its thousands grouped by the sign that goes with the digits in force.
-QString Grouped(const QString& number);
+HOST_EXPORT QString Grouped(const QString& number);
 /// "12٬345 ردیف"
-QString RowCount(int count);
+HOST_EXPORT QString RowCount(int count);
 /// A field's value on a card; a dash where there is none.
-QString FieldValue(const QVariant& value, TGridColumn::TKind kind);
+HOST_EXPORT QString FieldValue(const QVariant& value, TGridColumn::TKind kind);
 /// "شنبه 30 آبان 1405", or the day of the Gregorian calendar.
-QString DayInWords(const QDate& date, bool gregorian);
+HOST_EXPORT QString DayInWords(const QDate& date, bool gregorian);
 
 } // namespace DisplayText
