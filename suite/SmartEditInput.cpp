@@ -2,6 +2,7 @@
 
 #include "Balloon.h"
 #include "DecimalText.h"
+#include "EditMenu.h"
 #include "PersianText.h"
 
 #include <QClipboard>
@@ -339,33 +340,19 @@ void TSmartEdit_TRV::TPrivate::Redo()
 
 QMenu* TSmartEdit_TRV::TPrivate::ContextMenu()
 {
-    auto* menu = new QMenu(edit);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setLayoutDirection(Qt::RightToLeft);
-    const bool change = CanChange();
-    const bool selected = edit->hasSelectedText();
-    const auto add = [menu, this](const QString& text, QKeySequence::StandardKey key, bool enabled,
-                                  auto run) {
-        QAction* action = menu->addAction(text);
-        action->setShortcut(QKeySequence(key));
-        action->setEnabled(enabled);
-        QObject::connect(action, &QAction::triggered, edit, run);
-    };
-    add(QStringLiteral("&واگرد"), QKeySequence::Undo,
-        change && (IsNumber() ? number.CanUndo() : edit->isUndoAvailable()), [this] { Undo(); });
-    add(QStringLiteral("&ازنو"), QKeySequence::Redo,
-        change && (IsNumber() ? number.CanRedo() : edit->isRedoAvailable()), [this] { Redo(); });
-    menu->addSeparator();
-    add(QStringLiteral("&بریدن"), QKeySequence::Cut, change && selected, [this] { Cut(); });
-    add(QStringLiteral("&رونوشت"), QKeySequence::Copy, selected, [this] { Copy(); });
-    add(QStringLiteral("&چسباندن"), QKeySequence::Paste,
-        change && !QGuiApplication::clipboard()->text().isEmpty(),
-        [this] { Paste(QGuiApplication::clipboard()->text()); });
-    add(QStringLiteral("&حذف"), QKeySequence::Delete, change && selected, [this] { DeleteSelected(); });
-    menu->addSeparator();
-    add(QStringLiteral("انتخاب &همه"), QKeySequence::SelectAll, !edit->text().isEmpty(),
-        [this] { edit->selectAll(); });
-    if (calculatorButton && change)
+    TEditCommands commands;
+    commands.Undo = [this] { Undo(); };
+    commands.Redo = [this] { Redo(); };
+    commands.Cut = [this] { Cut(); };
+    commands.Copy = [this] { Copy(); };
+    commands.Paste = [this] { Paste(QGuiApplication::clipboard()->text()); };
+    commands.Delete = [this] { DeleteSelected(); };
+    commands.CanUndo = IsNumber() ? number.CanUndo() : edit->isUndoAvailable();
+    commands.CanRedo = IsNumber() ? number.CanRedo() : edit->isRedoAvailable();
+    commands.CanChange = CanChange();
+    commands.CanPaste = true;
+    QMenu* menu = EditMenu::Create(edit, commands);
+    if (calculatorButton && CanChange())
         menu->addAction(calculatorButton);
     return menu;
 }

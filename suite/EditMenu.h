@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+class QLineEdit;
+class QMenu;
+
+/// What the context menu of a one-line edit does, and what of it can be done now.
+struct TEditCommands
+{
+    std::function<void()> Undo;
+    std::function<void()> Redo;
+    std::function<void()> Cut;
+    std::function<void()> Copy;
+    std::function<void()> Paste;
+    std::function<void()> Delete;
+    bool CanUndo = false;
+    bool CanRedo = false;
+    bool CanChange = false;
+    bool CanPaste = false;
+};
+
+namespace EditMenu {
+
+/// A right-to-left menu that is destroyed when it closes.
+QMenu* Create(QLineEdit* edit, const TEditCommands& commands);
+
+} // namespace EditMenu

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "SuiteExport.h"
+
+#include <functional>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// A text of numbers between separators (a date, a time of day) while it is typed: the separators come by
+/// themselves, digits are typed over digits, each number keeps to its limits, and everything can be undone.
+class SUITE_EXPORT TSectionText
+{
+public:
+    struct TSection
+    {
+        int Digits = 2;
+        int Least = 0;
+        int Most = 0;
+        QString Refusal;            ///< the sentence that says what the section takes
+        bool TakesExtremes = false; ///< zeros only and nines only are taken too, as open bounds begin
+    };
+
+    TSectionText(const QList<TSection>& sections, QChar separator);
+
+    /// Completes a section that the user leaves with too few digits; by zeros in front where none is set.
+    using TCompletion = std::function<QString(qsizetype section, const QString& digits)>;
+    void SetCompletion(TCompletion completion) { completion_ = std::move(completion); }
+    void SetLimits(qsizetype section, int least, int most, const QString& refusal);
+
+    QString Text() const;
+    /// Text() as it is once every section is completed.
+    QString Settled() const;
+    qsizetype MaxLength() const;
+    bool IsEmpty() const { return now_.foreign.isEmpty() && Join(now_).isEmpty(); }
+    /// Every section has all its digits.
+    bool IsComplete() const;
+
+    qsizetype Caret() const { return PositionOf(now_.section, now_.offset); }
+    void Select(qsizetype anchor, qsizetype caret);
+    /// The section that the selection or the caret stands in; the last one where everything is selected.
+    qsizetype CurrentSection() const;
+    qsizetype SectionStart(qsizetype section) const { return PositionOf(section, 0); }
+    qsizetype SectionLength(qsizetype section) const { return now_.digits.at(section).size(); }
+
+    /// Each of these answers whether anything changed, the caret included. Refusal() tells why a digit was
+    /// not taken; it is empty where there simply is no room.
+    bool TypeDigit(int digit);
+    bool TypeSeparator();
+    bool DeleteBackward();
+    bool DeleteForward();
+    bool DeleteSelection();
+    bool Undo();
+    bool Redo();
+    bool CanUndo() const { return !undo_.isEmpty(); }
+    bool CanRedo() const { return !redo_.isEmpty(); }
+    /// Completes what is half typed.
+    bool Settle();
+    const QString& Refusal() const { return refusal_; }
+
+    /// Another text in place of this one, as one step that can be undone.
+    bool Assign(const QString& text);
+    /// Another text from outside; nothing is left to undo. What is no such text is kept as it is until
+    /// something is typed.
+    void Reset(const QString& text);
+
+private:
+    struct TState
+    {
+        QStringList digits;
+        qsizetype section = 0; // of the caret
+        qsizetype offset = 0;
+        QString foreign;
+    };
+
+    TState Empty() const;
+    TState Parsed(const QString& text) const;
+    QString Join(const TState& state) const;
+    qsizetype PositionOf(qsizetype section, qsizetype offset) const;
+    void Place(TState& state, qsizetype position) const;
+    bool HasSelection() const { return anchor_ != Caret(); }
+    TState WithoutSelection() const;
+    bool InsertDigit(TState& state, QChar digit);
+    bool TakeSection(TState& state, const QString& digits, qsizetype offset);
+    bool Complete(TState& state);
+    void OpenNext(TState& state) const;
+    bool IsWithinLimits(qsizetype section, const QString& digits) const;
+    bool Take(const TState& next);
+    void MoveTo(const TState& state);
+
+    QList<TSection> sections_;
+    QChar separator_;
+    TCompletion completion_;
+    TState now_;
+    qsizetype anchor_ = 0;
+    QString refusal_;
+    QList<TState> undo_;
+    QList<TState> redo_;
+};
