@@ -141,6 +141,15 @@ QString PersianText::WithIsolatedCodes(const QString& sentence)
     return QString(sentence).replace(code, QStringLiteral("\u2068\\1\u2069"));
 }
 
+QString PersianText::WithIsolatedNumbers(const QString& name)
+{
+    if (name.contains(u'\u2068'))
+        return name;
+    static const QRegularExpression number(QStringLiteral(
+        R"((?<![A-Za-z0-9\x{06F0}-\x{06F9}.:/\\-])((?:[0-9\x{06F0}-\x{06F9}]++[.:/\\-]++)++[0-9\x{06F0}-\x{06F9}]++)(?![A-Za-z]))"));
+    return QString(name).replace(number, QStringLiteral("\u2068\\1\u2069"));
+}
+
 QString PersianText::SingleLine(const QString& text)
 {
     QString result;

@@ -25,6 +25,9 @@ SUITE_EXPORT QString Isolated(const QString& text);
 /// A sentence as it is painted: its codes, numbers and paths isolated, so that 12/3-A is not turned round in
 /// the middle of Persian words. Texts that already hold isolates stay as they are.
 SUITE_EXPORT QString WithIsolatedCodes(const QString& sentence);
+/// A name as it is painted: its numbers isolated, so that 0104-556677/2 behind Persian words is not turned
+/// round at its signs. Words of other scripts are left alone: isolated one by one they would change places.
+SUITE_EXPORT QString WithIsolatedNumbers(const QString& name);
 /// What a one-line edit keeps of a text: ASCII digits, no control characters, no invisible direction marks,
 /// no halves of surrogate pairs; line breaks become blanks, those at the ends go. ZWNJ, ZWJ and all letters
 /// stay.

@@ -3,6 +3,7 @@
 #include "ControlEvents.h"
 #include "Look.h"
 #include "MnemonicText.h"
+#include "PersianText.h"
 #include "SmartCheckBox_TRV.h"
 
 #include <QHelpEvent>
@@ -75,7 +76,8 @@ QString TSmartLabel_TRV::TextInSight() const
 
 QString TSmartLabel_TRV::ShownText() const
 {
-    return showAccelChar_ ? TMnemonicText::Parse(TextInSight()).Text : TextInSight();
+    return showAccelChar_ ? TMnemonicText::Parse(TextInSight()).Text
+                          : PersianText::WithIsolatedNumbers(TextInSight());
 }
 
 QSize TSmartLabel_TRV::sizeHint() const
@@ -131,9 +133,9 @@ void TSmartLabel_TRV::paintEvent(QPaintEvent* event)
     const QRect area = TextRect();
     int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
     flags |= MnemonicFlag() | Qt::TextForceRightToLeft | (wordWrap() ? Qt::TextWordWrap : 0);
+    const QString whole = showAccelChar_ ? TextInSight() : ShownText();
     const QString shown =
-        IsElided() ? fontMetrics().elidedText(TextInSight(), Qt::ElideRight, area.width(), MnemonicFlag())
-                   : TextInSight();
+        IsElided() ? fontMetrics().elidedText(whole, Qt::ElideRight, area.width(), MnemonicFlag()) : whole;
     style()->drawItemText(&painter, area, flags, TextPalette(), isEnabled(), shown, QPalette::WindowText);
 }
 

@@ -1,6 +1,7 @@
 #include "ActiveWindow.h"
 #include "Ink.h"
 #include "Look.h"
+#include "PersianText.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
@@ -55,6 +56,9 @@ private Q_SLOTS:
     void mnemonicOfADisabledLabelDoesNothing();
     void mnemonicSharedWithTheBoxBesideItTogglesOnce();
     void mnemonicOfALabelWithoutHandlerReachesTheBoxBesideIt();
+    void aLabelThatShowsDataTakesNoMnemonic();
+    void aLabelThatShowsDataPaintsTheWholeText();
+    void numbersInANameKeepTheirOrder();
     void mouseClicksInsideOnly();
     void handlerMayDestroyTheLabel();
     void textContrastsWithItsGround_data();
@@ -238,6 +242,46 @@ void SmartLabelTest::mnemonicOfALabelWithoutHandlerReachesTheBoxBesideIt()
         QTest::sendKeyEvent(QTest::Click, &edit, KeySeen, QString(), Qt::AltModifier);
         QCOMPARE(box.Checked(), expected);
     }
+}
+
+void SmartLabelTest::aLabelThatShowsDataTakesNoMnemonic()
+{
+    QWidget window;
+    QLineEdit edit(&window);
+    TSmartLabel_TRV label(&window);
+    label.SetShowAccelChar(false);
+    label.SetCaption(QStringLiteral("مهر &نو"));
+    TClickCounter clicks;
+    label.OnClick = clicks.Handler();
+    window.show();
+    QVERIFY(ActiveWindow::Activate(&window));
+    QTest::sendKeyEvent(QTest::Click, &edit, KeyNoon, QString(), Qt::AltModifier);
+    QCOMPARE(clicks.count, 0);
+    label.SetShowAccelChar(true);
+    label.SetCaption(QStringLiteral("مهر و &نو"));
+    QTest::sendKeyEvent(QTest::Click, &edit, KeyNoon, QString(), Qt::AltModifier);
+    QCOMPARE(clicks.count, 1);
+}
+
+void SmartLabelTest::aLabelThatShowsDataPaintsTheWholeText()
+{
+    TSmartLabel_TRV label;
+    label.SetCaption(QStringLiteral("A&B"));
+    const int withoutMark = label.sizeHint().width();
+    label.SetShowAccelChar(false);
+    const int mark = label.fontMetrics().horizontalAdvance(QStringLiteral("&"));
+    QVERIFY(qAbs(label.sizeHint().width() - withoutMark - mark) <= 1);
+}
+
+void SmartLabelTest::numbersInANameKeepTheirOrder()
+{
+    const auto isolated = [](const QString& name) { return PersianText::WithIsolatedNumbers(name); };
+    QCOMPARE(isolated(QStringLiteral("ونک - 0104-556677/2")),
+             QStringLiteral("ونک - \u20680104-556677/2\u2069"));
+    QCOMPARE(isolated(QStringLiteral("ملت ۱۲/۳ و 5")), QStringLiteral("ملت \u2068۱۲/۳\u2069 و 5"));
+    QCOMPARE(isolated(QStringLiteral("Ahmad Trading Co")), QStringLiteral("Ahmad Trading Co"));
+    QCOMPARE(isolated(QStringLiteral("مدل A12-3 و 12-3B")), QStringLiteral("مدل A12-3 و 12-3B"));
+    QCOMPARE(isolated(QStringLiteral("\u2068A 12-3\u2069")), QStringLiteral("\u2068A 12-3\u2069"));
 }
 
 void SmartLabelTest::mouseClicksInsideOnly()
