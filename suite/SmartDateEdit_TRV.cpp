@@ -2,13 +2,12 @@
 
 #include "CalendarPopup.h"
 #include "Look.h"
-#include "PersianText.h"
 
-#include <array>
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 
 namespace {
 
@@ -292,6 +291,7 @@ bool TSmartDateEdit_TRV::StepMonths(int months)
 /// The section of the caret steps and stays selected. An empty edit begins with today.
 bool TSmartDateEdit_TRV::Step(int steps)
 {
+    const QPointer<TSmartDateEdit_TRV> alive = this;
     const QDate date = Date();
     const qsizetype section = date.isValid() ? Typed().CurrentSection() : qsizetype{DaySection};
     if (!date.isValid()) {
@@ -303,8 +303,9 @@ bool TSmartDateEdit_TRV::Step(int steps)
     } else {
         Show(calendar_.AddMonths(date, section == MonthSection ? steps : steps * MonthsOfYear));
     }
-    setSelection(static_cast<int>(Typed().SectionStart(section)),
-                 static_cast<int>(Typed().SectionLength(section)));
+    if (alive)
+        setSelection(static_cast<int>(Typed().SectionStart(section)),
+                     static_cast<int>(Typed().SectionLength(section)));
     return true;
 }
 

@@ -2,8 +2,8 @@
 
 #include "PersianText.h"
 
-#include <array>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTime>
 
@@ -82,7 +82,9 @@ void TSmartTime_TRV::Step(int steps)
     const int minutes =
         time.hour() * MinutesOfHour + time.minute() + steps * (section == 0 ? MinutesOfHour : 1);
     const int within = (minutes + MinutesOfDay) % MinutesOfDay;
+    const QPointer<TSmartTime_TRV> alive = this;
     Assign(TextOf(QTime(within / MinutesOfHour, within % MinutesOfHour)));
-    setSelection(static_cast<int>(Typed().SectionStart(section)),
-                 static_cast<int>(Typed().SectionLength(section)));
+    if (alive)
+        setSelection(static_cast<int>(Typed().SectionStart(section)),
+                     static_cast<int>(Typed().SectionLength(section)));
 }
