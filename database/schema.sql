@@ -517,7 +517,10 @@ CREATE INDEX IX_AccCrConvRate_Date ON dbo.AccCrConvRate (AccCurrencyID, CrRateDa
 GO
 CREATE INDEX IX_AccTotals_GroupCode ON dbo.AccTotals (GroupCode)
 GO
+-- The first serves the reading; the second keeps two accounts from ever getting one number.
 CREATE INDEX IX_AccDetails_UniqueCode ON dbo.AccDetails (UniqueCode)
+GO
+CREATE UNIQUE INDEX UX_AccDetails_UniqueCode ON dbo.AccDetails (UniqueCode) WHERE UniqueCode <> 0
 GO
 CREATE INDEX IX_AccDetails_Name ON dbo.AccDetails ([Type], Name)
 GO

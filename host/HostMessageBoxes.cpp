@@ -111,11 +111,11 @@ void THostMessages::MsgHasSubRecords(const QString& subject)
 
 void THostMessages::MSGInUse(const QString& subject)
 {
-    Tell(
-        TKind::Warning,
-        Sentence(u"%1 هم‌اکنون در دست کاربر دیگری است. کمی بعد دوباره "
-                 u"بکوشید.",
-                 subject));
+    QString holder = holderSource_ ? holderSource_() : QString();
+    if (holder.isEmpty())
+        holder = QStringLiteral("هم‌اکنون در دست کاربر دیگری");
+    Tell(TKind::Warning,
+         QStringLiteral("%1 %2 است. کمی بعد دوباره بکوشید.").arg(PersianText::Isolated(subject), holder));
 }
 
 TMessageResult THostMessages::ShowSmartMessage(TConfirmationMessage message, TMessageButtons buttons,

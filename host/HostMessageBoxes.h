@@ -4,6 +4,9 @@
 #include "HostMessages.h"
 #include "MessageDialog.h"
 
+#include <functional>
+#include <utility>
+
 /// Persian message boxes and balloons. A box gives the focus back to its control when it is closed.
 class HOST_EXPORT THostMessages : public IMessages
 {
@@ -13,6 +16,7 @@ public:
     void MsgRepeatedCode(const QString& subject, QWidget* control, QWidget* form) override;
     void MsgRequiredField(const QString& subject, QWidget* control, QWidget* form) override;
     void MsgHasSubRecords(const QString& subject) override;
+    /// Says who has it and since when, where the holder's source knows.
     void MSGInUse(const QString& subject) override;
     /// A number without a text is a std::logic_error that names it.
     TMessageResult ShowSmartMessage(TConfirmationMessage message, TMessageButtons buttons,
@@ -23,7 +27,14 @@ public:
     void ShowTooltipMessage(const TTooltip& tooltip) override;
     void ShowMessage(const QString& text) override;
 
+    /// Answers, when MSGInUse asks, in whose hands the thing is: "... در دست ..."; an empty text where it
+    /// does not know.
+    using THolderSource = std::function<QString()>;
+    void SetHolderSource(THolderSource source) { holderSource_ = std::move(source); }
+
 private:
     static void Tell(TMessageDialog::TKind kind, const QString& text, QWidget* control = nullptr,
                      QWidget* form = nullptr);
+
+    THolderSource holderSource_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AccountingServices.h"
+#include "CodeLocks.h"
 #include "HostCommon.h"
 #include "HostDataModule.h"
 #include "HostExport.h"
@@ -27,10 +28,12 @@ public:
     TADOConnection& Connection() { return *dataModule_.ADOConnection1(); }
     THostClock& Clock() { return clock_; }
     THostMessages& Messages() { return messages_; }
+    TCodeLocks& CodeLocks() { return codeLocks_; }
 
 private:
     THostSettings* settings_;
     THostDataModule dataModule_;
+    TCodeLocks codeLocks_;
     THostCommonLibrary commonLibrary_;
     THostAccounting accounting_;
     THostPickers pickers_;

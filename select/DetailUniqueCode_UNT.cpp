@@ -2,14 +2,12 @@
 
 #include "ADOCommand.h"
 #include "ADOQuery.h"
-#include "Balloon.h"
 #include "ControlEvents.h"
 #include "HostServices.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "ui_DetailUniqueCode_UNT.h"
 
-#include <algorithm>
 #include <QPointer>
 #include <utility>
 
@@ -52,12 +50,6 @@ private:
     TADOQuery* query_;
 };
 
-bool IsDigits(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar character) { return character >= u'0' && character <= u'9'; });
-}
-
 bool Passes(quint16 key)
 {
     // Only Backspace and the main row's digits edit, not even the keypad's. What the form does with Tab,
@@ -84,7 +76,6 @@ TDetailUniqueCode_FRME::TDetailUniqueCode_FRME(QWidget* owner) : TFrame(owner)
 TDetailUniqueCode_FRME::~TDetailUniqueCode_FRME()
 {
     // The edit outlives this class by a few steps of the destruction, and leaving it raises its events.
-    UniqueCode_EDT->OnChange = nullptr;
     UniqueCode_EDT->OnEditValueChange = nullptr;
     UniqueCode_EDT->OnExit = nullptr;
     try {
@@ -97,7 +88,6 @@ TDetailUniqueCode_FRME::~TDetailUniqueCode_FRME()
 
 void TDetailUniqueCode_FRME::BindHandlers()
 {
-    UniqueCode_EDT->OnChange = [this](QObject*) { UniqueCode_EDTChange(); };
     UniqueCode_EDT->OnEditValueChange = [this](QObject*) { UniqueCode_EDTEditValueChange(); };
     UniqueCode_EDT->OnExit = [this](QObject*) { UniqueCode_EDTExit(); };
     UniqueCode_EDT->OnKeyDown = [](QObject*, quint16& key, Qt::KeyboardModifiers) {
@@ -209,28 +199,6 @@ void TDetailUniqueCode_FRME::SaveDetailUniqueCode(int detailCode)
 void TDetailUniqueCode_FRME::RemoveFromCodeLock()
 {
     hold_.Release();
-}
-
-// The keys let nothing but digits in, but a paste, a drop, an input method and Shift with a digit do.
-void TDetailUniqueCode_FRME::UniqueCode_EDTChange()
-{
-    const QString text = UniqueCode_EDT->Text();
-    if (IsDigits(text)) {
-        acceptedText_ = text;
-        return;
-    }
-    const QString unspaced = QString(text).remove(u' ');
-    if (IsDigits(unspaced)) {
-        UniqueCode_EDT->SetText(unspaced);
-        return;
-    }
-    const auto caret = UniqueCode_EDT->CaretPos() - (text.size() - acceptedText_.size());
-    UniqueCode_EDT->SetText(acceptedText_);
-    UniqueCode_EDT->SetCaretPos(static_cast<int>(caret));
-    Balloon::Show(
-        UniqueCode_EDT,
-        QStringLiteral(
-            "کد تفصیلی یکتا فقط از رقم ساخته می‌شود؛ یک عدد بنویسید."));
 }
 
 void TDetailUniqueCode_FRME::UniqueCode_EDTEditValueChange()

@@ -53,7 +53,6 @@ public:
 
 private:
     void BindHandlers();
-    void UniqueCode_EDTChange();
     void UniqueCode_EDTEditValueChange();
     void UniqueCode_EDTExit();
 
@@ -68,7 +67,6 @@ private:
 
     TUniqueCodeHold hold_;
     bool disabledByUse_ = false;
-    QString acceptedText_; ///< the edit's last text of nothing but digits
 };
 
 /// Whether a detail account's unique code is used in posted data, upon which it must not change;

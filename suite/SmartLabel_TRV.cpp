@@ -14,6 +14,9 @@
 
 namespace {
 
+/// A caption that was written from the left, so that its colon stands beside the control.
+constexpr QLatin1StringView ColonInFront(": ");
+
 /// The check box beside the label that carries the same mnemonic: the label is its caption.
 TSmartCheckBox_TRV* NamedCheckBox(const TSmartLabel_TRV& label)
 {
@@ -71,7 +74,8 @@ void TSmartLabel_TRV::SetShowAccelChar(bool show)
 QString TSmartLabel_TRV::TextInSight() const
 {
     constexpr int Far = 100;
-    return text().left(text().indexOf(QString(Far, u' ')));
+    const QString seen = text().left(text().indexOf(QString(Far, u' ')));
+    return seen.startsWith(ColonInFront) ? seen.mid(ColonInFront.size()) + QStringLiteral(" :") : seen;
 }
 
 QString TSmartLabel_TRV::ShownText() const

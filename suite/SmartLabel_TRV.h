@@ -6,11 +6,11 @@
 #include <QLabel>
 #include <QPointer>
 
-/// Label painted as a right-to-left paragraph whatever its first letter is. Its mnemonic focuses
-/// FocusControl; a label without one is clicked, or, where it names the smart check box beside it that
-/// carries the same letter, clicks that box. A caption that does not fit ends in an ellipsis and is shown
-/// whole as a tool tip. What stands behind a long run of blanks counts as out of sight and is neither
-/// measured nor painted.
+/// Label painted as a right-to-left paragraph whatever its first letter is; a colon in front of the caption
+/// is shown behind it. Its mnemonic focuses FocusControl; a label without one is clicked, or, where it names
+/// the smart check box beside it that carries the same letter, clicks that box. A caption that does not fit
+/// ends in an ellipsis and is shown whole as a tool tip. What stands behind a long run of blanks counts as
+/// out of sight and is neither measured nor painted.
 class SUITE_EXPORT TSmartLabel_TRV : public QLabel
 {
     Q_OBJECT

@@ -58,7 +58,9 @@ private Q_SLOTS:
         connection.Execute(QStringLiteral("CREATE TABLE numbers (n int NOT NULL PRIMARY KEY)"));
         for (int i = 1; i <= 5; ++i)
             connection.Execute(QStringLiteral("INSERT INTO numbers (n) VALUES (?)"), {i});
-        THostCommonLibrary library;
+        THostSettings settings(folder_.filePath(QStringLiteral("settings.ini")));
+        TCodeLocks locks(connection, settings);
+        THostCommonLibrary library(locks);
         TADOQuery query;
         query.SetConnection(&connection);
         query.SQL.SetText(QStringLiteral("SELECT n FROM numbers ORDER BY n"));

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void initTestCase() { Look::Install(*qApp, Look::TScheme::Light); }
     void cleanup() { Look::SetScheme(Look::TScheme::Light); }
     void captionThatBeginsWithALatinLetterEndsAtTheLeft();
+    void colonInFrontOfTheCaptionStandsAtItsLeft();
     void captionStandsAtTheRightEnd();
     void mnemonicIsUnderlinedAndItsMarkHidden();
     void captionThatDoesNotFitEndsInAnEllipsisAtTheLeft();
@@ -77,6 +78,19 @@ void SmartLabelTest::captionThatBeginsWithALatinLetterEndsAtTheLeft()
         QVERIFY(Ink::Runs(image, Ink::Ground(image)).first().Width() <= ColonWidth);
     }
     QCOMPARE(label.Caption(), QStringLiteral("F10  جستجو بر اساس :"));
+}
+
+void SmartLabelTest::colonInFrontOfTheCaptionStandsAtItsLeft()
+{
+    TSmartLabel_TRV label;
+    label.SetCaption(QStringLiteral(": نام"));
+    label.adjustSize();
+    for (const Qt::LayoutDirection direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+        label.setLayoutDirection(direction);
+        const QImage image = Rendered(label);
+        QVERIFY(Ink::Runs(image, Ink::Ground(image)).first().Width() <= ColonWidth);
+    }
+    QCOMPARE(label.Caption(), QStringLiteral(": نام"));
 }
 
 void SmartLabelTest::captionStandsAtTheRightEnd()
