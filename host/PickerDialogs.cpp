@@ -3,18 +3,18 @@
 #include "NotOffered.h"
 
 THostPickers::THostPickers(TADOConnection& connection, THostSettings& settings)
-    : accounts_(connection, settings)
+    : accounts_(connection, settings), entities_(connection, settings)
 {
 }
 
-int THostPickers::Select_Entity(TSoftwarePart /*part*/, const QString& /*argument*/, bool /*all*/)
+int THostPickers::Select_Entity(TSoftwarePart part, const QString& argument, bool all)
 {
-    throw EServiceNotOffered("Select_Entity");
+    return entities_.Select_Entity(part, argument, all);
 }
 
-int THostPickers::Select_GroupList(TSoftwarePart /*part*/, const QString& /*argument*/)
+int THostPickers::Select_GroupList(TSoftwarePart part, const QString& argument)
 {
-    throw EServiceNotOffered("Select_GroupList");
+    return entities_.Select_GroupList(part, argument);
 }
 
 THCSelectedCode THostPickers::Select_AccountCodes(TSelectGroups groups, const QString& total,

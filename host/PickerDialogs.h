@@ -1,10 +1,12 @@
 #pragma once
 
 #include "AccountPickers.h"
+#include "EntityPickers.h"
 #include "HostExport.h"
 #include "HostPickers.h"
 
-/// The selection dialogs. Those of accounts are TAccountPickers; the others throw EServiceNotOffered.
+/// The selection dialogs: those of accounts are TAccountPickers, those of entities TEntityPickers. The
+/// definition of tags throws EServiceNotOffered.
 class HOST_EXPORT THostPickers : public IPickers
 {
 public:
@@ -22,4 +24,5 @@ public:
 
 private:
     TAccountPickers accounts_;
+    TEntityPickers entities_;
 };
