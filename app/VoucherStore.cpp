@@ -138,14 +138,16 @@ int TVoucherStore::Save(const TVoucherDraft& draft, const TVoucherEntry& entry)
     if (entry.UserCode == 0)
         Refuse(TVoucherField::Voucher,
                QStringLiteral("کاربری وارد نشده است؛ با نام یک کاربر وارد شوید تا سند ذخیره شود."));
-    const bool isNew = draft.Head.Id == 0;
-    const int number = isNew ? NextNumber(draft.Head.FiscalYear) : draft.Head.Number;
-    const int id = isNew ? Insert(draft.Head, number, entry) : draft.Head.Id;
-    if (!isNew)
-        Update(draft, entry);
-    InsertLines(id, draft.Lines());
+    TVoucherHead head = draft.Head;
+    head.Date = CompletedDate(head.Date, entry.Gregorian);
+    head.Title = head.Title.trimmed();
+    if (head.Id == 0)
+        Insert(head, entry);
+    else
+        Update(draft, head, entry);
+    InsertLines(head.Id, draft.Lines());
     transaction.Commit();
-    return number;
+    return head;
 }
 
 // Users who save into one year come one after the other, so that each finds the last number of the one
@@ -155,21 +157,20 @@ void TVoucherStore::HoldYear(int fiscalYear)
     Execute(QStringLiteral("UPDATE dbo.FiscalYears SET Title = Title WHERE Code = ?"), {fiscalYear});
 }
 
-int TVoucherStore::Insert(const TVoucherHead& head, int number, const TVoucherEntry& entry)
+void TVoucherStore::Insert(TVoucherHead& head, const TVoucherEntry& entry)
 {
-    Execute(
-        QStringLiteral("INSERT INTO dbo.Sanad (FiscalYear, Number, VoucherDate, RegisteredAt, Kind, Title, "
-                       "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
-        {head.FiscalYear, number, CompletedDate(head.Date, entry.Gregorian), entry.Moment, manualKind,
-         head.Title.trimmed(), entry.UserCode});
+    head.Number = NextNumber(head.FiscalYear);
+    Execute(QStringLiteral("INSERT INTO dbo.Sanad (FiscalYear, Number, VoucherDate, RegisteredAt, Kind, Title, "
+                           "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
+            {head.FiscalYear, head.Number, head.Date, entry.Moment, manualKind, head.Title, entry.UserCode});
     TADOQuery query;
     OpenQuery(query, connection_,
               QStringLiteral("SELECT Id FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),
-              {head.FiscalYear, number});
-    return IntegerOf(query, u"Id");
+              {head.FiscalYear, head.Number});
+    head.Id = IntegerOf(query, u"Id");
 }
 
-void TVoucherStore::Update(const TVoucherDraft& draft, const TVoucherEntry& entry)
+void TVoucherStore::Update(const TVoucherDraft& draft, const TVoucherHead& head, const TVoucherEntry& entry)
 {
     TVoucherDraft saved;
     if (!Find(draft.Head.FiscalYear, draft.Head.Number, saved) || saved.Head.Confirmed ||
@@ -178,8 +179,7 @@ void TVoucherStore::Update(const TVoucherDraft& draft, const TVoucherEntry& entr
             TVoucherField::Voucher,
             QStringLiteral("این سند پس از باز شدن به دست کاربر دیگری عوض شده است؛ آن را دوباره باز کنید."));
     Execute(QStringLiteral("UPDATE dbo.Sanad SET VoucherDate = ?, Title = ?, UserCode = ? WHERE Id = ?"),
-            {CompletedDate(draft.Head.Date, entry.Gregorian), draft.Head.Title.trimmed(), entry.UserCode,
-             draft.Head.Id});
+            {head.Date, head.Title, entry.UserCode, head.Id});
     Execute(QStringLiteral("DELETE FROM dbo.Sanad_Detail WHERE SanadId = ?"), {draft.Head.Id});
 }
 

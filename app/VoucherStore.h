@@ -46,16 +46,16 @@ public:
 
     /// What is wrong with the voucher, in the order of the form; nothing where it may be saved.
     std::optional<TVoucherFault> Check(const TVoucherDraft& draft, bool gregorian) const;
-    /// Saves a voucher in one transaction and returns its number; a new one gets the next number of its year,
+    /// Saves a voucher in one transaction and returns its head as saved; a new one gets the next number of its year,
     /// whoever else saves at the same time. Throws EVoucherRefused where a rule forbids it or another user
     /// has changed the voucher meanwhile, EADOError where the database fails; nothing is written then and the
     /// draft is as it was.
-    int Save(const TVoucherDraft& draft, const TVoucherEntry& entry);
+    TVoucherHead Save(const TVoucherDraft& draft, const TVoucherEntry& entry);
 
 private:
     void HoldYear(int fiscalYear);
-    int Insert(const TVoucherHead& head, int number, const TVoucherEntry& entry);
-    void Update(const TVoucherDraft& draft, const TVoucherEntry& entry);
+    void Insert(TVoucherHead& head, const TVoucherEntry& entry);
+    void Update(const TVoucherDraft& draft, const TVoucherHead& head, const TVoucherEntry& entry);
     void InsertLines(int voucherId, const QVector<TVoucherLine>& lines);
     QVector<TVoucherLine> ReadLines(int voucherId) const;
     void Execute(const QString& statement, const QVariantList& parameters);

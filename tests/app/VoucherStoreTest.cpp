@@ -30,7 +30,7 @@ private Q_SLOTS:
         draft.Append(
             TVoucherFixture::Line({101, 1, 1, 0}, QStringLiteral("0"), QStringLiteral("123456789012345.67")));
         const int expected = shop_->Store.NextNumber(TVoucherFixture::OpenYear);
-        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry());
+        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry()).Number;
         QCOMPARE(number, expected);
         TVoucherDraft read;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, read));
@@ -60,7 +60,7 @@ private Q_SLOTS:
         TVoucherLine line = draft.Lines().constFirst();
         line.Description = hostile;
         draft.Replace(0, line);
-        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry());
+        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry()).Number;
         TVoucherDraft read;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, read));
         QCOMPARE(read.Head.Title, hostile);
@@ -131,14 +131,14 @@ private Q_SLOTS:
         TVoucherLine foreign = draft.Lines().constFirst();
         foreign.Currency = currency;
         draft.Replace(0, foreign);
-        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry());
+        const int number = shop_->Store.Save(draft, TVoucherFixture::Entry()).Number;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, draft));
         const TVoucherHead head = draft.Head;
         QVERIFY(draft.Lines().constFirst().Currency == currency);
         draft.Head.Title = QStringLiteral("اصلاح شده");
         draft.Append(TVoucherFixture::Line({101, 1, 1, 0}, QStringLiteral("10"), QStringLiteral("0")));
         draft.Append(TVoucherFixture::Line({101, 1, 2, 0}, QStringLiteral("0"), QStringLiteral("10")));
-        QCOMPARE(shop_->Store.Save(draft, TVoucherFixture::Entry()), number);
+        QCOMPARE(shop_->Store.Save(draft, TVoucherFixture::Entry()).Number, number);
         TVoucherDraft read;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, read));
         QCOMPARE(read.Head.Id, head.Id);
@@ -149,7 +149,7 @@ private Q_SLOTS:
 
     void aConfirmedVoucherIsNotCorrected()
     {
-        const int number = shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry());
+        const int number = shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()).Number;
         TVoucherDraft draft;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, draft));
         shop_->Connection.Execute(QStringLiteral("UPDATE dbo.Sanad SET Confirmed = 1 WHERE Id = ?"),
@@ -166,7 +166,7 @@ private Q_SLOTS:
 
     void ofTwoUsersWhoCorrectOneVoucherTheSecondIsTold()
     {
-        const int number = shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry());
+        const int number = shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()).Number;
         TVoucherDraft first;
         TVoucherDraft second;
         QVERIFY(shop_->Store.Find(TVoucherFixture::OpenYear, number, first));
@@ -194,7 +194,7 @@ private Q_SLOTS:
         }
         QCOMPARE(shop_->State(), before);
         QVERIFY(!shop_->Connection.InTransaction());
-        QVERIFY(shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()) > 0);
+        QVERIFY(shop_->Store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()).Number > 0);
     }
 
     void aConnectionThatIsClosedInTheMiddleLeavesNothingBehind()
@@ -234,7 +234,7 @@ private Q_SLOTS:
                     TVoucherStore store(connection);
                     for (int i = 0; i < vouchersEach; ++i)
                         numbers.at(static_cast<size_t>(user))
-                            .append(store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()));
+                            .append(store.Save(TVoucherFixture::Draft(), TVoucherFixture::Entry()).Number);
                     connection.Close();
                 } catch (const std::exception& error) {
                     qWarning("%s", error.what());

@@ -1,0 +1,188 @@
+#include "VoucherBand.h"
+
+#include "EnterChain.h"
+#include "Look.h"
+#include "Select_AccountCode_UNT.h"
+#include "SmartButton_TRV.h"
+#include "SmartEdit_TRV.h"
+#include "SmartLabel_TRV.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int amountWidth = 190;
+constexpr int amountDigits = 19; // those of the money columns, decimals included
+constexpr int amountDecimals = 4;
+constexpr double amountBound = 1e15; // keeps the sign away; the exact bound is that of the draft
+
+TSmartLabel_TRV* NewLabel(const QString& caption, QWidget* control, QWidget* parent)
+{
+    auto* label = new TSmartLabel_TRV(parent);
+    label->SetOnBand(true);
+    label->SetCaption(caption);
+    label->SetFocusControl(control);
+    return label;
+}
+
+bool IsZero(const TSmartEdit_TRV& amount)
+{
+    return TDecimal(amount.Text()).IsZero();
+}
+
+} // namespace
+
+TVoucherBand::TVoucherBand(QWidget* parent)
+    : TSmartPanel_TRV(parent), selector_(new TSelect_AccountCode(this)),
+      debit_(NewAmount(QStringLiteral("Debit_EDT"), QStringLiteral("بدهکار"))),
+      credit_(NewAmount(QStringLiteral("Credit_EDT"), QStringLiteral("بستانکار"))),
+      description_(new TSmartEdit_TRV(this)), put_(new TSmartButton_TRV(this))
+{
+    SetGround(gBand);
+    selector_->SetCodeItem(
+        {TCodeItem::ctTotal, TCodeItem::ctAssistant, TCodeItem::ctDetail, TCodeItem::ctExpenseCenter});
+    selector_->init();
+    selector_->Name_LBL->SetOnBand(true);
+    selector_->Separator_LBL->SetOnBand(true);
+    description_->setObjectName(QStringLiteral("Description_EDT"));
+    description_->setAccessibleName(QStringLiteral("شرح ردیف"));
+    description_->SetMaxLength(TVoucherDraft::LongestDescription);
+    description_->setFixedHeight(Look::ControlHeight);
+    put_->SetAutoWidth(true);
+    put_->setFocusPolicy(Qt::NoFocus);
+    put_->setFixedHeight(Look::ControlHeight);
+    SetCorrecting(false);
+    put_->OnClick = [this](QObject*) { Q_EMIT lineEntered(); };
+    Lay();
+    chain_ = new TEnterChain({selector_->TotalCode_EDT, selector_->AssistantCode_EDT, selector_->DetailCode_EDT,
+                              selector_->ExpenseCenterCode_EDT, debit_, credit_, description_},
+                             this);
+    // A line that debits has no credit.
+    chain_->Skips = [this](const QWidget* control) { return control == credit_ && !IsZero(*debit_); };
+    connect(chain_, &TEnterChain::finished, this, &TVoucherBand::lineEntered);
+}
+
+TVoucherBand::~TVoucherBand() = default;
+
+TSmartEdit_TRV* TVoucherBand::NewAmount(const QString& name, const QString& caption)
+{
+    auto* amount = new TSmartEdit_TRV(this);
+    amount->setObjectName(name);
+    amount->setAccessibleName(caption);
+    amount->SetEditType(TSmartEdit_TRV::etCurrency);
+    amount->SetPrecision(amountDecimals);
+    amount->SetMaxLength(amountDigits);
+    amount->SetMaxValue(amountBound);
+    amount->SetCalculator(true);
+    amount->setFixedSize(amountWidth, Look::ControlHeight);
+    return amount;
+}
+
+void TVoucherBand::Lay()
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Look::Margin, Look::Unit, Look::Margin, Look::Margin);
+    column->setSpacing(Look::Unit);
+    auto* accountRow = new QHBoxLayout;
+    accountRow->setSpacing(Look::Margin);
+    accountRow->addWidget(NewLabel(QStringLiteral("&حساب:"), selector_->TotalCode_EDT, this));
+    accountRow->addWidget(selector_, 1);
+    column->addLayout(accountRow);
+    auto* amountRow = new QHBoxLayout;
+    amountRow->setSpacing(Look::Margin);
+    amountRow->addWidget(NewLabel(QStringLiteral("&بدهکار:"), debit_, this));
+    amountRow->addWidget(debit_);
+    amountRow->addWidget(NewLabel(QStringLiteral("ب&ستانکار:"), credit_, this));
+    amountRow->addWidget(credit_);
+    amountRow->addWidget(NewLabel(QStringLiteral("شر&ح ردیف:"), description_, this));
+    amountRow->addWidget(description_, 1);
+    amountRow->addWidget(put_);
+    column->addLayout(amountRow);
+    QWidget* before = selector_->ExpenseCenterCode_EDT;
+    for (QWidget* control : {debit_, credit_, description_}) {
+        setTabOrder(before, control);
+        before = control;
+    }
+}
+
+TVoucherLine TVoucherBand::Line() const
+{
+    TVoucherLine line;
+    line.Account = {selector_->GetTotalCode(), selector_->GetAssistantCode(), selector_->GetDetailCode(),
+                    selector_->GetExpCenterCode()};
+    line.Description = description_->Text().trimmed();
+    line.Debit = debit_->Text();
+    line.Credit = credit_->Text();
+    return line;
+}
+
+void TVoucherBand::Show(const TVoucherLine& line)
+{
+    Clear();
+    selector_->SetTotalCode(line.Account.Total);
+    selector_->SetAssistantCode(line.Account.Assistant);
+    selector_->SetDetailCode(line.Account.Detail);
+    selector_->SetExpCenterCode(line.Account.ExpenseCenter);
+    debit_->SetText(line.Debit);
+    credit_->SetText(line.Credit);
+    description_->SetText(line.Description);
+}
+
+void TVoucherBand::Clear()
+{
+    selector_->SetAllowClear(false);
+    selector_->Clear();
+    debit_->Clear();
+    credit_->Clear();
+    description_->Clear();
+}
+
+bool TVoucherBand::IsEmpty() const
+{
+    return Line() == TVoucherLine();
+}
+
+void TVoucherBand::SetCorrecting(bool correcting)
+{
+    put_->setText(correcting ? QStringLiteral("اصلاح ردیف") : QStringLiteral("افزودن ردیف"));
+}
+
+void TVoucherBand::SetEnabled(bool enabled)
+{
+    selector_->Enabled(enabled, false);
+    for (QWidget* control : std::initializer_list<QWidget*>{debit_, credit_, description_, put_})
+        control->setEnabled(enabled);
+}
+
+void TVoucherBand::FocusTotal()
+{
+    selector_->TotalCode_EDT->setFocus(Qt::ShortcutFocusReason);
+}
+
+TSmartEdit_TRV* TVoucherBand::ControlOf(TVoucherField field) const
+{
+    switch (field) {
+    case TVoucherField::Assistant:
+        return selector_->AssistantCode_EDT;
+    case TVoucherField::Detail:
+        return selector_->DetailCode_EDT;
+    case TVoucherField::ExpenseCenter:
+        return selector_->ExpenseCenterCode_EDT;
+    case TVoucherField::Debit:
+        return debit_;
+    case TVoucherField::Credit:
+        return credit_;
+    case TVoucherField::Description:
+        return description_;
+    default:
+        return selector_->TotalCode_EDT;
+    }
+}
+
+void TVoucherBand::ShowFault(const TVoucherFault& fault)
+{
+    TSmartEdit_TRV* control = ControlOf(fault.Field);
+    control->setFocus(Qt::OtherFocusReason);
+    control->ShowError(fault.Message);
+}

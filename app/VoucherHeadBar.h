@@ -1,0 +1,58 @@
+#pragma once
+
+#include "VoucherDraft.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class TSmartComboBox_TRV;
+class TSmartEdit_TRV;
+
+/// The head of a voucher: fiscal year, number, date, title. A number that is typed asks for the voucher of
+/// that number.
+class TVoucherHeadBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TVoucherHeadBar(QWidget* parent = nullptr);
+    ~TVoucherHeadBar() override;
+
+    void SetYears(const QVector<TFiscalYear>& years);
+    /// The chosen year; null where there is none.
+    const TFiscalYear* Year() const;
+    bool ChooseYear(int code);
+    void Show(const TVoucherHead& head);
+    /// The head as it is typed, over the one that was shown.
+    TVoucherHead Head() const;
+    /// The number that a new voucher would get, in grey.
+    void SetProposedNumber(int number);
+    /// Date and title can be changed; the year as well, as long as the voucher is a new one.
+    void SetWritable(bool writable, bool yearToo);
+    void FocusNumber();
+    void FocusDate();
+    void ShowFault(const TVoucherFault& fault);
+
+    TSmartComboBox_TRV& YearBox() { return *year_; }
+    TSmartEdit_TRV& Number() { return *number_; }
+    TSmartEdit_TRV& Date() { return *date_; }
+    TSmartEdit_TRV& Title() { return *title_; }
+
+Q_SIGNALS:
+    void yearChosen();
+    void numberEntered(int number);
+    void finished(); ///< Enter in the title
+
+private:
+    void Lay();
+    void AddField(QHBoxLayout* row, const QString& caption, QWidget* control, int width);
+    void ShowNumber();
+    void EnterNumber();
+
+    QVector<TFiscalYear> years_;
+    TVoucherHead head_;
+    TSmartComboBox_TRV* year_;
+    TSmartEdit_TRV* number_;
+    TSmartEdit_TRV* date_;
+    TSmartEdit_TRV* title_;
+};
