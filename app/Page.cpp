@@ -1,6 +1,7 @@
 #include "Page.h"
 
 #include "ListForm.h"
+#include "VoucherForm.h"
 
 TPage::~TPage() = default;
 
@@ -12,9 +13,18 @@ TPageDescription ListPage(const TListDescription& list)
             [list](TReferenceHost& host, QWidget* parent) { return new TListForm(list, host, parent); }};
 }
 
+template <typename TForm> TPageDescription FormPage(const QString& key, const QString& title)
+{
+    return {key, title, [](TReferenceHost& host, QWidget* parent) { return new TForm(host, parent); }, false};
+}
+
 } // namespace
 
 QVector<TPageDescription> WorkbenchPages()
 {
-    return {ListPage(GoodsList()), ListPage(PersonsList())};
+    return {
+        ListPage(GoodsList()),
+        ListPage(PersonsList()),
+        FormPage<TVoucherForm>(QStringLiteral("Voucher"), QStringLiteral("صدور سند")),
+    };
 }

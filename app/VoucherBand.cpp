@@ -55,9 +55,10 @@ TVoucherBand::TVoucherBand(QWidget* parent)
     SetCorrecting(false);
     put_->OnClick = [this](QObject*) { Q_EMIT lineEntered(); };
     Lay();
-    chain_ = new TEnterChain({selector_->TotalCode_EDT, selector_->AssistantCode_EDT, selector_->DetailCode_EDT,
-                              selector_->ExpenseCenterCode_EDT, debit_, credit_, description_},
-                             this);
+    chain_ =
+        new TEnterChain({selector_->TotalCode_EDT, selector_->AssistantCode_EDT, selector_->DetailCode_EDT,
+                         selector_->ExpenseCenterCode_EDT, debit_, credit_, description_},
+                        this);
     // A line that debits has no credit.
     chain_->Skips = [this](const QWidget* control) { return control == credit_ && !IsZero(*debit_); };
     connect(chain_, &TEnterChain::finished, this, &TVoucherBand::lineEntered);

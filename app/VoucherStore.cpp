@@ -129,7 +129,7 @@ std::optional<TVoucherFault> TVoucherStore::Check(const TVoucherDraft& draft, bo
     return draft.CheckBalance();
 }
 
-int TVoucherStore::Save(const TVoucherDraft& draft, const TVoucherEntry& entry)
+TVoucherHead TVoucherStore::Save(const TVoucherDraft& draft, const TVoucherEntry& entry)
 {
     TTransaction transaction(*connection_);
     HoldYear(draft.Head.FiscalYear);
@@ -160,9 +160,10 @@ void TVoucherStore::HoldYear(int fiscalYear)
 void TVoucherStore::Insert(TVoucherHead& head, const TVoucherEntry& entry)
 {
     head.Number = NextNumber(head.FiscalYear);
-    Execute(QStringLiteral("INSERT INTO dbo.Sanad (FiscalYear, Number, VoucherDate, RegisteredAt, Kind, Title, "
-                           "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
-            {head.FiscalYear, head.Number, head.Date, entry.Moment, manualKind, head.Title, entry.UserCode});
+    Execute(
+        QStringLiteral("INSERT INTO dbo.Sanad (FiscalYear, Number, VoucherDate, RegisteredAt, Kind, Title, "
+                       "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
+        {head.FiscalYear, head.Number, head.Date, entry.Moment, manualKind, head.Title, entry.UserCode});
     TADOQuery query;
     OpenQuery(query, connection_,
               QStringLiteral("SELECT Id FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),

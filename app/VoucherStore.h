@@ -46,10 +46,10 @@ public:
 
     /// What is wrong with the voucher, in the order of the form; nothing where it may be saved.
     std::optional<TVoucherFault> Check(const TVoucherDraft& draft, bool gregorian) const;
-    /// Saves a voucher in one transaction and returns its head as saved; a new one gets the next number of its year,
-    /// whoever else saves at the same time. Throws EVoucherRefused where a rule forbids it or another user
-    /// has changed the voucher meanwhile, EADOError where the database fails; nothing is written then and the
-    /// draft is as it was.
+    /// Saves a voucher in one transaction and returns its head as saved; a new one gets the next number of
+    /// its year, whoever else saves at the same time. Throws EVoucherRefused where a rule forbids it or
+    /// another user has changed the voucher meanwhile, EADOError where the database fails; nothing is written
+    /// then and the draft is as it was.
     TVoucherHead Save(const TVoucherDraft& draft, const TVoucherEntry& entry);
 
 private:

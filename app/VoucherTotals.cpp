@@ -49,8 +49,8 @@ void TVoucherTotals::Show(const TVoucherDraft& draft)
     balanced_ = balance.IsZero();
     debit_->SetCaption(QStringLiteral("جمع بدهکار: ") + Amount(draft.DebitTotal()));
     credit_->SetCaption(QStringLiteral("جمع بستانکار: ") + Amount(draft.CreditTotal()));
-    const QString side = balance.ToString().startsWith(u'-') ? QStringLiteral(" بستانکار")
-                                                             : QStringLiteral(" بدهکار");
+    const QString side =
+        balance.ToString().startsWith(u'-') ? QStringLiteral(" بستانکار") : QStringLiteral(" بدهکار");
     balance_->SetCaption(balanced_ ? QStringLiteral("تراز است")
                                    : QStringLiteral("مانده: ") + Amount(balance) + side);
     Repaint();
@@ -59,8 +59,7 @@ void TVoucherTotals::Show(const TVoucherDraft& draft)
 void TVoucherTotals::Repaint()
 {
     QPalette palette;
-    palette.setColor(QPalette::WindowText,
-                     Look::Color(balanced_ ? Look::TRole::Good : Look::TRole::Wrong));
+    palette.setColor(QPalette::WindowText, Look::Color(balanced_ ? Look::TRole::Good : Look::TRole::Wrong));
     balance_->setPalette(palette);
 }
 

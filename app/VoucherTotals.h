@@ -29,9 +29,9 @@ protected:
 private:
     void Repaint();
 
-    TSmartLabel_TRV* state_;
-    TSmartLabel_TRV* debit_;
-    TSmartLabel_TRV* credit_;
-    TSmartLabel_TRV* balance_;
+    TSmartLabel_TRV* state_ = nullptr;
+    TSmartLabel_TRV* debit_ = nullptr;
+    TSmartLabel_TRV* credit_ = nullptr;
+    TSmartLabel_TRV* balance_ = nullptr;
     bool balanced_ = true;
 };

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "ADOQuery.h"
+#include "DatabaseFile.h"
+#include "HostApplication.h"
+#include "Look.h"
+#include "MessageDialog.h"
+#include "Page.h"
+#include "ReferenceHost.h"
+
+#include <memory>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+/// A sample database in a file, a host over it with a user signed in, and a form that he has before him.
+class TFormFixture
+{
+public:
+    explicit TFormFixture(const TSampleSize& size = TSampleSize::Small())
+    {
+        TDatabaseOptions options;
+        options.Size = size;
+        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("shop.db")),
+                     options);
+        Settings.SetUserInfo({1, QStringLiteral("مدیر")});
+        Messages.setInterval(10);
+        QObject::connect(&Messages, &QTimer::timeout, [this] { AnswerMessage(); });
+        Messages.start();
+    }
+
+    /// Shows a form in an active window, as the main window does.
+    template <typename TForm> TForm& Open()
+    {
+        auto form = std::make_unique<TForm>(Host);
+        TForm& opened = *form;
+        Form = std::move(form);
+        Form->resize(1050, 650);
+        Form->show();
+        Activate(Form.get());
+        Form->Enter();
+        return opened;
+    }
+
+    static void Activate(QWidget* window)
+    {
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        constexpr int Attempts = 20;
+        constexpr int SettlingTime = 50;
+        for (int attempt = 0; attempt < Attempts; ++attempt) {
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            QTest::qWait(SettlingTime);
+            if (QApplication::activeWindow() == window)
+                return;
+        }
+        QFAIL("the window does not stay active");
+    }
+
+    static QWidget* Focus() { return QApplication::focusWidget(); }
+    static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QVERIFY(Focus() != nullptr);
+        QTest::keyClick(Focus(), key, modifiers);
+        QCoreApplication::processEvents();
+    }
+    static void Type(const QString& text)
+    {
+        for (const QChar character : text) {
+            QVERIFY(Focus() != nullptr);
+            QTest::sendKeyEvent(QTest::Click, Focus(), Qt::Key_unknown, QString(character), Qt::NoModifier);
+            QCoreApplication::processEvents();
+        }
+    }
+    static void TypeAndEnter(const QString& text)
+    {
+        Type(text);
+        Press(Qt::Key_Return);
+    }
+
+    QString Text(const QString& statement)
+    {
+        TADOQuery query;
+        query.SetConnection(&Connection);
+        query.SQL.SetText(statement);
+        query.Open();
+        return query.IsEmpty() ? QString() : query.Field(0)->AsString();
+    }
+
+    /// The captions of the buttons that answer the next message boxes; without one a box gets its first.
+    QStringList Answers;
+    QStringList Told; ///< the texts of the message boxes that have come
+
+    QTemporaryDir Folder;
+    TADOConnection Connection;
+    THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
+    TReferenceHost Host{Connection, Settings};
+    std::unique_ptr<TPage> Form;
+    QTimer Messages;
+
+private:
+    void AnswerMessage()
+    {
+        auto* box = qobject_cast<TMessageDialog*>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible())
+            return;
+        Told.append(box->Text());
+        const QString wanted = Answers.isEmpty() ? QString() : Answers.takeFirst();
+        const QList<QPushButton*> buttons = box->findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) {
+            if (!button->isCheckable() && (wanted.isEmpty() || button->text() == wanted)) {
+                button->click();
+                return;
+            }
+        }
+        box->reject();
+    }
+};
+
+/// Runs a test under the application object of the host. What is thrown out of an event is a failure of the
+/// test that the test itself may expect.
+template <typename TTest> int RunFormTest(int argumentCount, char** arguments)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    THostApplication application(argumentCount, arguments);
+    Look::Install(application, Look::TScheme::Light);
+    TTest test;
+    return QTest::qExec(&test, argumentCount, arguments);
+}
