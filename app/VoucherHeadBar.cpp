@@ -8,6 +8,7 @@
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 
+#include <algorithm>
 #include <QHBoxLayout>
 
 namespace {
@@ -84,6 +85,9 @@ void TVoucherHeadBar::SetYears(const QVector<TFiscalYear>& years)
     year_->Clear();
     for (const TFiscalYear& year : qAsConst(years_))
         year_->AddItem(year.Closed ? year.Title + QStringLiteral(" (بسته)") : year.Title, year.Code);
+    const auto open =
+        std::find_if(years_.cbegin(), years_.cend(), [](const TFiscalYear& year) { return !year.Closed; });
+    year_->SetItemIndex(open == years_.cend() ? 0 : static_cast<int>(open - years_.cbegin()));
 }
 
 const TFiscalYear* TVoucherHeadBar::Year() const

@@ -18,6 +18,7 @@ public:
     explicit TVoucherHeadBar(QWidget* parent = nullptr);
     ~TVoucherHeadBar() override;
 
+    /// The first one that is open is chosen.
     void SetYears(const QVector<TFiscalYear>& years);
     /// The chosen year; null where there is none.
     const TFiscalYear* Year() const;

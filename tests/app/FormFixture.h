@@ -58,14 +58,20 @@ public:
         QFAIL("the window does not stay active");
     }
 
-    static QWidget* Focus() { return QApplication::focusWidget(); }
-    static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    /// The control that has the keyboard. Without a window manager nobody gives it back after a message box.
+    QWidget* Focus() const
+    {
+        if (QApplication::activeWindow() == nullptr && QApplication::activeModalWidget() == nullptr)
+            Activate(Form.get());
+        return QApplication::focusWidget();
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QVERIFY(Focus() != nullptr);
         QTest::keyClick(Focus(), key, modifiers);
         QCoreApplication::processEvents();
     }
-    static void Type(const QString& text)
+    void Type(const QString& text) const
     {
         for (const QChar character : text) {
             QVERIFY(Focus() != nullptr);
@@ -73,7 +79,7 @@ public:
             QCoreApplication::processEvents();
         }
     }
-    static void TypeAndEnter(const QString& text)
+    void TypeAndEnter(const QString& text) const
     {
         Type(text);
         Press(Qt::Key_Return);
