@@ -272,11 +272,11 @@ void TSelect_Entity_Frame::showEvent(QShowEvent* event)
     SendTabWhenActive();
 }
 
-void TSelect_Entity_Frame::changeEvent(QEvent* event)
+bool TSelect_Entity_Frame::event(QEvent* event)
 {
-    TFrame::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange)
+    if (event->type() == QEvent::WindowActivate)
         SendTabWhenActive();
+    return TFrame::event(event);
 }
 
 void TSelect_Entity_Frame::SendTabWhenActive()

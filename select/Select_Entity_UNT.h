@@ -61,8 +61,8 @@ Q_SIGNALS:
     void codeChanged();
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
