@@ -147,8 +147,8 @@ private Q_SLOTS:
         QCOMPARE(line.Tables.Statements.last(), QStringLiteral("SELECT dbo.GetExpCenterName(0042) AS Title"));
         line.Forget();
         line.Frame->SetAllowClear(false);
-        line.Before->setFocus();
         line.Frame->SetAssistantCode(0);
+        line.Before->setFocus();
         line.Box(L::T)->SetText(QStringLiteral("5"));
         line.Tables.Statements.clear();
         line.Frame->TotalCode_EDTExit(nullptr);
