@@ -3,6 +3,8 @@
 #include "PersianText.h"
 
 #include <algorithm>
+#include <limits>
+#include <QStringList>
 
 namespace {
 
@@ -28,4 +30,14 @@ TFloatingAccountsType AccountLevels::DetailKind(int detailType, int assistant)
     if (kind != TFloatingAccountsType::fatIncomesAndCosts)
         return kind;
     return assistant < 2 ? TFloatingAccountsType::fatIncomes : TFloatingAccountsType::fatCosts;
+}
+
+QString AccountLevels::GroupsText(TSelectGroups groups)
+{
+    QStringList ordinals;
+    for (unsigned ordinal = 0; ordinal < std::numeric_limits<quint32>::digits; ++ordinal) {
+        if ((groups.Bits() >> ordinal & 1U) != 0)
+            ordinals.append(QString::number(ordinal));
+    }
+    return ordinals.join(u',');
 }

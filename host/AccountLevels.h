@@ -23,4 +23,7 @@ HOST_EXPORT std::optional<int> CodeOf(const QString& text);
 /// The bit that makes a detail account mandatory does not count; `assistant` is 0 where none is chosen.
 HOST_EXPORT TFloatingAccountsType DetailKind(int detailType, int assistant);
 
+/// The ordinals of the set between commas.
+HOST_EXPORT QString GroupsText(TSelectGroups groups);
+
 } // namespace AccountLevels

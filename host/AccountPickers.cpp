@@ -1,30 +1,73 @@
 #include "AccountPickers.h"
 
-#include "NotOffered.h"
+#include "AccountLevels.h"
+#include "AccountPickerDialog.h"
+
+#include <QApplication>
+#include <QPointer>
+
+namespace {
+
+/// The code to begin with; 0 where the text is none.
+int CodeOf(const QString& text)
+{
+    return AccountLevels::CodeOf(text).value_or(0);
+}
+
+} // namespace
 
 TAccountPickers::TAccountPickers(TADOConnection& connection, THostSettings& settings)
     : connection_(&connection), settings_(&settings)
 {
 }
 
-THCSelectedCode TAccountPickers::Select_AccountCodes(TSelectGroups /*groups*/, const QString& /*total*/,
-                                                     const QString& /*assistant*/, const QString& /*detail*/,
-                                                     quint8 /*focusLevel*/)
+THCSelectedCode TAccountPickers::Pick(const TAccountPicking& picking)
 {
-    throw EServiceNotOffered("Select_AccountCodes");
+    // The window that the dialog stands on may go while it is open, and takes it along.
+    const QPointer<TAccountPickerDialog> dialog =
+        new TAccountPickerDialog(*connection_, *settings_, picking, QApplication::activeWindow());
+    dialog->exec();
+    if (dialog == nullptr)
+        return {};
+    const THCSelectedCode picked = dialog->Picked();
+    delete dialog;
+    return picked;
 }
 
-int TAccountPickers::Select_AccTotals1(const QString& /*groups*/, const QString& /*code*/)
+THCSelectedCode TAccountPickers::Select_AccountCodes(TSelectGroups groups, const QString& total,
+                                                     const QString& assistant, const QString& detail,
+                                                     quint8 focusLevel)
 {
-    throw EServiceNotOffered("Select_AccTotals1");
+    TAccountPicking picking;
+    picking.Scope.Groups = AccountLevels::GroupsText(groups);
+    picking.Begin = {CodeOf(total), CodeOf(assistant), CodeOf(detail)};
+    picking.FocusLevel = focusLevel;
+    return Pick(picking);
 }
 
-int TAccountPickers::Select_AccAssistants1(int /*total*/, const QString& /*code*/)
+int TAccountPickers::Select_AccTotals1(const QString& groups, const QString& code)
 {
-    throw EServiceNotOffered("Select_AccAssistants1");
+    TAccountPicking picking;
+    picking.Levels = TAccountPicking::TotalsOnly;
+    picking.Scope.Groups = groups;
+    picking.Begin.Total = CodeOf(code);
+    return Pick(picking).Total;
 }
 
-int TAccountPickers::Select_AccDetails1(int /*total*/, int /*assistant*/, const QString& /*code*/)
+int TAccountPickers::Select_AccAssistants1(int total, const QString& code)
 {
-    throw EServiceNotOffered("Select_AccDetails1");
+    TAccountPicking picking;
+    picking.Levels = TAccountPicking::AssistantsOnly;
+    picking.Scope.OnlyTotal = total;
+    picking.Begin = {total, CodeOf(code), 0};
+    return Pick(picking).Assistant;
+}
+
+int TAccountPickers::Select_AccDetails1(int total, int assistant, const QString& code)
+{
+    TAccountPicking picking;
+    picking.Levels = TAccountPicking::DetailsOnly;
+    picking.Scope.OnlyTotal = total;
+    picking.Begin = {total, assistant, CodeOf(code)};
+    return Pick(picking).Detail;
 }

@@ -7,6 +7,7 @@
 
 class TADOConnection;
 class THostSettings;
+struct TAccountPicking;
 
 /// The pickers of the chart of accounts: what THostPickers answers for accounts. Each opens a modal dialog
 /// over the active window; 0 (a total of 0) means that the user cancelled. Texts that are no codes begin
@@ -26,6 +27,8 @@ public:
     int Select_AccDetails1(int total, int assistant, const QString& code);
 
 private:
+    THCSelectedCode Pick(const TAccountPicking& picking);
+
     TADOConnection* connection_;
     THostSettings* settings_;
 };

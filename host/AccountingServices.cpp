@@ -5,9 +5,6 @@
 #include "Codes.h"
 #include "NotOffered.h"
 
-#include <limits>
-#include <QStringList>
-
 THostAccounting::THostAccounting(TADOConnection& connection) : connection_(&connection)
 {
 }
@@ -19,12 +16,7 @@ QString THostAccounting::CompleteCode(const QString& code, int length)
 
 QString THostAccounting::AccGroupsToString(TSelectGroups groups)
 {
-    QStringList ordinals;
-    for (unsigned ordinal = 0; ordinal < std::numeric_limits<quint32>::digits; ++ordinal) {
-        if ((groups.Bits() >> ordinal & 1U) != 0)
-            ordinals.append(QString::number(ordinal));
-    }
-    return ordinals.join(u',');
+    return AccountLevels::GroupsText(groups);
 }
 
 QString THostAccounting::GetHesabName(const QString& total, const QString& assistant, const QString& detail,

@@ -119,8 +119,14 @@ QVariant TGridColumnModel::data(const QModelIndex& index, int role) const
     if (!source.isValid())
         return {};
     if (role == Qt::DisplayRole)
-        return GridCellText::Shown(sourceModel()->data(source, Qt::EditRole), shown_[index.column()].Kind);
+        return Text(source, shown_[index.column()]);
     return sourceModel()->data(source, role);
+}
+
+QString TGridColumnModel::Text(const QModelIndex& source, const TGridColumn& column) const
+{
+    const QString text = GridCellText::Shown(sourceModel()->data(source, Qt::EditRole), column.Kind);
+    return text.isEmpty() ? text : text.rightJustified(column.Digits, u'0');
 }
 
 QVariant TGridColumnModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -37,6 +37,7 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    QString Text(const QModelIndex& source, const TGridColumn& column) const;
     void FindFields();
     void RepaintRows(const QModelIndex& first, const QModelIndex& last);
 

@@ -16,6 +16,7 @@ struct SUITE_EXPORT TGridColumn
     int Width = 100; ///< pixels at scale 1
     TKind Kind = ckText;
     bool Visible = true;
+    int Digits = 0; ///< codes shorter than this are shown with leading zeros
 };
 
 /// Data-aware grid, right to left: the first column stands at the right. A header click orders a paged data

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void firstColumnStandsAtTheRight();
     void columnsFollowTheirDefinitions();
     void withoutDefinitionsEveryFieldIsAColumn();
+    void codesAreCompletedWithZeros();
     void fieldThatIsMissingLeavesItsColumnEmpty();
     void currentRowFollowsTheDataSet();
     void dataSetFollowsTheCurrentRow();
@@ -150,6 +151,18 @@ void SmartDBGridTest::withoutDefinitionsEveryFieldIsAColumn()
     QCOMPARE(grid_->model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Name"));
     QCOMPARE(Cell(0, 0), QStringLiteral("1"));
     QVERIFY(grid_->Columns().isEmpty());
+}
+
+void SmartDBGridTest::codesAreCompletedWithZeros()
+{
+    const auto query = goods_->Query();
+    TGridColumn column{QStringLiteral("Code"), QStringLiteral("کد"), 60, TGridColumn::ckCode};
+    column.Digits = 2;
+    grid_->SetColumns({column});
+    Show(query.get());
+    QCOMPARE(Cell(0, 0), QStringLiteral("01"));
+    QCOMPARE(Cell(98, 0), QStringLiteral("99"));
+    QCOMPARE(Cell(99, 0), QStringLiteral("100"));
 }
 
 void SmartDBGridTest::fieldThatIsMissingLeavesItsColumnEmpty()

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "AccountTypes.h"
+#include "HostExport.h"
+#include "PagedDataSet.h"
+
+#include <memory>
+#include <QWidget>
+
+class TADOConnection;
+class TSmartDBGrid_TRV;
+class TSmartEdit_TRV;
+class TSmartLabel_TRV;
+
+/// The detail accounts of one kind with their search edit. They are read by pages, however many there are.
+class HOST_EXPORT TAccountDetailPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `connection` must outlive the pane.
+    explicit TAccountDetailPane(TADOConnection& connection, QWidget* parent = nullptr);
+    ~TAccountDetailPane() override;
+
+    /// Lists the accounts of a kind and makes the one with the code, where it is 0 the first one, the current
+    /// one. A list of that kind that is shown already stays as it is.
+    void ShowKind(TFloatingAccountsType kind, const QString& kindName, int code = 0);
+    /// Shows no account and says why.
+    void ShowNothing(const QString& reason);
+    bool HasList() const { return kind_ != TFloatingAccountsType::fatNone; }
+    void FocusList();
+
+    /// Width of the column of codes, in pixels; the names take the rest.
+    int CodeWidth() const;
+    void SetCodeWidth(int width);
+
+    int CurrentCode();         ///< 0 where there is no current row or it has not arrived
+    QString CurrentCodeText(); ///< as the boxes show it; empty where there is none
+    QString CurrentName();
+    /// The code of the current row, after what was typed last is in force; 0 where there is none.
+    int Take();
+
+    TSmartDBGrid_TRV& Grid();
+    TSmartEdit_TRV& SearchEdit();
+    TPagedDataSet& DataSet();
+    QString CountText() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void currentMoved();
+    void chosen(); ///< Enter or double click
+    void back();   ///< Right in the list
+
+private:
+    void Lay();
+    void ConnectData();
+    void Search();
+    void GoTo(int code);
+    void ReachWantedRow();
+    void ShowCount();
+    void ShowEmptyText();
+    QString FieldText(int field);
+
+    struct TParts;
+    std::unique_ptr<TParts> parts_;
+    TFloatingAccountsType kind_ = TFloatingAccountsType::fatNone;
+    QString searched_; ///< what the list shows
+    int codeWidth_ = 90;
+    int wantedCode_ = 0; ///< of the row that is gone to when it is here; 0 for none
+    int wantedRow_ = 0;  ///< its record number
+};
