@@ -9,6 +9,7 @@
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "ui_General_Search_UNT.h"
+#include "ValueText.h"
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -32,14 +33,6 @@ QString WithoutLeadingBlanks(const QString& text)
     const auto first =
         std::find_if(text.begin(), text.end(), [](QChar character) { return !character.isSpace(); });
     return text.mid(first - text.begin());
-}
-
-/// Numbers in full, never with an exponent.
-QString ValueText(const QVariant& value)
-{
-    return value.typeId() == QMetaType::Double
-               ? QString::number(value.toDouble(), 'f', QLocale::FloatingPointShortest)
-               : value.toString();
 }
 
 } // namespace

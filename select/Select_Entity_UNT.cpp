@@ -7,6 +7,7 @@
 #include "SmartButtonEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "ui_Select_Entity_UNT.h"
+#include "ValueText.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -19,14 +20,6 @@ namespace {
 constexpr int FontPixels = 15;
 constexpr int BalloonMilliseconds = 3000;
 constexpr int BalloonKind = 1;
-
-/// Numbers in full, never with an exponent.
-QString ValueText(const QVariant& value)
-{
-    return value.typeId() == QMetaType::Double
-               ? QString::number(value.toDouble(), 'f', QLocale::FloatingPointShortest)
-               : value.toString();
-}
 
 int ToCode(const QString& text)
 {
