@@ -45,7 +45,10 @@ void TPagedLoader::Stop()
 std::unique_ptr<TQueryThread> TPagedLoader::MakeThread(TADOConnection& connection)
 {
     auto thread = std::make_unique<TQueryThread>(connection.Clone());
-    connect(thread.get(), &TQueryThread::answered, this, [worker = thread.get()] {
+    connect(thread.get(), &TQueryThread::answered, this, [this, worker = thread.get()] {
+        // The call is queued: Stop() may have ended the thread in the meantime.
+        if (worker != pageThread_.get() && worker != countThread_.get())
+            return;
         if (const TQueryThread::TAnswer answer = worker->TakeAnswer())
             answer();
     });
