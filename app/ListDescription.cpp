@@ -123,3 +123,35 @@ TListDescription PersonsList()
     list.OrderField = QStringLiteral("Code");
     return list;
 }
+
+TListDescription DetailAccountsList(int kind)
+{
+    TListDescription list;
+    list.Key = QStringLiteral("DetailAccounts");
+    list.Title = QStringLiteral("حساب‌های تفصیلی");
+    list.RecordName = QStringLiteral("حساب تفصیلی");
+    list.TitleField = QStringLiteral("Name");
+    list.SearchItems = {
+        Text(QStringLiteral("نام"), QStringLiteral("Name")),
+        Number(QStringLiteral("کد"), QStringLiteral("Code"), TSearchDataType::idtDigit, codeDigits),
+        Number(QStringLiteral("کد یکتا"), QStringLiteral("UniqueCode"), TSearchDataType::idtDigit,
+               codeDigits),
+    };
+    list.Columns = {
+        Column(QStringLiteral("Code"), QStringLiteral("کد"), 90, TGridColumn::ckCode),
+        Column(QStringLiteral("Name"), QStringLiteral("نام حساب"), 380),
+        Column(QStringLiteral("UniqueCode"), QStringLiteral("کد یکتا"), 130, TGridColumn::ckCode),
+        Column(QStringLiteral("CurTitle"), QStringLiteral("ارز"), 130),
+        Column(QStringLiteral("Active"), QStringLiteral("فعال"), 80),
+    };
+    for (const TGridColumn& column : qAsConst(list.Columns))
+        list.CardFields.append({column.FieldName, column.Title, column.Kind});
+    list.Source = {
+        FieldsOf(list.CardFields),
+        QStringLiteral("(SELECT d.Code, d.Name, d.UniqueCode, d.Active, c.CurTitle FROM dbo.AccDetails AS d "
+                       "LEFT JOIN dbo.AccCurrency AS c ON c.CurCode = d.CurrCode WHERE d.[Type] = %1) AS a")
+            .arg(kind),
+        QStringLiteral("Code")};
+    list.OrderField = QStringLiteral("Code");
+    return list;
+}

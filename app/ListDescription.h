@@ -31,3 +31,5 @@ struct TListDescription
 
 TListDescription GoodsList();
 TListDescription PersonsList();
+/// The detail accounts of a kind.
+TListDescription DetailAccountsList(int kind);

@@ -265,9 +265,24 @@ void TListForm::OpenCard()
     if (card_ != nullptr || parts_->Manager.DataSet()->IsEmpty())
         return;
     SelectFirstRow();
+    if (OnOpenRecord) {
+        OnOpenRecord();
+        return;
+    }
     card_ = new TRecordCard(list_, parts_->DataSet, this);
     card_->setAttribute(Qt::WA_DeleteOnClose);
     card_->open();
+}
+
+void TListForm::SetSource(const TPagedSource& source)
+{
+    TPagedDataSet& dataSet = parts_->DataSet;
+    const QString order = dataSet.OrderField();
+    const Qt::SortOrder direction = dataSet.Order();
+    list_.Source = source;
+    dataSet.SetSource(source);
+    dataSet.SetOrder(order, direction);
+    dataSet.Open();
 }
 
 void TListForm::ShowSortMenu()

@@ -44,7 +44,12 @@ public:
     void FocusSearchEdit();  ///< where the value is typed
     void ClearSearch();      ///< Escape
     void OpenCard();         ///< of the current row; nothing happens on an empty list
-    void ShowSortMenu();     ///< F7
+    /// Reads its rows from elsewhere, with the search in force. The fields are the same.
+    void SetSource(const TPagedSource& source);
+    void ShowSortMenu(); ///< F7
+
+    /// Opens the current row instead of the card to read.
+    std::function<void()> OnOpenRecord;
 
 private:
     void Lay();

@@ -1,5 +1,6 @@
 #include "Page.h"
 
+#include "DetailAccountForm.h"
 #include "ListForm.h"
 #include "VoucherForm.h"
 
@@ -26,5 +27,6 @@ QVector<TPageDescription> WorkbenchPages()
         ListPage(GoodsList()),
         ListPage(PersonsList()),
         FormPage<TVoucherForm>(QStringLiteral("Voucher"), QStringLiteral("صدور سند")),
+        FormPage<TDetailAccountForm>(QStringLiteral("DetailAccounts"), QStringLiteral("حساب تفصیلی")),
     };
 }

@@ -1,11 +1,11 @@
 #include "VoucherForm.h"
 
 #include "Look.h"
-#include "MessageDialog.h"
 #include "PersianText.h"
 #include "ReferenceHost.h"
 #include "SmartButton_TRV.h"
 #include "SmartEdit_TRV.h"
+#include "UnsavedQuestion.h"
 #include "VoucherFormParts.h"
 
 #include <QDateTime>
@@ -36,19 +36,6 @@ QString FirstDate(const TFiscalYear* year, const QString& today)
     if (year == nullptr)
         return today;
     return qBound(year->FromDate, today, qMax(year->FromDate, year->ToDate));
-}
-
-enum TAnswer { SaveFirst = 1, Discard, Stay };
-
-TAnswer AskAboutChanges(QWidget* window)
-{
-    TMessageDialog box(TMessageDialog::TKind::Question,
-                       QStringLiteral("این سند تغییر کرده و ذخیره نشده است. پیش از ادامه ذخیره شود؟"),
-                       {{QStringLiteral("ذخیره"), SaveFirst},
-                        {QStringLiteral("ذخیره نکن"), Discard},
-                        {QStringLiteral("انصراف"), Stay}},
-                       window);
-    return static_cast<TAnswer>(box.Ask());
 }
 
 } // namespace
@@ -224,8 +211,9 @@ bool TVoucherForm::MayDiscard()
 {
     if (!IsChanged())
         return true;
-    const TAnswer answer = AskAboutChanges(window());
-    return answer == Discard || (answer == SaveFirst && Save());
+    const TUnsavedAnswer answer = AskAboutUnsaved(
+        window(), QStringLiteral("این سند تغییر کرده و ذخیره نشده است. پیش از ادامه ذخیره شود؟"));
+    return answer == TUnsavedAnswer::Discard || (answer == TUnsavedAnswer::Save && Save());
 }
 
 void TVoucherForm::NewVoucher()
