@@ -28,15 +28,20 @@ public:
     /// What a user does in a picker that is open and active, its rows and their number there.
     using TScript = std::function<void(TEntityPicker& picker)>;
 
-    /// Opens the picker of a part and plays the script in it; where the script has not closed the picker it
+    /// Opens a picker by `select` and plays the script in it; where the script has not closed the picker it
     /// is cancelled.
-    int Select(TSoftwarePart part, const QString& argument, const TScript& script, bool all = false)
+    int Play(const TScript& script, const std::function<int()>& select)
     {
         Played = 0;
         QTimer timer;
-        timer.callOnTimeout([&] { Play(timer, script); });
+        timer.callOnTimeout([&] { PlayWhenOpen(timer, script); });
         timer.start(10);
-        return ::Host().Pickers.Select_Entity(part, argument, all);
+        return select();
+    }
+
+    int Select(TSoftwarePart part, const QString& argument, const TScript& script, bool all = false)
+    {
+        return Play(script, [&] { return ::Host().Pickers.Select_Entity(part, argument, all); });
     }
 
     /// Until what was typed is in force and answered.
@@ -93,7 +98,7 @@ public:
     int Played = 0; ///< scripts since the last call of Select
 
 private:
-    void Play(QTimer& timer, const TScript& script)
+    void PlayWhenOpen(QTimer& timer, const TScript& script)
     {
         const QPointer<TEntityPicker> picker =
             qobject_cast<TEntityPicker*>(QApplication::activeModalWidget());
@@ -104,12 +109,14 @@ private:
         if (!picker->isActiveWindow() || !QTest::qWaitForWindowExposed(picker))
             return;
         timer.stop();
+        const auto cancel = qScopeGuard([&picker] {
+            if (picker != nullptr)
+                picker->reject();
+        });
         if (picker != nullptr)
             WaitForRows(*picker);
         ++Played;
         if (picker != nullptr)
             script(*picker);
-        if (picker != nullptr)
-            picker->reject();
     }
 };
