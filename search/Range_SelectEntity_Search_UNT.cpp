@@ -75,7 +75,7 @@ bool TRange_SelectEntity_Search_Frame::GetActive() const
     return SelectEntity_CHK->Checked();
 }
 
-void TRange_SelectEntity_Search_Frame::SetActive(bool active)
+void TRange_SelectEntity_Search_Frame::SetActive(bool active) const
 {
     SelectEntity_CHK->SetChecked(active);
 }
@@ -102,14 +102,14 @@ void TRange_SelectEntity_Search_Frame::SetSearchValue2(const QVariant& value)
     Code_EDTExit(To(), Select_Entity_Frame2->Code_EDT);
 }
 
-void TRange_SelectEntity_Search_Frame::Enable(bool enabled)
+void TRange_SelectEntity_Search_Frame::Enable(bool enabled) const
 {
     line_.Enable(enabled);
     Select_Entity_Frame1->Enabled(enabled);
     Select_Entity_Frame2->Enabled(enabled);
 }
 
-void TRange_SelectEntity_Search_Frame::SetBounds(const QVariant& from, const QVariant& to)
+void TRange_SelectEntity_Search_Frame::SetBounds(const QVariant& from, const QVariant& to) const
 {
     const QPointer<TTarvaSearch> criterion(TarvaSearch_Range_SelectEntity);
     criterion->SetValue1(from);

@@ -22,7 +22,7 @@ public:
     void init();
     /// The state of the check box.
     bool GetActive() const;
-    void SetActive(bool active);
+    void SetActive(bool active) const;
     /// The criterion's bounds as 64-bit integers; 0 where there is none.
     QVariant GetSearchCodeValue1() const;
     QVariant GetSearchCodeValue2() const;
@@ -65,8 +65,8 @@ private:
 
     TBound From() const { return {Select_Entity_Frame1, &TTarvaSearch::SetValue1}; }
     TBound To() const { return {Select_Entity_Frame2, &TTarvaSearch::SetValue2}; }
-    void Enable(bool enabled);
-    void SetBounds(const QVariant& from, const QVariant& to);
+    void Enable(bool enabled) const;
+    void SetBounds(const QVariant& from, const QVariant& to) const;
 
     TFilterLine line_;
 };

@@ -61,7 +61,7 @@ void TSelectEntity_Search_Frame::init()
     TarvaSearch_SelectEntityEDT->SetValue1(QString());
 }
 
-void TSelectEntity_Search_Frame::Enable(bool enabled)
+void TSelectEntity_Search_Frame::Enable(bool enabled) const
 {
     line_.Enable(enabled);
     TSelect_Entity_Frame1->Enabled(enabled);

@@ -45,7 +45,7 @@ private:
     void TSelect_Entity_Frame1Code_EDTExit(QObject* sender);
     void TSelect_Entity_Frame1Code_EDTPropertiesButtonClick(QObject* sender);
 
-    void Enable(bool enabled);
+    void Enable(bool enabled) const;
     void TakeCode();
 
     TFilterLine line_;

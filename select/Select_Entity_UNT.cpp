@@ -70,13 +70,13 @@ TSelect_Entity_Frame::TSelect_Entity_Frame(QWidget* owner) : TFrame(owner)
 
 TSelect_Entity_Frame::~TSelect_Entity_Frame() = default;
 
-void TSelect_Entity_Frame::Clear()
+void TSelect_Entity_Frame::Clear() const
 {
     Code_EDT->Clear();
     Name_LBL->Clear();
 }
 
-void TSelect_Entity_Frame::Enabled(bool enable, bool clear)
+void TSelect_Entity_Frame::Enabled(bool enable, bool clear) const
 {
     if (!enable && clear)
         Clear();
@@ -88,7 +88,7 @@ QVariant TSelect_Entity_Frame::GetCodeValue() const
     return Code_EDT->Text().toInt();
 }
 
-void TSelect_Entity_Frame::SetCodeValue(const QVariant& value)
+void TSelect_Entity_Frame::SetCodeValue(const QVariant& value) const
 {
     if (const int code = ToCode(value); code > 0)
         Code_EDT->SetValue(code);
@@ -141,7 +141,7 @@ void TSelect_Entity_Frame::Code_EDTExit(QObject* /*sender*/)
     }
 }
 
-void TSelect_Entity_Frame::CompleteShownCode()
+void TSelect_Entity_Frame::CompleteShownCode() const
 {
     const int length = EntitySelection(Code_EDT->EntityType()).ExitPad;
     if (length > 0)

@@ -25,14 +25,14 @@ public:
     ~TSelect_Entity_Frame() override;
 
     /// Empties the code and the name; raises nothing.
-    void Clear();
+    void Clear() const;
     /// Enables or disables the code box (the frame's own state stays); when disabling, `clear` empties first.
-    void Enabled(bool enable, bool clear = false);
+    void Enabled(bool enable, bool clear = false) const;
     /// The code as an int; 0 where there is none. Never throws.
     QVariant GetCodeValue() const;
     /// Shows a code and runs what leaving the box runs. What is not above 0, null and an empty text empty the
     /// box. Throws std::invalid_argument, before anything has changed, where the value is no whole number.
-    void SetCodeValue(const QVariant& value);
+    void SetCodeValue(const QVariant& value) const;
     /// The code; 0 for an empty box. Throws std::invalid_argument where the program has put a text into the
     /// box that is no whole number; the user cannot.
     int CodeAsInt() const;
@@ -66,7 +66,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void CompleteShownCode();
+    void CompleteShownCode() const;
     void RefuseZero();
     void RaiseCodeChanged();
     int Pick(const TEntitySelection& selection) const;
