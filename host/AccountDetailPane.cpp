@@ -62,6 +62,7 @@ TAccountDetailPane::~TAccountDetailPane()
 {
     // The controls outlive parts_, with the data set that they refer to.
     parts_->Grid->SetDataSource(nullptr);
+    parts_->Search->OnEditValueChange = nullptr;
     parts_->DataSet.disconnect(this);
 }
 

@@ -68,7 +68,13 @@ TAccountPickerDialog::TAccountPickerDialog(TADOConnection& connection, THostSett
     Begin();
 }
 
-TAccountPickerDialog::~TAccountPickerDialog() = default;
+TAccountPickerDialog::~TAccountPickerDialog()
+{
+    // The panes and the focus still tell what happens to them while they are destroyed.
+    qApp->disconnect(this);
+    chart_->disconnect(this);
+    details_->disconnect(this);
+}
 
 void TAccountPickerDialog::ReadKinds(TADOConnection& connection)
 {

@@ -28,7 +28,12 @@ bool IsTyped(const QKeyEvent& event)
     const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (event.key() == Qt::Key_Backspace)
         return (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) == 0;
-    return (event.modifiers() & commands) == 0 && !event.text().isEmpty() && event.text().front().isPrint();
+    if ((event.modifiers() & commands) != 0 || event.text().isEmpty())
+        return false;
+    constexpr QChar halfSpace(0x200C);
+    constexpr QChar joiner(0x200D);
+    const QChar typed = event.text().front();
+    return typed.isPrint() || typed.isSurrogate() || typed == halfSpace || typed == joiner;
 }
 
 void Forward(const QKeyEvent& event, QObject* receiver)

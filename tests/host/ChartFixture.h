@@ -5,7 +5,8 @@
 
 #include <QTemporaryDir>
 
-/// A sample database with a chart of accounts, a host over it, and every statement that is run.
+/// A sample database with a chart of accounts, a host over it, and every statement that is run, those of
+/// lists read in the background too.
 class TChartFixture
 {
 public:
@@ -15,7 +16,8 @@ public:
         options.Size = size;
         OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("chart.db")),
                      options);
-        Connection.OnWillExecute = [this](TADOConnection*, const QString& text) { Statements.append(text); };
+        QObject::connect(&Connection, &TADOConnection::willExecute, &Connection,
+                         [this](const QString& text) { Statements.append(text); });
     }
 
     void AddDetail(int kind, int code, const QString& name, int uniqueCode, bool active = true)
