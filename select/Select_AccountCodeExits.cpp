@@ -103,12 +103,8 @@ void TSelect_AccountCode::ExpenseCenterCode_EDTExit(QObject* /*sender*/)
         RaiseChange();
         return;
     }
-    AccountCodeBox::StyleAsCode(*ExpenseCenterCode_EDT);
-    {
-        const TScopedFlag inBox(this, advances_, ExpenseCenterCode_EDT->hasFocus());
-        ExpenseCenterCode_EDT->SetText(
-            Host().Accounting.CompleteCode(text, ExpenseCenterCode_EDT->MaxLength()));
-    }
+    WriteText(TCodeItem::ctExpenseCenter,
+              Host().Accounting.CompleteCode(text, ExpenseCenterCode_EDT->MaxLength()));
     ShowName();
     const QString title = Chart().GetExpCenterTitle(ExpenseCenterCode_EDT->Text());
     ShowTitle(title);
@@ -121,17 +117,17 @@ void TSelect_AccountCode::ExpenseCenterCode_EDTExit(QObject* /*sender*/)
         FocusBack(ExpenseCenterCode_EDT);
 }
 
-void TSelect_AccountCode::RunExit(TCodeItem level)
+void TSelect_AccountCode::RunExit(TCodeItem level, QObject* sender)
 {
     switch (level) {
     case TCodeItem::ctTotal:
-        return TotalCode_EDTExit(nullptr);
+        return TotalCode_EDTExit(sender);
     case TCodeItem::ctAssistant:
-        return AssistantCode_EDTExit(nullptr);
+        return AssistantCode_EDTExit(sender);
     case TCodeItem::ctDetail:
-        return DetailCode_EDTExit(nullptr);
+        return DetailCode_EDTExit(sender);
     case TCodeItem::ctExpenseCenter:
-        return ExpenseCenterCode_EDTExit(nullptr);
+        return ExpenseCenterCode_EDTExit(sender);
     }
 }
 
@@ -145,7 +141,7 @@ void TSelect_AccountCode::WriteCode(TCodeItem level, int code)
         AccountCodeBox::ShowPlaceholder(*box, AccountCodeNames::OfLevel(level));
     }
     if (code == 0 || !box->hasFocus())
-        RunExit(level);
+        RunExit(level, nullptr);
 }
 
 // After the user has changed a level, the ones below it belong to another account. The owner is told once.

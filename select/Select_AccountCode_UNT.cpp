@@ -131,7 +131,7 @@ void TSelect_AccountCode::ClearPart(TCodeItem level)
     TSmartEdit_TRV* const box = BoxOf(level);
     if (level != TCodeItem::ctExpenseCenter) {
         box->Clear();
-        RunExit(level);
+        RunExit(level, nullptr);
         return;
     }
     const QPointer<TSelect_AccountCode> guard(this);
@@ -143,7 +143,7 @@ void TSelect_AccountCode::ClearPart(TCodeItem level)
         box->OnEditValueChange = valueChange;
     });
     box->Clear();
-    RunExit(level);
+    RunExit(level, nullptr);
 }
 
 void TSelect_AccountCode::refresh()
@@ -151,7 +151,7 @@ void TSelect_AccountCode::refresh()
     const QPointer<TSelect_AccountCode> guard(this);
     for (const TCodeItem level : AllLevels) {
         if (guard && FCodeItem.Contains(level))
-            RunExit(level);
+            RunExit(level, nullptr);
     }
 }
 
@@ -167,7 +167,7 @@ void TSelect_AccountCode::Enabled(bool enable, bool clear)
 bool TSelect_AccountCode::IsEmpty() const
 {
     for (const TCodeItem level : AllLevels) {
-        if (FCodeItem.Contains(level) && AccountCodeBox::Code(*BoxOf(level)) != 0)
+        if (FCodeItem.Contains(level) && CodeOf(level) != 0)
             return false;
     }
     return true;
@@ -182,22 +182,22 @@ bool TSelect_AccountCode::IsValid() const
 
 int TSelect_AccountCode::GetTotalCode() const
 {
-    return AccountCodeBox::Code(*TotalCode_EDT);
+    return CodeOf(TCodeItem::ctTotal);
 }
 
 int TSelect_AccountCode::GetAssistantCode() const
 {
-    return AccountCodeBox::Code(*AssistantCode_EDT);
+    return CodeOf(TCodeItem::ctAssistant);
 }
 
 int TSelect_AccountCode::GetDetailCode() const
 {
-    return AccountCodeBox::Code(*DetailCode_EDT);
+    return CodeOf(TCodeItem::ctDetail);
 }
 
 int TSelect_AccountCode::GetExpCenterCode() const
 {
-    return AccountCodeBox::Code(*ExpenseCenterCode_EDT);
+    return CodeOf(TCodeItem::ctExpenseCenter);
 }
 
 void TSelect_AccountCode::SetTotalCode(int code)
@@ -222,14 +222,31 @@ void TSelect_AccountCode::SetDetailCode(int code)
 
 void TSelect_AccountCode::SetExpCenterCode(int code)
 {
-    {
-        const TScopedFlag inBox(this, advances_, ExpenseCenterCode_EDT->hasFocus());
-        if (code == 0)
-            AccountCodeBox::ShowPlaceholder(*ExpenseCenterCode_EDT, AccountCodeNames::ExpenseCenter);
-        else
-            ExpenseCenterCode_EDT->SetText(QString::number(code));
-    }
+    if (code == 0)
+        AccountCodeBox::ShowPlaceholder(*ExpenseCenterCode_EDT, AccountCodeNames::ExpenseCenter);
+    else
+        WriteText(TCodeItem::ctExpenseCenter, QString::number(code));
     ExpenseCenterCode_EDTExit(nullptr);
+}
+
+int TSelect_AccountCode::CodeOf(TCodeItem level) const
+{
+    return AccountCodeBox::Code(*BoxOf(level));
+}
+
+void TSelect_AccountCode::WriteText(TCodeItem level, const QString& text)
+{
+    TSmartEdit_TRV* const box = BoxOf(level);
+    // Only a user who is in the box is moved on.
+    const TScopedFlag inBox(this, advances_, advances_ && box->hasFocus());
+    AccountCodeBox::StyleAsCode(*box);
+    box->SetText(text);
+}
+
+void TSelect_AccountCode::RestorePlaceholder(TCodeItem level)
+{
+    if (BoxOf(level)->Text().isEmpty())
+        AccountCodeBox::ShowPlaceholder(*BoxOf(level), AccountCodeNames::OfLevel(level));
 }
 
 void TSelect_AccountCode::SetCodeItem(TCodeItems levels)

@@ -90,6 +90,15 @@ public:
     QString getAssitanId() const { return AsistantId; }
     QString getDetailId() const { return DetailId; }
 
+    // The levels one by one, for frames that this one is part of.
+    TSmartEdit_TRV* BoxOf(TCodeItem level) const;
+    int CodeOf(TCodeItem level) const;
+    /// Writes a text into a box as it is; no exit runs.
+    void WriteText(TCodeItem level, const QString& text);
+    /// Shows the level's name where the box is empty.
+    void RestorePlaceholder(TCodeItem level);
+    void RunExit(TCodeItem level, QObject* sender);
+
     // The handlers of the controls, for owners that put their own in front of them.
     void TotalCode_EDTExit(QObject* sender);
     void AssistantCode_EDTExit(QObject* sender);
@@ -142,8 +151,6 @@ private:
     void AssistantCode_EDTEditValueChange();
     void DetailCode_EDTEditValueChange();
 
-    TSmartEdit_TRV* BoxOf(TCodeItem level) const;
-    void RunExit(TCodeItem level);
     void WriteCode(TCodeItem level, int code);
     void ClearBelow(std::initializer_list<TCodeItem> levels);
     void Pad(TSmartEdit_TRV* box);

@@ -91,8 +91,9 @@ QString TRecordingAccounting::GetHesabName(const QString& total, const QString& 
 {
     log_.Note(QStringLiteral("GetHesabName"), total, assistant, detail, kind);
     const auto name = Names.constFind(QStringList{total, assistant, detail}.join(QLatin1Char('/')));
-    found = name != Names.constEnd();
-    return found ? *name : QString();
+    const bool isNamed = name != Names.constEnd();
+    found = isNamed || KnowsAll;
+    return isNamed ? *name : QString();
 }
 
 bool TRecordingAccounting::VoucherConflicts()

@@ -78,6 +78,7 @@ public:
     void VoucherConflictThread_Start(QWidget* control) override;
 
     QHash<QString, QString> Names; ///< by "total/assistant/detail"; what is not here is not found
+    bool KnowsAll = false;         ///< what is not in Names is found too, without a name
     bool Conflicts = false;
     bool RefreshAwaits = false;
     QPointer<QWidget> ConflictControl; ///< handed over by the last VoucherConflictThread_Start
