@@ -26,7 +26,7 @@ QColor CodeColor()
 
 void SetColor(TSmartEdit_TRV& box, const QColor& color)
 {
-    QPalette palette = box.palette();
+    QPalette palette; // knows of one colour, so that the others go on following the scheme
     palette.setColor(QPalette::Active, QPalette::Text, color);
     palette.setColor(QPalette::Inactive, QPalette::Text, color);
     box.setPalette(palette);

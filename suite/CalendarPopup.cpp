@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -16,6 +17,28 @@ namespace {
 
 constexpr int DaysOfWeek = 7;
 constexpr int MonthsOfYear = 12;
+
+/// One sign for a month, two for a year; what was lies to the right.
+QIcon ChevronIcon(int months)
+{
+    constexpr int Side = 48;
+    constexpr int Step = 12;
+    QPixmap picture(Side, Side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Look::Color(Look::TRole::Text), 4));
+    const int tip = months < 0 ? Step : -Step;
+    const int signs = qAbs(months) == 1 ? 1 : 2;
+    for (int sign = 0; sign < signs; ++sign) {
+        const int middle = Side / 2 + Step * (2 * sign - signs + 1) / 2;
+        const QPoint points[] = {{middle - tip / 2, Side / 2 - Step},
+                                 {middle + tip / 2, Side / 2},
+                                 {middle - tip / 2, Side / 2 + Step}};
+        painter.drawPolyline(points, 3);
+    }
+    return QIcon(picture);
+}
 
 } // namespace
 
@@ -73,13 +96,7 @@ QToolButton* TCalendarPopup::MakeButton(const QString& name, int months)
     button->setFixedSize(Look::ControlHeight, Look::ControlHeight);
     button->setToolTip(name);
     button->setAccessibleName(name);
-    if (qAbs(months) == 1) {
-        button->setArrowType(months < 0 ? Qt::RightArrow : Qt::LeftArrow);
-    } else {
-        // Otherwise the signs would be turned round with the line.
-        button->setLayoutDirection(Qt::LeftToRight);
-        button->setText(months < 0 ? QStringLiteral("»") : QStringLiteral("«"));
-    }
+    button->setIcon(ChevronIcon(months));
     connect(button, &QToolButton::clicked, this,
             [this, months] { Mark(calendar_.AddMonths(page_->Marked(), months)); });
     return button;

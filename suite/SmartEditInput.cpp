@@ -93,7 +93,7 @@ bool TSmartEdit_TRV::TPrivate::HandleKey(QKeyEvent* event)
     }
     if (!IsTyping(event))
         return false;
-    const QString clean = FittingText(CleanText(event->text()));
+    const QString clean = TypedText(event->text());
     if (clean == event->text())
         return false;
     if (!clean.isEmpty() && CanChange())
@@ -188,6 +188,12 @@ QString TSmartEdit_TRV::TPrivate::CleanText(const QString& text) const
     QString digits = PersianText::AsciiDigits(text);
     digits.removeIf([](QChar character) { return character < u'0' || character > u'9'; });
     return digits;
+}
+
+QString TSmartEdit_TRV::TPrivate::TypedText(const QString& text) const
+{
+    const QString fitting = FittingText(CleanText(text));
+    return fitting.isEmpty() ? fitting : edit->Admitted(fitting);
 }
 
 // As much of a text as the edit still has room for.

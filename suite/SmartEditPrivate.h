@@ -46,6 +46,7 @@ struct TSmartEdit_TRV::TPrivate
     bool IsWithinReach(const TNumberText& candidate);
     void Type(const QString& text);
     QString CleanText(const QString& text) const;
+    QString TypedText(const QString& text) const;
     QString FittingText(const QString& text) const;
     bool Paste(const QString& text);
     std::optional<QString> FindNumber(const QString& text) const;

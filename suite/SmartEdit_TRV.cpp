@@ -264,8 +264,7 @@ void TSmartEdit_TRV::inputMethodEvent(QInputMethodEvent* event)
         return;
     }
     QInputMethodEvent clean(event->preeditString(), event->attributes());
-    clean.setCommitString(d->FittingText(d->CleanText(text)), event->replacementStart(),
-                          event->replacementLength());
+    clean.setCommitString(d->TypedText(text), event->replacementStart(), event->replacementLength());
     QLineEdit::inputMethodEvent(&clean);
 }
 

@@ -108,6 +108,8 @@ protected:
     /// A key that a derived edit handles in its own way, asked after OnKeyDown and OnKeyPress; true where it
     /// has. The edit may be gone by then.
     virtual bool HandleOwnKey(QKeyEvent* event);
+    /// What of a text that is typed in place of the selection a derived text edit takes; here all of it.
+    virtual QString Admitted(const QString& text) { return text; }
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "SuiteExport.h"
+
+#include <QList>
+#include <QRect>
+#include <QSize>
+
+/// Rectangles one after the other in lines that break where the width ends, each in the middle of its line.
+struct SUITE_EXPORT TFlowLines
+{
+    int Width = 0; ///< of every line
+    int Spacing = 0;
+    int LineSpacing = 0;
+    bool FromRight = false; ///< lines begin at the right
+
+    /// Where rectangles of these sizes come to stand. One that is wider than a line has it for itself.
+    QList<QRect> Place(const QList<QSize>& sizes) const;
+    /// The height of all lines.
+    int HeightFor(const QList<QSize>& sizes) const;
+};
