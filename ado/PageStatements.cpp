@@ -140,20 +140,20 @@ TStatement TPageStatements::Places() const
     const QString fields =
         OrderedByKey() ? source_.Fields[keyIndex_]
                        : source_.Fields[orderIndex_] + QStringLiteral(", ") + source_.Fields[keyIndex_];
-    return {QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + source_.From + PlacesWhere() +
-                QStringLiteral(" ORDER BY ") + OrderBy(descending_),
+    return {QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + source_.From +
+                Gathered().Where({}) + QStringLiteral(" ORDER BY ") + OrderBy(descending_),
             conditionParameters_};
 }
 
-// An engine that follows the order's index fetches every row of the table singly to test the condition. With
-// the keys found first, in one scan, the index alone is enough: on a million rows 0.8 seconds instead of ten.
-QString TPageStatements::PlacesWhere() const
+TPageStatements TPageStatements::Gathered() const
 {
     if (condition_.isEmpty() || OrderedByKey() || !conditionParameters_.isEmpty())
-        return Where({});
+        return *this;
     const QString& key = source_.Fields[keyIndex_];
-    return QStringLiteral(" WHERE ") + key + QStringLiteral(" IN (SELECT ") + key + QStringLiteral(" FROM ") +
-           source_.From + Where({}) + u')';
+    TPageStatements gathered = *this;
+    gathered.condition_ = key + QStringLiteral(" IN (SELECT ") + key + QStringLiteral(" FROM ") +
+                          source_.From + Where({}) + u')';
+    return gathered;
 }
 
 TStatement TPageStatements::SomeKeys(int count) const

@@ -67,6 +67,10 @@ public:
     TStatement SomeKeys(int count) const;
     /// The same list where its rows are known to be among those of some keys.
     TPageStatements Narrowed(const QVariantList& keys) const;
+    /// The same list where the keys of its rows are found in one scan before anything else. An engine that
+    /// follows the index of the order fetches every row singly to test the condition, up to the first rows
+    /// that match: on a million rows up to ten times as long as the scan.
+    TPageStatements Gathered() const;
     /// A statement without rows that tells the columns.
     TStatement Columns() const;
     bool HasCondition() const { return !condition_.isEmpty(); }
@@ -74,7 +78,6 @@ public:
 
 private:
     QString Where(const QString& more) const;
-    QString PlacesWhere() const;
     QString OrderBy(bool descending) const;
     TPageSegment Beyond(const TSortKey& from, bool inclusive, bool descending) const;
     TPageSegment Empties(const TSortKey* from, bool inclusive, bool descending) const;

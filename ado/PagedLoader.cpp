@@ -110,8 +110,9 @@ void TPagedLoader::AskFirst(const TQuestion& question)
     pageThread_->Begin(Task(work, &TPagedLoader::FailFirst, question.Statements, question.Reopen));
 }
 
-// Along the index of an order the first page comes quickly where many rows match, and takes many times as
-// long as a plain scan where few do. So both run at once, and what the scan finds is read by its keys.
+// Along the index of an order the first page comes at once where the rows that match stand early in it, and
+// takes many times as long as a plain scan where they are few or stand late. So both run at once. The scan
+// begins with some keys: a few are read by themselves, and if there are more the rest is gathered.
 void TPagedLoader::BeginProbe(const TQuestion& question)
 {
     const auto work = [this, question](TPageReader& reader) -> TQueryThread::TAnswer {
@@ -130,11 +131,25 @@ void TPagedLoader::TakeProbe(TQuestion question, const QVariantList& keys)
     if (firstPending_ && keys.size() <= fewRows) {
         question.Statements = std::make_shared<const TPageStatements>(question.Statements->Narrowed(keys));
         AskFirst(question);
+    } else if (firstPending_) {
+        BeginGathering(question);
     }
     AnnounceBusy();
 }
 
-// The reading of the first page tells what is wrong.
+void TPagedLoader::BeginGathering(const TQuestion& question)
+{
+    const auto work = [this, question, rows = pageSize_](TPageReader& reader) -> TQueryThread::TAnswer {
+        return [this, question, pages = ReadFirst(reader, rows, question.Keep)] {
+            pageThread_->Abandon();
+            ShowFirst(question, pages);
+        };
+    };
+    const auto gathered = std::make_shared<const TPageStatements>(question.Statements->Gathered());
+    countThread_->Begin(Task(work, &TPagedLoader::FailProbe, gathered, question.Reopen));
+}
+
+// The reading of the first page along its order tells what is wrong.
 void TPagedLoader::FailProbe(const EADOError&)
 {
     AnnounceBusy();
@@ -347,7 +362,7 @@ bool TPagedLoader::WaitForFirst(const QDeadlineTimer& deadline)
     return alive && !firstFailed_;
 }
 
-// While the first page is awaited the other thread does nothing but probe.
+// While the first page is awaited the other thread does nothing but look for it too.
 bool TPagedLoader::TakeProbeAnswer()
 {
     const TQueryThread::TAnswer answer = countThread_->TakeAnswer();

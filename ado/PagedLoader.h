@@ -105,6 +105,7 @@ private:
     void AskFirst(const TQuestion& question);
     void BeginProbe(const TQuestion& question);
     void TakeProbe(TQuestion question, const QVariantList& keys);
+    void BeginGathering(const TQuestion& question);
     void FailProbe(const EADOError& error);
     void ShowFirst(const TQuestion& question, const TFirstPages& pages);
     int PutAround(const TPageReader::TAround& around);

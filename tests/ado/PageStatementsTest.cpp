@@ -1,5 +1,5 @@
-#include "AdoError.h"
 #include "PageStatements.h"
+#include "AdoError.h"
 
 #include <QTest>
 
@@ -47,6 +47,8 @@ private Q_SLOTS:
     void listsThePlacesOfAllRows();
     void listsThePlacesOfAnotherOrderByTheKeysThatMatch();
     void readsFewRowsByTheirKeys();
+    void gathersTheKeysBeforeItOrders();
+    void gathersNothingWhereTheScanIsTheReading();
     void asksForTheColumnsWithoutRows();
     void findsFieldsWhateverTheLetterCaseAndBrackets();
     void refusesASourceWithoutItsKey();
@@ -188,6 +190,28 @@ void PageStatementsTest::readsFewRowsByTheirKeys()
                  "SELECT TOP 10 Code, Name, [Price] FROM dbo.kala WHERE ((Active = 1) AND Code IN (?, ?, ?)) "
                  "AND Name >= ? AND (Name > ? OR Code > ?) ORDER BY Name, Code"));
     QCOMPARE(parameters, (QVariantList{3, 7, 9, somewhere.Order, somewhere.Order, somewhere.Key}));
+}
+
+void PageStatementsTest::gathersTheKeysBeforeItOrders()
+{
+    const auto gathered =
+        Statements(1, Qt::AscendingOrder, QStringLiteral("Active = 1 OR Code = 3")).Gathered();
+    QVariantList parameters;
+    QCOMPARE(Texts(gathered, {}, &parameters),
+             QStringLiteral("SELECT TOP 10 Code, Name, [Price] FROM dbo.kala WHERE Code IN (SELECT Code FROM "
+                            "dbo.kala WHERE Active = 1 OR Code = 3) ORDER BY Name, Code"));
+    QCOMPARE(parameters, QVariantList());
+}
+
+void PageStatementsTest::gathersNothingWhereTheScanIsTheReading()
+{
+    const auto byKey = Statements(0, Qt::AscendingOrder, QStringLiteral("Active = 1"));
+    QCOMPARE(byKey.Gathered().CountAll().Text, byKey.CountAll().Text);
+    const auto all = Statements(1, Qt::AscendingOrder);
+    QCOMPARE(all.Gathered().CountAll().Text, all.CountAll().Text);
+    const auto few = Statements(1, Qt::AscendingOrder, QStringLiteral("Active = 1")).Narrowed({3, 7});
+    QCOMPARE(few.Gathered().CountAll().Text, few.CountAll().Text);
+    QCOMPARE(few.Gathered().CountAll().Parameters, (QVariantList{3, 7}));
 }
 
 void PageStatementsTest::asksForTheColumnsWithoutRows()

@@ -1,8 +1,13 @@
 #include "AdoError.h"
 #include "GoodsFile.h"
 
+#include <map>
+#include <mutex>
+#include <QScopeGuard>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 namespace {
 
@@ -30,6 +35,39 @@ QVariantList WalkBackwards(TPagedDataSet& dataSet)
     return codes;
 }
 
+/// Makes dbo.Held(code) known, which returns its argument, but in the threads that do not begin with the
+/// first code returns only when it is let go.
+class TWalkHolder
+{
+public:
+    explicit TWalkHolder(TADOConnection& connection)
+    {
+        connection.RegisterFunction(QStringLiteral("Held"), 1,
+                                    [this](IFunctionContext&, const QVariantList& arguments) {
+                                        if (Walks(arguments.first().toInt()))
+                                            letGo_.acquire();
+                                        return arguments.first();
+                                    });
+    }
+    void LetGo() { letGo_.release(1000 * rowCount); }
+    int Walkers() const { return walkers_; }
+
+private:
+    bool Walks(int code)
+    {
+        const std::lock_guard lock(mutex_);
+        const auto [known, isNew] = walks_.emplace(QThread::currentThread(), code != 1);
+        if (isNew && known->second)
+            ++walkers_;
+        return known->second;
+    }
+
+    std::mutex mutex_;
+    std::map<QThread*, bool> walks_;
+    std::atomic<int> walkers_ = 0;
+    QSemaphore letGo_;
+};
+
 } // namespace
 
 class PagedDataSetTest : public QObject
@@ -41,6 +79,7 @@ private Q_SLOTS:
     void walkingMeetsEveryRowInOrder();
     void everyRowIsReachedByAJump_data();
     void everyRowIsReachedByAJump();
+    void rowsThatStandLateInTheOrderAreGathered();
     void openingShowsTheFirstPageBeforeTheCount();
     void theCountBecomesExact();
     void fieldsAreKnownAtOnce();
@@ -138,6 +177,28 @@ void PagedDataSetTest::everyRowIsReachedByAJump()
         QCOMPARE(dataSet->CurrentKey(), expected[row]);
         QCOMPARE(dataSet->RecNo(), row + 1);
     }
+}
+
+void PagedDataSetTest::rowsThatStandLateInTheOrderAreGathered()
+{
+    goods_.Connection.Execute(QStringLiteral("CREATE INDEX IX_Name ON dbo.kala (Name, Code)"));
+    const QVariantList expected = goods_.Codes(QStringLiteral("Code > 100"), QStringLiteral("Name, Code"));
+    TWalkHolder holder(goods_.Connection);
+    const auto dataSet = goods_.DataSet();
+    const QScopeGuard letGo([&holder] { holder.LetGo(); });
+    dataSet->SetOrder(QStringLiteral("Name"), Qt::AscendingOrder);
+    // The price keeps the index from answering the scan.
+    dataSet->SetCondition(QStringLiteral("dbo.Held(Code) > 100 AND Price > -1000"));
+    dataSet->Open();
+    QVERIFY(dataSet->WaitForFirstPage());
+    QCOMPARE(holder.Walkers(), 1);
+    for (int row = 0; row < 100; ++row)
+        QCOMPARE(dataSet->ValueAt(row, 0), expected[row]);
+    holder.LetGo();
+    QTRY_VERIFY(!dataSet->Busy());
+    QCOMPARE(dataSet->RecordCount(), static_cast<int>(expected.size()));
+    QCOMPARE(WalkForwards(*dataSet), expected);
+    goods_.Connection.Execute(QStringLiteral("DROP INDEX IX_Name ON dbo.kala"));
 }
 
 void PagedDataSetTest::openingShowsTheFirstPageBeforeTheCount()
