@@ -10,7 +10,9 @@
 #include <QVariant>
 #include <QVector>
 
-/// The rows of one executed statement, forward-only. One statement is open on a connection at a time.
+/// The rows of one executed statement, forward-only. One statement is open on a connection at a time: another
+/// one, and the beginning and the commit of a transaction, are refused (WrongState) from its execution until
+/// Next() has returned false or the rows are destroyed. A statement without columns is not open.
 /// Column indexes count from 0; reading a column twice is allowed until Next() is called.
 class ADO_EXPORT IEngineRows
 {

@@ -19,4 +19,4 @@ ADO_EXPORT TAdoErrorKind KindOf(const TOdbcDiagnostics& diagnostics);
 
 /// The exception for a failed call. `kind` overrides what the diagnostics say where it is not Other.
 ADO_EXPORT EADOError OdbcError(const TOdbcDiagnostics& diagnostics, const QString& statement,
-                    TAdoErrorKind kind = TAdoErrorKind::Other);
+                               TAdoErrorKind kind = TAdoErrorKind::Other);

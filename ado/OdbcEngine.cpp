@@ -58,6 +58,7 @@ TOdbcEngine::TOdbcEngine(const QString& connectionString, const TEngineOptions& 
 
 TOdbcEngine::~TOdbcEngine()
 {
+    openRows_.ConnectionCloses();
     if (inTransaction_)
         SQLEndTran(SQL_HANDLE_DBC, connection_.Get(), SQL_ROLLBACK);
     SQLDisconnect(connection_.Get());
@@ -68,16 +69,6 @@ std::unique_ptr<IEngineRows> TOdbcEngine::Execute(const QString& text, const QVa
     TOdbcStatement statement(connection_.Get());
     if (!statement)
         FailConnection(TAdoErrorKind::Other);
-    {
-        const std::lock_guard lock(running_);
-        if (openStatement_) {
-            throw EADOError(TAdoErrorKind::WrongState,
-                            QStringLiteral("دستور پیشین این اتصال هنوز بسته نشده است."), text,
-                            QStringLiteral("a connection has one open statement at a time"));
-        }
-        openStatement_ = statement.Get();
-        cancelRequested_ = false;
-    }
     const SQLHANDLE handle = statement.Get();
     // The rows own the statement from here on and tell when it is closed, also when running it fails.
     auto rows = std::make_unique<TOdbcRows>(*this, std::move(statement), text);
@@ -96,12 +87,14 @@ void TOdbcEngine::Begin()
 {
     if (inTransaction_)
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنش پیشین هنوز باز است."));
+    openRows_.RefuseWhileOpen({});
     SetAutoCommit(false);
     inTransaction_ = true;
 }
 
 void TOdbcEngine::Commit()
 {
+    openRows_.RefuseWhileOpen({});
     EndTransaction(SQL_COMMIT);
 }
 
@@ -142,11 +135,19 @@ void TOdbcEngine::RegisterFunction(const QString&, int, TDatabaseFunction)
 {
 }
 
-void TOdbcEngine::StatementClosed(SQLHANDLE statement)
+void TOdbcEngine::StatementOpens(IOpenRows* rows, SQLHANDLE statement, const QString& text)
 {
+    openRows_.Take(rows, text);
     const std::lock_guard lock(running_);
-    if (openStatement_ == statement)
-        openStatement_ = nullptr;
+    openStatement_ = statement;
+    cancelRequested_ = false;
+}
+
+void TOdbcEngine::StatementCloses(const IOpenRows* rows)
+{
+    openRows_.Release(rows);
+    const std::lock_guard lock(running_);
+    openStatement_ = nullptr;
 }
 
 bool TOdbcEngine::ConnectionSaysDead() const

@@ -3,6 +3,7 @@
 #include "Engine.h"
 #include "OdbcDiagnostics.h"
 #include "OdbcHandles.h"
+#include "OpenRows.h"
 
 #include <mutex>
 
@@ -25,8 +26,10 @@ public:
 
     /// Throws the exception for a failed call on a statement of this connection.
     [[noreturn]] void FailStatement(SQLHANDLE statement, const QString& text);
-    /// Called by the rows when they are done with their statement.
-    void StatementClosed(SQLHANDLE statement);
+    /// Called by the rows when they take up their statement and when they are done with it. The first throws
+    /// EADOError (WrongState) while other rows are open.
+    void StatementOpens(IOpenRows* rows, SQLHANDLE statement, const QString& text);
+    void StatementCloses(const IOpenRows* rows);
 
 private:
     [[noreturn]] void FailConnection(TAdoErrorKind kind);
@@ -36,6 +39,7 @@ private:
 
     TOdbcEnvironment environment_;
     TOdbcConnection connection_;
+    TOpenRows openRows_;
     bool inTransaction_ = false;
     bool dead_ = false;
 

@@ -4,6 +4,8 @@
 #include "OdbcEngine.h"
 
 #include <array>
+#include <QScopeGuard>
+#include <utility>
 
 namespace {
 
@@ -71,13 +73,29 @@ QString Digits(int value, int width)
 } // namespace
 
 TOdbcRows::TOdbcRows(TOdbcEngine& engine, TOdbcStatement statement, QString text)
-    : engine_(engine), statement_(std::move(statement)), text_(std::move(text))
+    : engine_(&engine), statement_(std::move(statement)), text_(std::move(text))
 {
+    engine_->StatementOpens(this, statement_.Get(), text_);
 }
 
 TOdbcRows::~TOdbcRows()
 {
-    engine_.StatementClosed(statement_.Get());
+    Close();
+}
+
+void TOdbcRows::Close()
+{
+    values_.clear();
+    if (engine_ != nullptr)
+        std::exchange(engine_, nullptr)->StatementCloses(this);
+    // Freed after the engine has forgotten it: another thread may be cancelling.
+    statement_ = {};
+}
+
+void TOdbcRows::ConnectionCloses()
+{
+    cutOff_ = true;
+    Close();
 }
 
 void TOdbcRows::FindResult()
@@ -94,8 +112,10 @@ void TOdbcRows::FindResult()
         if (affectedRows_ < 0 && Succeeded(SQLRowCount(statement_.Get(), &written)))
             affectedRows_ = written;
         const SQLRETURN more = SQLMoreResults(statement_.Get());
-        if (more == SQL_NO_DATA)
+        if (more == SQL_NO_DATA) {
+            Close();
             return;
+        }
         if (!Succeeded(more))
             Fail();
     }
@@ -126,12 +146,16 @@ void TOdbcRows::DescribeColumns(SQLSMALLINT count)
 
 bool TOdbcRows::Next()
 {
+    if (cutOff_)
+        throw TOpenRows::CutOff(text_);
     values_.clear();
-    if (columns_.isEmpty())
+    if (engine_ == nullptr)
         return false;
     const SQLRETURN result = SQLFetch(statement_.Get());
-    if (result == SQL_NO_DATA)
+    if (result == SQL_NO_DATA) {
+        Close();
         return false;
+    }
     if (!Succeeded(result))
         Fail();
     return true;
@@ -139,11 +163,15 @@ bool TOdbcRows::Next()
 
 void TOdbcRows::Fail()
 {
-    engine_.FailStatement(statement_.Get(), text_);
+    const QScopeGuard close([this] { Close(); });
+    engine_->FailStatement(statement_.Get(), text_);
 }
 
 const QVariant& TOdbcRows::Read(int column)
 {
+    static const QVariant nothing;
+    if (engine_ == nullptr)
+        return nothing;
     while (values_.size() <= column)
         values_.append(ReadColumn(static_cast<int>(values_.size())));
     return values_.at(column);

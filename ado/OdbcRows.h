@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Engine.h"
 #include "OdbcHandles.h"
+#include "OpenRows.h"
 
 class TOdbcEngine;
 
 /// The rows of one ODBC statement. Drivers deliver the columns of a row from left to right and each only
 /// once, so what is read is kept until the next row.
-class TOdbcRows : public IEngineRows
+class TOdbcRows final : public IOpenRows
 {
 public:
     TOdbcRows(TOdbcEngine& engine, TOdbcStatement statement, QString text);
@@ -26,6 +26,7 @@ public:
     QByteArray Blob(int column) override;
     QVariant Value(int column) override;
     qint64 AffectedRows() override { return affectedRows_; }
+    void ConnectionCloses() override;
 
 private:
     void DescribeColumns(SQLSMALLINT count);
@@ -37,11 +38,13 @@ private:
     QVariant ReadDate(SQLUSMALLINT number);
     template <typename TValue> QVariant ReadFixed(SQLUSMALLINT number, SQLSMALLINT type);
     [[noreturn]] void Fail();
+    void Close();
 
-    TOdbcEngine& engine_;
+    TOdbcEngine* engine_; ///< null once the rows are closed
     TOdbcStatement statement_;
     QString text_;
     QVector<TColumnInfo> columns_;
     QVector<QVariant> values_; ///< of the columns read so far in the current row
     qint64 affectedRows_ = -1;
+    bool cutOff_ = false; ///< the connection has been closed before the end
 };

@@ -17,6 +17,7 @@ void TSqliteEngine::Begin()
 {
     if (InTransaction())
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنش پیشین هنوز باز است."));
+    session_->OpenRows().RefuseWhileOpen({});
     // The write lock is taken now: a reader that turns writer later may be refused without a wait.
     session_->StatementStarts();
     try {
@@ -32,6 +33,7 @@ void TSqliteEngine::Commit()
 {
     if (!InTransaction())
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنشی باز نیست."));
+    session_->OpenRows().RefuseWhileOpen({});
     session_->RunNative("COMMIT");
 }
 

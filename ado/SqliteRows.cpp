@@ -4,26 +4,29 @@
 #include "SqliteValue.h"
 
 #include <limits>
+#include <utility>
 
 TSqliteRows::TSqliteRows(TSqliteSession& session, const QString& text, const QVariantList& parameters)
     : session_(&session), text_(text)
 {
+    session_->OpenRows().Take(this, text_);
     session_->StatementStarts();
+    running_ = true;
     try {
         statement_ = session_->Statements().Take(text_);
         handle_ = statement_->Handle;
         Start(parameters);
     } catch (...) {
-        Release();
+        Close();
         throw;
     }
-    if (session_ != nullptr)
-        session_->Attach(this);
+    if (columns_.isEmpty())
+        Close();
 }
 
 TSqliteRows::~TSqliteRows()
 {
-    Release();
+    Close();
 }
 
 void TSqliteRows::Start(const QVariantList& parameters)
@@ -62,24 +65,27 @@ bool TSqliteRows::Next()
         state_ = TState::Reading;
         return true;
     case TState::AtEnd:
+        Close();
         return false;
-    case TState::Closed:
-        throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("اتصال پیش از پایان خواندن بسته شد."),
-                        text_);
+    case TState::CutOff:
+        throw TOpenRows::CutOff(text_);
     }
     bool hasRow = false;
     try {
         hasRow = Step();
+        if (!hasRow)
+            Finish();
     } catch (const EADOError&) {
         state_ = TState::AtEnd;
-        Release();
+        Close();
         throw;
     }
     if (!hasRow)
-        Finish();
+        Close();
     return hasRow;
 }
 
+/// Nothing is left to read: SQLite's locks are let go without waiting for the caller to notice.
 void TSqliteRows::Finish()
 {
     sqlite3* database = session_->Handle();
@@ -89,24 +95,32 @@ void TSqliteRows::Finish()
     if (statement_->ChangesSchema)
         session_->SchemaChanged();
     state_ = TState::AtEnd;
-    Release();
+    GiveStatement();
 }
 
-void TSqliteRows::Release()
+void TSqliteRows::GiveStatement()
+{
+    if (statement_ != nullptr)
+        session_->Statements().Give(statement_);
+    statement_ = nullptr;
+    handle_ = nullptr;
+    if (std::exchange(running_, false))
+        session_->StatementEnds();
+}
+
+void TSqliteRows::Close()
 {
     if (session_ == nullptr)
         return;
-    session_->Detach(this);
-    if (statement_ != nullptr)
-        session_->Statements().Give(statement_);
-    session_->StatementEnds();
-    SessionCloses();
+    GiveStatement();
+    session_->OpenRows().Release(this);
+    session_ = nullptr;
 }
 
-void TSqliteRows::SessionCloses()
+void TSqliteRows::ConnectionCloses()
 {
     if (state_ != TState::AtEnd)
-        state_ = TState::Closed;
+        state_ = TState::CutOff;
     statement_ = nullptr;
     handle_ = nullptr;
     session_ = nullptr;

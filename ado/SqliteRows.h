@@ -5,7 +5,7 @@
 /// The rows of one statement. Its first row is read while it is made, so that errors arise there and the
 /// columns that are expressions get the type of their first value; a statement without rows has then run to
 /// its end.
-class TSqliteRows final : public IEngineRows
+class TSqliteRows final : public IOpenRows
 {
 public:
     TSqliteRows(TSqliteSession& session, const QString& text, const QVariantList& parameters);
@@ -21,19 +21,19 @@ public:
     QVariant Value(int column) override;
     qint64 AffectedRows() override { return affectedRows_; }
 
-    /// The connection closes: what has not been read is gone.
-    void SessionCloses();
+    void ConnectionCloses() override;
 
 private:
-    enum class TState { FirstRowWaits, Reading, AtEnd, Closed };
+    enum class TState { FirstRowWaits, Reading, AtEnd, CutOff };
 
     void Start(const QVariantList& parameters);
     bool Step();
     void Finish();
-    void Release();
+    void GiveStatement();
+    void Close();
     QVariant WholeNumber(int column, TFieldType type);
 
-    TSqliteSession* session_;
+    TSqliteSession* session_; ///< null once the rows are closed
     QString text_;
     TSqliteStatement* statement_ = nullptr;
     sqlite3_stmt* handle_ = nullptr; ///< null when released: SQLite then reads every column as NULL
@@ -41,4 +41,5 @@ private:
     qint64 affectedRows_ = 0;
     qint64 totalChangesBefore_ = 0;
     TState state_ = TState::FirstRowWaits;
+    bool running_ = false; ///< between StatementStarts() and StatementEnds()
 };

@@ -1,7 +1,6 @@
 #include "SqliteSession.h"
 
 #include "SqliteFunction.h"
-#include "SqliteRows.h"
 
 #include <algorithm>
 #include <array>
@@ -33,8 +32,7 @@ TSqliteSession::TSqliteSession(sqlite3* handle, int busyTimeout)
 
 TSqliteSession::~TSqliteSession()
 {
-    for (TSqliteRows* rows : openRows_)
-        rows->SessionCloses();
+    openRows_.ConnectionCloses();
     statements_.Clear();
     nativeStatements_.Clear();
     sqlite3_close_v2(handle_);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Engine.h"
+#include "OpenRows.h"
 #include "SqliteError.h"
 #include "SqliteSchema.h"
 #include "SqliteStatementCache.h"
@@ -8,8 +8,6 @@
 #include <atomic>
 #include <mutex>
 #include <QElapsedTimer>
-
-class TSqliteRows;
 
 /// What the engine, its rows and its functions share: the handle, the statements, the abandoning of
 /// statements.
@@ -33,9 +31,7 @@ public:
     /// From any thread.
     void RequestCancel();
 
-    /// Rows under way are told when the connection closes before them.
-    void Attach(TSqliteRows* rows) { openRows_.push_back(rows); }
-    void Detach(TSqliteRows* rows) { std::erase(openRows_, rows); }
+    TOpenRows& OpenRows() { return openRows_; }
 
     /// Tables or columns are others than before: translations made for the old ones are forgotten.
     void SchemaChanged();
@@ -59,7 +55,7 @@ private:
     QElapsedTimer busyTime_;
     TSqliteStatementCache statements_;
     TSqliteStatementCache nativeStatements_;
-    std::vector<TSqliteRows*> openRows_;
+    TOpenRows openRows_;
     Dialect::TSqliteSchema schema_;
     qint64 schemaVersion_ = -1;
 

@@ -1,6 +1,6 @@
+#include "OdbcEngine.h"
 #include "AdoError.h"
 #include "Engine.h"
-#include "OdbcEngine.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -25,7 +25,6 @@ private Q_SLOTS:
     void aStatementThatWritesNoRowSucceeds();
     void aStatementTellsTheRowsItWrote();
     void columnsMayBeReadInAnyOrderAndTwice();
-    void onlyOneStatementIsOpenAtATime();
     void anUnfinishedReadIsClosedWithItsRows();
     void aFailedStatementLeavesTheConnectionUsable();
     void anErrorCarriesTheServersWordsAndTheStatement();
@@ -193,13 +192,6 @@ void OdbcEngineTest::columnsMayBeReadInAnyOrderAndTwice()
     QCOMPARE(rows->Int64(0), 1);
     QCOMPARE(rows->Text(1), QStringLiteral("دو"));
     QVERIFY(!rows->Next());
-}
-
-void OdbcEngineTest::onlyOneStatementIsOpenAtATime()
-{
-    const auto open = engine_->Execute(QStringLiteral("select 1"), {});
-    QCOMPARE(KindThrownBy([this] { Run(QStringLiteral("select 2")); }), TAdoErrorKind::WrongState);
-    QVERIFY(open->Next());
 }
 
 void OdbcEngineTest::anUnfinishedReadIsClosedWithItsRows()

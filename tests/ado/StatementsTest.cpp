@@ -12,7 +12,6 @@ private Q_SLOTS:
     void columnsReadAsNullBehindTheLastRow();
     void theRowsWrittenAreCounted();
     void aTextRunsAgainWithOtherValues();
-    void aTextInUseIsNotSharedWithASecondReader();
     void manyTextsAreKeptAndTheOldestLeave();
     void aSecondStatementInATextIsRefused_data();
     void aSecondStatementInATextIsRefused();
@@ -21,7 +20,6 @@ private Q_SLOTS:
     void anErrorCarriesTheStatementAndTheEnginesWords();
     void aConnectionWorksAfterAnError();
     void anUnfinishedReadIsClosedWithItsRows();
-    void rowsSurviveTheirConnection();
     void columnsAddedMeanwhileAreSeen();
     void aColumnThatAnotherUserAddsCanBeReckonedWith();
     void aFunctionAnswersWithinStatements();
@@ -99,17 +97,6 @@ void StatementsTest::aTextRunsAgainWithOtherValues()
     QCOMPARE(Column(text, {99}), QVariantList{});
     QCOMPARE(Column(text, {QVariant()}), QVariantList{});
     QCOMPARE(Column(text, {1}), QVariantList{QStringLiteral("مداد")});
-}
-
-void StatementsTest::aTextInUseIsNotSharedWithASecondReader()
-{
-    const QString text = QStringLiteral("SELECT Code FROM Goods ORDER BY Code");
-    const auto outer = engine_->Execute(text, {});
-    QVERIFY(outer->Next());
-    QCOMPARE(Column(text), (QVariantList{1, 2, 3}));
-    QCOMPARE(outer->Int64(0), 1);
-    QVERIFY(outer->Next());
-    QCOMPARE(outer->Int64(0), 2);
 }
 
 void StatementsTest::manyTextsAreKeptAndTheOldestLeave()
@@ -198,17 +185,6 @@ void StatementsTest::anUnfinishedReadIsClosedWithItsRows()
     QCOMPARE(ErrorOf([&] { other->Execute(write, {}); }).Kind(), TAdoErrorKind::Busy);
     rows.reset();
     QCOMPARE(other->Execute(write, {})->AffectedRows(), 1);
-}
-
-void StatementsTest::rowsSurviveTheirConnection()
-{
-    const auto rows = engine_->Execute(QStringLiteral("SELECT Code, Name FROM Goods"), {});
-    QVERIFY(rows->Next());
-    engine_.reset();
-    QCOMPARE(ErrorOf([&] { rows->Next(); }).Kind(), TAdoErrorKind::WrongState);
-    QVERIFY(rows->IsNull(0));
-    QVERIFY(!rows->Value(1).isValid());
-    QCOMPARE(rows->Columns().size(), 2);
 }
 
 void StatementsTest::columnsAddedMeanwhileAreSeen()
