@@ -3,6 +3,13 @@
 #include "AdoError.h"
 
 IEngineRows::~IEngineRows() = default;
+
+void IEngineRows::AppendText(int column, std::u16string& buffer)
+{
+    const QString text = Text(column);
+    buffer.append(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
+}
+
 IFunctionContext::~IFunctionContext() = default;
 IEngine::~IEngine() = default;
 

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QVariant>
 #include <QVector>
+#include <string>
 
 /// The rows of one executed statement, forward-only. One statement is open on a connection at a time: another
 /// one, and the beginning and the commit of a transaction, are refused (WrongState) from its execution until
@@ -30,6 +31,8 @@ public:
     virtual qint64 Int64(int column) = 0;
     virtual double Double(int column) = 0;
     virtual QString Text(int column) = 0;
+    /// Puts the text of a column, which is not NULL, behind what is in `buffer`: for callers that keep many.
+    virtual void AppendText(int column, std::u16string& buffer);
     virtual QByteArray Blob(int column) = 0;
     /// The value in the variant that the column's type asks for: bool, int, qint64, double, QString,
     /// QByteArray; an invalid variant for NULL.

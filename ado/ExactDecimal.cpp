@@ -49,10 +49,10 @@ bool IsDecimal(const QString& text)
     return digitSeen;
 }
 
-bool IsCanonicalDecimal(const QString& text)
+bool IsCanonicalDecimal(QStringView text)
 {
-    const QChar* next = text.constBegin();
-    const QChar* end = text.constEnd();
+    const QChar* next = text.begin();
+    const QChar* end = text.end();
     const bool negative = next != end && *next == u'-';
     if (negative)
         ++next;

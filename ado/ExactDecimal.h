@@ -13,4 +13,4 @@ ADO_EXPORT QString CanonicalDecimal(const QString& text);
 ADO_EXPORT bool IsDecimal(const QString& text);
 
 /// True for a decimal in its one spelling; quick, for what mostly is.
-ADO_EXPORT bool IsCanonicalDecimal(const QString& text);
+ADO_EXPORT bool IsCanonicalDecimal(QStringView text);

@@ -25,7 +25,8 @@ void TRowStore::Read(IEngineRows& rows)
 
 void TRowStore::Clear()
 {
-    columns_.clear();
+    // Not clear(), which would allocate a list anew beside the engine's shared one.
+    columns_ = {};
     rowCount_ = 0;
     // Small results come one after another; the memory of a large one is given back.
     if (cells_.capacity() > KeptCells || texts_.capacity() > KeptCharacters ||
@@ -47,24 +48,31 @@ void TRowStore::AppendCell(IEngineRows& rows, int column)
     case TFieldType::ftDateTime:
     case TFieldType::ftWideString:
     case TFieldType::ftWideMemo:
-        if (rows.IsNull(column))
-            cells_.emplace_back();
-        else
-            AppendText(rows.Text(column));
+        AppendColumnText(rows, column);
         break;
     default:
         AppendVariant(rows.Value(column));
     }
 }
 
-void TRowStore::AppendText(const QString& text)
+void TRowStore::AppendColumnText(IEngineRows& rows, int column)
+{
+    TCell& cell = cells_.emplace_back();
+    if (rows.IsNull(column))
+        return;
+    const std::size_t begin = texts_.size();
+    rows.AppendText(column, texts_);
+    cell = TextCell(begin);
+}
+
+/// For what has been put behind the texts.
+TRowStore::TCell TRowStore::TextCell(std::size_t begin) const
 {
     TCell cell;
     cell.Kind = TKind::Text;
-    cell.Length = static_cast<quint32>(text.size());
-    cell.Number = static_cast<qint64>(texts_.size());
-    texts_.append(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
-    cells_.push_back(cell);
+    cell.Length = static_cast<quint32>(texts_.size() - begin);
+    cell.Number = static_cast<qint64>(begin);
+    return cell;
 }
 
 void TRowStore::AppendNumber(TKind kind, qint64 number)
@@ -102,8 +110,12 @@ void TRowStore::AppendVariant(const QVariant& value)
         bytes_.append(blob.constData(), static_cast<std::size_t>(blob.size()));
         break;
     }
-    default:
-        AppendText(value.toString());
+    default: {
+        const QString text = value.toString();
+        const std::size_t begin = texts_.size();
+        texts_.append(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
+        cells_.push_back(TextCell(begin));
+    }
     }
 }
 

@@ -32,7 +32,8 @@ private:
     };
 
     void AppendCell(IEngineRows& rows, int column);
-    void AppendText(const QString& text);
+    void AppendColumnText(IEngineRows& rows, int column);
+    TCell TextCell(std::size_t begin) const;
     void AppendVariant(const QVariant& value);
     void AppendNumber(TKind kind, qint64 number);
 

@@ -144,10 +144,25 @@ double TSqliteRows::Double(int column)
 QString TSqliteRows::Text(int column)
 {
     QString text = SqliteColumnText(handle_, column);
-    const bool decimal = column < columns_.size() && columns_.at(column).Type == TFieldType::ftBCD;
-    if (decimal && !IsCanonicalDecimal(text))
+    if (IsDecimalColumn(column) && !IsCanonicalDecimal(text))
         return CanonicalDecimal(text);
     return text;
+}
+
+void TSqliteRows::AppendText(int column, std::u16string& buffer)
+{
+    const std::size_t before = buffer.size();
+    AppendSqliteColumnText(handle_, column, buffer);
+    if (!IsDecimalColumn(column) ||
+        IsCanonicalDecimal(QStringView(buffer).mid(static_cast<qsizetype>(before))))
+        return;
+    buffer.resize(before);
+    IEngineRows::AppendText(column, buffer);
+}
+
+bool TSqliteRows::IsDecimalColumn(int column) const
+{
+    return column < columns_.size() && columns_.at(column).Type == TFieldType::ftBCD;
 }
 
 QByteArray TSqliteRows::Blob(int column)

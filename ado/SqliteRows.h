@@ -17,6 +17,7 @@ public:
     qint64 Int64(int column) override;
     double Double(int column) override;
     QString Text(int column) override;
+    void AppendText(int column, std::u16string& buffer) override;
     QByteArray Blob(int column) override;
     QVariant Value(int column) override;
     qint64 AffectedRows() override { return affectedRows_; }
@@ -31,6 +32,7 @@ private:
     void Finish();
     void GiveStatement();
     void Close();
+    bool IsDecimalColumn(int column) const;
     QVariant WholeNumber(int column, TFieldType type);
 
     TSqliteSession* session_; ///< null once the rows are closed

@@ -69,6 +69,13 @@ QString SqliteColumnText(sqlite3_stmt* statement, int column)
     return TextOfUtf8(text, sqlite3_column_bytes(statement, column));
 }
 
+void AppendSqliteColumnText(sqlite3_stmt* statement, int column, std::u16string& buffer)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    if (text != nullptr)
+        AppendTextOfUtf8(text, sqlite3_column_bytes(statement, column), buffer);
+}
+
 QByteArray SqliteColumnBlob(sqlite3_stmt* statement, int column)
 {
     const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));

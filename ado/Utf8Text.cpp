@@ -100,6 +100,14 @@ private:
     char16_t* target_;
 };
 
+// The mark is converted to a character, and a character cut off at the end to a replacement.
+QString TextOfDamagedUtf8(const char* bytes, qsizetype count)
+{
+    using enum QStringConverter::Flag;
+    QStringDecoder decoder(QStringDecoder::Utf8, Stateless | ConvertInitialBom);
+    return decoder.decode(QByteArrayView(bytes, count));
+}
+
 } // namespace
 
 QString TextOfUtf8(const char* bytes, qsizetype count)
@@ -109,12 +117,22 @@ QString TextOfUtf8(const char* bytes, qsizetype count)
     QString text(count, Qt::Uninitialized);
     auto* begin = reinterpret_cast<char16_t*>(text.data());
     const char16_t* end = TDecoder(bytes, count, begin).Run();
-    if (end == nullptr) {
-        // The mark is converted to a character, and a character cut off at the end to a replacement.
-        using enum QStringConverter::Flag;
-        QStringDecoder decoder(QStringDecoder::Utf8, Stateless | ConvertInitialBom);
-        return decoder.decode(QByteArrayView(bytes, count));
-    }
+    if (end == nullptr)
+        return TextOfDamagedUtf8(bytes, count);
     text.resize(end - begin);
     return text;
+}
+
+void AppendTextOfUtf8(const char* bytes, qsizetype count, std::u16string& buffer)
+{
+    const std::size_t before = buffer.size();
+    buffer.resize(before + static_cast<std::size_t>(count));
+    const char16_t* end = TDecoder(bytes, count, buffer.data() + before).Run();
+    if (end != nullptr) {
+        buffer.resize(static_cast<std::size_t>(end - buffer.data()));
+        return;
+    }
+    const QString text = TextOfDamagedUtf8(bytes, count);
+    buffer.resize(before);
+    buffer.append(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
 }

@@ -2,6 +2,17 @@
 
 #include <QTest>
 
+namespace {
+
+QString ReadBehind(const QString& before, const QByteArray& bytes)
+{
+    std::u16string buffer = before.toStdU16String();
+    AppendTextOfUtf8(bytes.constData(), bytes.size(), buffer);
+    return QString::fromStdU16String(buffer);
+}
+
+} // namespace
+
 class Utf8TextTest : public QObject
 {
     Q_OBJECT
@@ -33,6 +44,7 @@ void Utf8TextTest::validTextIsReadToTheLetter()
     const QString read = TextOfUtf8(bytes.constData(), bytes.size());
     QCOMPARE(read, text);
     QVERIFY(!read.isNull());
+    QCOMPARE(ReadBehind(QStringLiteral("پیش"), bytes), QStringLiteral("پیش") + text);
 }
 
 void Utf8TextTest::everyCharacterIsRead()
@@ -67,6 +79,7 @@ void Utf8TextTest::whatIsNoUtf8IsReplaced()
     QVERIFY(text.startsWith(u'a'));
     QVERIFY(text.contains(QChar(QChar::ReplacementCharacter)));
     QCOMPARE(text.endsWith(u'z'), bytes.endsWith('z'));
+    QCOMPARE(ReadBehind(QStringLiteral("پیش"), bytes), QStringLiteral("پیش") + text);
     const QByteArray withMark = QByteArray("\xEF\xBB\xBF") + bytes;
     QVERIFY(TextOfUtf8(withMark.constData(), withMark.size()).startsWith(QChar(0xFEFF)));
 }
