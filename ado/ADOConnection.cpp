@@ -33,6 +33,7 @@ struct TADOConnection::TPrivate
     QString OpenedString; ///< as the engine got it
     TEngineOptions Options;
     std::vector<TRegisteredFunction> Functions;
+    TEngineFactory CreateEngine = OpenEngine;
     std::unique_ptr<IEngine> Engine;
     std::mutex EngineMutex; ///< between Cancel() of another thread and the engine's coming and going
     QString LostMessage;    ///< not empty once the connection has been found dead
@@ -78,10 +79,9 @@ TEngineOptions TADOConnection::Options() const
     return d->Options;
 }
 
-std::unique_ptr<IEngine> TADOConnection::CreateEngine(const QString& connectionString,
-                                                      const TEngineOptions& options)
+void TADOConnection::SetEngineFactory(TEngineFactory factory)
 {
-    return OpenEngine(connectionString, options);
+    d->CreateEngine = std::move(factory);
 }
 
 void TADOConnection::Open()
@@ -91,7 +91,7 @@ void TADOConnection::Open()
     if (d->Engine)
         return;
     d->OpenedString = NamedIfInMemory(d->ConnectionString);
-    std::unique_ptr<IEngine> engine = CreateEngine(d->OpenedString, d->Options);
+    std::unique_ptr<IEngine> engine = d->CreateEngine(d->OpenedString, d->Options);
     for (const TPrivate::TRegisteredFunction& function : d->Functions)
         engine->RegisterFunction(function.Name, function.ArgumentCount, function.Function);
     d->ExchangeEngine(std::move(engine));
@@ -115,8 +115,14 @@ bool TADOConnection::IsLost() const
 
 void TADOConnection::Reopen()
 {
+    const QString lostMessage = IsLost() ? d->LostWords() : QString();
     Close();
-    Open();
+    try {
+        Open();
+    } catch (const EADOError&) {
+        d->LostMessage = lostMessage;
+        throw;
+    }
 }
 
 IEngine& TADOConnection::LiveEngine(const QString& statement)
@@ -213,6 +219,7 @@ std::unique_ptr<TADOConnection> TADOConnection::Clone()
     clone->d->Options = d->Options;
     clone->d->Options.CreateMissing = false;
     clone->d->Functions = d->Functions;
+    clone->d->CreateEngine = d->CreateEngine;
     connect(clone.get(), &TADOConnection::willExecute, this, &TADOConnection::Announce);
     return clone;
 }

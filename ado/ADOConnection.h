@@ -28,13 +28,17 @@ public:
     QString ConnectionString() const;
     void SetOptions(const TEngineOptions& options);
     TEngineOptions Options() const;
+    /// Opens the engine in the place of OpenEngine(), for a host or a test with an engine of its own. Clones
+    /// have it too and call it in their threads. Takes effect at the next Open().
+    void SetEngineFactory(TEngineFactory factory);
 
     void Open();  ///< throws EADOError; an open connection stays as it is
     void Close(); ///< rolls back an open transaction
     bool Connected() const;
     /// True after an error has told that the connection is dead. Nothing is reopened or repeated by itself.
     bool IsLost() const;
-    void Reopen(); ///< Close() and Open(), on the user's word
+    /// Close() and Open(), on the user's word. A lost connection that cannot be opened stays a lost one.
+    void Reopen();
 
     /// Runs a statement and delivers its rows; raises OnWillExecute first.
     std::unique_ptr<IEngineRows> Run(const QString& text, const QVariantList& parameters = {});
@@ -62,11 +66,6 @@ Q_SIGNALS:
     void willExecute(const QString& text);
     /// The connection was found dead; `message` is the Persian sentence for the user.
     void connectionLost(const QString& message);
-
-protected:
-    /// Opens the engine; a test or a host with an engine of its own answers otherwise.
-    virtual std::unique_ptr<IEngine> CreateEngine(const QString& connectionString,
-                                                  const TEngineOptions& options);
 
 private:
     friend class TADOQuery; // reads rows to their end and tells what went wrong meanwhile

@@ -87,6 +87,9 @@ struct TEngineOptions
     int LoginTimeout = 15;      ///< seconds; ODBC only
 };
 
+using TEngineFactory =
+    std::function<std::unique_ptr<IEngine>(const QString& connectionString, const TEngineOptions& options)>;
+
 /// Opens the engine that the string's prefix names. Throws EADOError (CannotOpen, NotADatabase, Busy).
 ADO_EXPORT std::unique_ptr<IEngine> OpenEngine(const QString& connectionString,
                                                const TEngineOptions& options);

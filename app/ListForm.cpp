@@ -135,11 +135,7 @@ void TListForm::ConnectData()
     parts.Manager.Add(parts.Search->TarvaSearch_General);
     parts.Manager.SetDataSet(&parts.DataSet);
     connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, this, &TListForm::ShowCondition);
-    connect(&parts.DataSet, &TPagedDataSet::failed, this,
-            [](const QString& message, const QString& serverMessage) {
-                if (auto* application = qobject_cast<THostApplication*>(qApp))
-                    application->Report({message, serverMessage});
-            });
+    connect(&parts.DataSet, &TPagedDataSet::failed, this, &TListForm::ReportFailure);
 }
 
 void TListForm::ConnectKeys()

@@ -41,22 +41,29 @@ private:
 class TFragileConnection : public TADOConnection
 {
 public:
+    TFragileConnection()
+    {
+        SetEngineFactory([this](const QString&, const TEngineOptions&) { return MakeEngine(); });
+    }
+
     bool Gone = false;
+    bool Closed = false; ///< to new connections
     int Opened = 0;
 
     /// As rows under way see it, past the connection.
     void DieSilently() { engine_->Die(); }
 
-protected:
-    std::unique_ptr<IEngine> CreateEngine(const QString&, const TEngineOptions&) override
+private:
+    std::unique_ptr<IEngine> MakeEngine()
     {
+        if (Closed)
+            throw EADOError(TAdoErrorKind::CannotOpen, QStringLiteral("سرور پاسخ نمی‌دهد."));
         ++Opened;
         auto engine = std::make_unique<TFragileEngine>(&Gone);
         engine_ = engine.get();
         return engine;
     }
 
-private:
     TFragileEngine* engine_ = nullptr;
 };
 
@@ -84,6 +91,7 @@ private Q_SLOTS:
     void functionsStayOverReopeningAndCloning();
     void aLostConnectionIsToldOnceAndRepeatsNothing();
     void aLostConnectionComesBackOnTheUsersWord();
+    void aConnectionThatDoesNotComeBackStaysLost();
     void aReaderThatFindsTheConnectionDeadIsNoticedAtTheNextStatement();
     void anOrdinaryErrorLosesNothing();
 
@@ -315,6 +323,20 @@ void ConnectionTest::aLostConnectionComesBackOnTheUsersWord()
     QCOMPARE(fragile.Opened, 2);
     QVERIFY(fragile.Connected());
     QVERIFY(!fragile.IsLost());
+}
+
+void ConnectionTest::aConnectionThatDoesNotComeBackStaysLost()
+{
+    TFragileConnection fragile;
+    fragile.Open();
+    fragile.Gone = fragile.Closed = true;
+    QCOMPARE(ErrorOf([&] { fragile.Run(QStringLiteral("SELECT 1")); }).Kind(), TAdoErrorKind::ConnectionLost);
+    QCOMPARE(ErrorOf([&] { fragile.Reopen(); }).Kind(), TAdoErrorKind::CannotOpen);
+    QVERIFY(fragile.IsLost());
+    fragile.Gone = fragile.Closed = false;
+    QCOMPARE(ErrorOf([&] { fragile.Open(); }).Kind(), TAdoErrorKind::ConnectionLost);
+    fragile.Reopen();
+    QVERIFY(fragile.Connected());
 }
 
 void ConnectionTest::aReaderThatFindsTheConnectionDeadIsNoticedAtTheNextStatement()
