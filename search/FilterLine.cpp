@@ -58,9 +58,10 @@ void TFilterLine::FocusFields() const
 
 void TFilterLine::ShowReverse(const TSearchItem* item) const
 {
-    if (!item)
+    const bool shown = item && item->FilterType == TSearchFilterType::iftQuery;
+    const bool hidden = item && item->FilterType == TSearchFilterType::iftDataset;
+    if (!shown && !hidden)
         return;
-    const bool shown = item->FilterType == TSearchFilterType::iftQuery;
     Reverse->setVisible(shown);
     ReverseLabel->setVisible(shown);
 }

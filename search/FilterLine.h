@@ -29,6 +29,6 @@ struct BASEFRAME_EXPORT TFilterLine
     /// Gives the combo box the focus where it can take it.
     void FocusFields() const;
     /// Shows the "not" controls for an item whose condition goes into the statement, hides them for one that
-    /// narrows rows; null leaves them as they are.
+    /// narrows rows; another kind or null leaves them as they are.
     void ShowReverse(const TSearchItem* item) const;
 };

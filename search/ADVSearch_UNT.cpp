@@ -1,0 +1,66 @@
+#include "ADVSearch_UNT.h"
+
+#include "FilterLine.h"
+#include "SmartButton_TRV.h"
+#include "SmartCheckBox_TRV.h"
+#include "SmartLabel_TRV.h"
+#include "ui_ADVSearch_UNT.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QPainter>
+
+namespace {
+
+/// A magnifying glass.
+QIcon Glass(const QColor& color)
+{
+    constexpr int Side = 48;
+    QPixmap picture(Side, Side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 5, Qt::SolidLine, Qt::RoundCap));
+    painter.drawEllipse(QPoint(28, 20), 14, 14);
+    painter.drawLine(17, 31, 6, 42);
+    return QIcon(picture);
+}
+
+} // namespace
+
+TADVSearch_Fram::TADVSearch_Fram(QWidget* owner) : TFrame(owner)
+{
+    Ui::TADVSearch_Fram form;
+    form.setupUi(this);
+    ADVsearch_LBL = form.ADVsearch_LBL;
+    ADVSearch_CHK = form.ADVSearch_CHK;
+    ADVSearch_BTN = form.ADVSearch_BTN;
+    TFilterLine{ADVSearch_CHK, ADVsearch_LBL}.BindLabels();
+    ADVSearch_CHK->OnClick = [this](QObject* sender) { ADVSearch_CHKClick(sender); };
+    ADVSearch_BTN->OnClick = [this](QObject* sender) { ADVSearch_BTNClick(sender); };
+    ShowGlyph();
+    FormReady();
+}
+
+TADVSearch_Fram::~TADVSearch_Fram() = default;
+
+void TADVSearch_Fram::ADVSearch_BTNClick(QObject* /*Sender*/)
+{
+    ADVSearch_CHK->SetChecked(true);
+}
+
+void TADVSearch_Fram::ADVSearch_CHKClick(QObject* /*Sender*/)
+{
+}
+
+void TADVSearch_Fram::ShowGlyph()
+{
+    ADVSearch_BTN->setIcon(Glass(ADVSearch_BTN->palette().color(QPalette::ButtonText)));
+}
+
+void TADVSearch_Fram::changeEvent(QEvent* event)
+{
+    TFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && ADVSearch_BTN)
+        ShowGlyph();
+}
