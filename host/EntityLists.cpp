@@ -8,7 +8,7 @@
 
 namespace {
 
-using TKind = TGridColumn::TKind;
+using TColumnKind = TGridColumn::TKind;
 
 constexpr QLatin1String codeField("Code");
 constexpr QLatin1String activeField("Active");
@@ -28,7 +28,7 @@ TEntityList Plain(TSoftwarePart part, const QString& nameTitle = QStringLiteral(
     list.Title = table->Title;
     const QString name = table->Fields.section(u';', 0, 0);
     list.SoughtName = QStringLiteral("e.") + name;
-    list.Columns = {{codeField, QStringLiteral("e.Code"), QStringLiteral("کد"), 80, TKind::ckCode},
+    list.Columns = {{codeField, QStringLiteral("e.Code"), QStringLiteral("کد"), 80, TColumnKind::ckCode},
                     {name, list.SoughtName, nameTitle, 280}};
     list.Restrictable = QStringList{codeField};
     return list;
@@ -77,7 +77,7 @@ TEntityList Persons()
     return Grouped(With(Folded(Switched(Plain(TSoftwarePart::spPersonals))),
                         {{QStringLiteral("City"), QStringLiteral("e.City"), QStringLiteral("شهر"), 110},
                          {QStringLiteral("Phone"), QStringLiteral("e.Phone"), QStringLiteral("تلفن"), 120,
-                          TKind::ckCode}}),
+                          TColumnKind::ckCode}}),
                    QStringLiteral("PersonGroups"));
 }
 
@@ -87,12 +87,12 @@ TEntityList Goods()
         Grouped(With(Folded(Switched(Plain(TSoftwarePart::spGoods, QStringLiteral("نام کالا")))),
                      {{QStringLiteral("UnitName"), QStringLiteral("e.UnitName"), QStringLiteral("واحد"), 80},
                       {QStringLiteral("Stock"), QStringLiteral("e.Stock"), QStringLiteral("موجودی"), 100,
-                       TKind::ckNumber},
+                       TColumnKind::ckNumber},
                       {QStringLiteral("Price"), QStringLiteral("e.Price"), QStringLiteral("قیمت"), 120,
-                       TKind::ckMoney}}),
+                       TColumnKind::ckMoney}}),
                 QStringLiteral("KalaGroups")),
         {{QStringLiteral("Barcode"), QStringLiteral("e.Barcode"), QStringLiteral("بارکد"), 130,
-          TKind::ckCode}});
+          TColumnKind::ckCode}});
 }
 
 TEntityList BankAccounts()
@@ -101,7 +101,7 @@ TEntityList BankAccounts()
         Naming(With(Switched(Plain(TSoftwarePart::spBankAccounts, QStringLiteral("نام حساب"))),
                     {{QStringLiteral("Shobe"), QStringLiteral("e.Shobe"), QStringLiteral("شعبه"), 140},
                      {QStringLiteral("SH_H"), QStringLiteral("e.SH_H"), QStringLiteral("شماره حساب"), 150,
-                      TKind::ckCode}}),
+                      TColumnKind::ckCode}}),
                QStringLiteral("BankCode"), QStringLiteral("Banks"), QStringLiteral("Name"),
                {QStringLiteral("BankName"), {}, QStringLiteral("بانک"), 130});
     list.Restrictable.append(QStringLiteral("CurrCode"));
@@ -125,17 +125,17 @@ TEntityList Employees()
 {
     return Grouped(With(Switched(Plain(TSoftwarePart::spEmployees)),
                         {{QStringLiteral("NationalCode"), QStringLiteral("e.NationalCode"),
-                          QStringLiteral("کد ملی"), 120, TKind::ckCode}}),
+                          QStringLiteral("کد ملی"), 120, TColumnKind::ckCode}}),
                    QStringLiteral("EmployeeGroups"));
 }
 
 TEntityList Assets()
 {
-    return With(
-        Switched(Plain(TSoftwarePart::spAssets)),
-        {{QStringLiteral("PurchaseDate"), QStringLiteral("e.PurchaseDate"), QStringLiteral("تاریخ خرید"), 110,
-          TKind::ckDate},
-         {QStringLiteral("Value"), QStringLiteral("e.Value"), QStringLiteral("ارزش"), 130, TKind::ckMoney}});
+    return With(Switched(Plain(TSoftwarePart::spAssets)),
+                {{QStringLiteral("PurchaseDate"), QStringLiteral("e.PurchaseDate"),
+                  QStringLiteral("تاریخ خرید"), 110, TColumnKind::ckDate},
+                 {QStringLiteral("Value"), QStringLiteral("e.Value"), QStringLiteral("ارزش"), 130,
+                  TColumnKind::ckMoney}});
 }
 
 TEntityList InPlace(TSoftwarePart part, const QString& column, const QString& table, const QString& title)
@@ -220,7 +220,7 @@ QVector<TSearchItem> TEntityList::SearchItems() const
     QVector<TSearchItem> items{both};
     constexpr int afterName = 2;
     for (const TEntityColumn& column : Columns.mid(afterName)) {
-        if (column.Kind != TKind::ckText && column.Kind != TKind::ckCode)
+        if (column.Kind != TColumnKind::ckText && column.Kind != TColumnKind::ckCode)
             continue;
         TSearchItem item;
         item.Title = column.Title;

@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -42,13 +43,13 @@ QSize BoundToScreen(const QSize& size, const QWidget& widget)
     return size.boundedTo(room.expandedTo(widget.minimumSizeHint()));
 }
 
-bool IsEnter(const QKeyEvent& key)
+bool IsPickKey(const QKeyEvent& key)
 {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 /// Keys of the search edit that belong to the list.
-bool IsNavigation(const QKeyEvent& key)
+bool IsListKey(const QKeyEvent& key)
 {
     const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
     switch (key.key()) {
@@ -156,10 +157,16 @@ QWidget* TEntityPicker::NewFooter()
     auto* footer = new QWidget(this);
     auto* row = new QHBoxLayout(footer);
     row->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
-    row->setSpacing(Look::Margin);
-    parts_->Count = new TSmartLabel_TRV(footer);
-    parts_->Count->setFont(SmallFont());
-    row->addWidget(parts_->Count, 1);
+    row->setSpacing(Look::GroupGap);
+    const auto addLabel = [&](int stretch) {
+        auto* label = new TSmartLabel_TRV(footer);
+        label->setFont(SmallFont());
+        row->addWidget(label, stretch);
+        return label;
+    };
+    parts_->Count = addLabel(0);
+    addLabel(1)->SetCaption(QStringLiteral("%1 همین ردیف را برمی‌گزیند")
+                                .arg(PersianText::Isolated(QStringLiteral("Enter"))));
     const auto addButton = [&](TSmartButton_TRV::TButtonType type, const QString& caption) {
         auto* button = new TSmartButton_TRV(footer);
         button->setText(caption);
@@ -255,7 +262,7 @@ void TEntityPicker::SaveState() const
     settings_->SetValue(SettingKey(QStringLiteral("Size")), size());
 }
 
-void TEntityPicker::Open()
+void TEntityPicker::StartReading()
 {
     const std::optional<int>& current = choice_.Argument.CurrentCode;
     parts_->DataSet.OpenAt(current ? QVariant(*current) : QVariant());
@@ -285,7 +292,7 @@ void TEntityPicker::FinishSearch()
     if (pressed.empty())
         Pick();
     for (const auto& key : pressed) {
-        if (IsEnter(*key))
+        if (IsPickKey(*key))
             Pick();
         else
             Move(*key);
@@ -298,11 +305,11 @@ bool TEntityPicker::eventFilter(QObject* watched, QEvent* event)
         return QDialog::eventFilter(watched, event);
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const bool found = parts_->Search->Filter_is_done();
-    if (IsNavigation(key) && found) {
+    if (IsListKey(key) && found) {
         Move(key);
         return true;
     }
-    if (!found && (IsNavigation(key) || (IsEnter(key) && !pending_.empty()))) {
+    if (!found && (IsListKey(key) || (IsPickKey(key) && !pending_.empty()))) {
         pending_.emplace_back(key.clone());
         parts_->Search->SetRet_press(true);
         return true;
@@ -319,7 +326,7 @@ void TEntityPicker::Move(const QKeyEvent& key)
 
 void TEntityPicker::keyPressEvent(QKeyEvent* event)
 {
-    if (IsEnter(*event))
+    if (IsPickKey(*event))
         Pick();
     else
         QDialog::keyPressEvent(event);

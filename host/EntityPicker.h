@@ -36,7 +36,7 @@ public:
     ~TEntityPicker() override;
 
     /// Begins to read the rows. Throws EADOError where they cannot be read at all.
-    void Open();
+    void StartReading();
     /// The picked code; 0 as long as none is.
     int Code() const { return code_; }
 

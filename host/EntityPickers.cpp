@@ -15,15 +15,15 @@ QWidget* WindowBelow()
 }
 
 // An application without a handler of its own shows the error where the exception ends.
-bool Open(TEntityPicker& picker)
+bool StartOrReport(TEntityPicker& picker)
 {
     auto* application = qobject_cast<THostApplication*>(qApp);
     if (application == nullptr) {
-        picker.Open();
+        picker.StartReading();
         return true;
     }
     try {
-        picker.Open();
+        picker.StartReading();
         return true;
     } catch (const EADOError&) {
         application->Report(THostApplication::Describe(std::current_exception()));
@@ -44,7 +44,7 @@ int TEntityPickers::Select_Entity(TSoftwarePart part, const QString& argument, b
     // Not on the stack: the window below may be destroyed while the dialog is open, and the dialog with it.
     const QPointer<TEntityPicker> picker = new TEntityPicker(choice, *connection_, *settings_, WindowBelow());
     const auto destroy = qScopeGuard([&picker] { delete picker; });
-    if (!Open(*picker))
+    if (!StartOrReport(*picker))
         return 0;
     picker->exec();
     return picker ? picker->Code() : 0;
