@@ -21,9 +21,9 @@ constexpr QLatin1String layoutKey("Forms/Voucher/Layout");
 QVector<TGridColumn> Columns()
 {
     return {
-        {QStringLiteral("RowNo"), QStringLiteral("ردیف"), 50, TGridColumn::ckCode},
-        {QStringLiteral("Account"), QStringLiteral("کد حساب"), 180, TGridColumn::ckCode},
-        {QStringLiteral("AccountName"), QStringLiteral("نام حساب"), 300},
+        {QStringLiteral("RowNo"), QStringLiteral("ردیف"), 45, TGridColumn::ckCode},
+        {QStringLiteral("Account"), QStringLiteral("کد حساب"), 170, TGridColumn::ckCode},
+        {QStringLiteral("AccountName"), QStringLiteral("نام حساب"), 330},
         {QStringLiteral("Bed"), QStringLiteral("بدهکار"), 150, TGridColumn::ckMoney},
         {QStringLiteral("Bes"), QStringLiteral("بستانکار"), 150, TGridColumn::ckMoney},
         {QStringLiteral("Sharh"), QStringLiteral("شرح"), 180},
@@ -47,6 +47,8 @@ TVoucherForm::TVoucherForm(TReferenceHost& host, QWidget* parent)
     Lay();
     ConnectParts();
     ConnectKeys();
+    parts_->Head->SetCalendar(host_->Settings().SettingRecord().IsGregorian(),
+                              [host = host_] { return host->Clock().Today(); });
     ShowLines(0);
 }
 
@@ -96,7 +98,7 @@ void TVoucherForm::Lay()
     column->addWidget(parts.Band);
     column->addWidget(parts.Grid, 1);
     auto* footer = new QHBoxLayout;
-    footer->setContentsMargins(0, 0, Look::Margin, 0);
+    footer->setContentsMargins(Look::Margin, 0, 0, 0);
     footer->setSpacing(Look::Margin);
     footer->addWidget(parts.Totals, 1);
     const auto addButton = [this, footer](const QString& name, const QString& caption, auto action) {

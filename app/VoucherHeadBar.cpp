@@ -5,6 +5,7 @@
 #include "Look.h"
 #include "PersianText.h"
 #include "SmartComboBox_TRV.h"
+#include "SmartDateEdit_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 
@@ -16,7 +17,7 @@ namespace {
 constexpr int yearWidth = 170;
 constexpr int numberWidth = 90;
 constexpr int numberDigits = 9; // always fits the 32-bit number
-constexpr int dateWidth = 110;
+constexpr int dateWidth = 130;
 
 TSmartEdit_TRV* NewEdit(const QString& name, int maxLength, QWidget* parent)
 {
@@ -30,11 +31,12 @@ TSmartEdit_TRV* NewEdit(const QString& name, int maxLength, QWidget* parent)
 
 TVoucherHeadBar::TVoucherHeadBar(QWidget* parent)
     : QWidget(parent), year_(new TSmartComboBox_TRV(this)),
-      number_(NewEdit(QStringLiteral("Number_EDT"), numberDigits, this)),
-      date_(NewEdit(QStringLiteral("Date_EDT"), 10, this)),
+      number_(NewEdit(QStringLiteral("Number_EDT"), numberDigits, this)), date_(new TSmartDateEdit_TRV(this)),
       title_(NewEdit(QStringLiteral("Title_EDT"), TVoucherDraft::LongestTitle, this))
 {
     year_->setObjectName(QStringLiteral("Year_CMB"));
+    date_->setObjectName(QStringLiteral("Date_EDT"));
+    date_->SetCalendarButton(true);
     year_->OnChange = [this](QObject*) { Q_EMIT yearChosen(); };
     number_->OnKeyPress = [](QObject*, QChar& key) {
         if (key.isPrint() && !key.isDigit())
@@ -77,6 +79,14 @@ void TVoucherHeadBar::AddField(QHBoxLayout* row, const QString& caption, QWidget
         control->setFixedWidth(width);
     row->addWidget(label);
     row->addWidget(control, width > 0 ? 0 : 1);
+}
+
+void TVoucherHeadBar::SetCalendar(bool gregorian, std::function<QDate()> today)
+{
+    const auto type = gregorian ? TSmartDateEdit_TRV::ctGregorian : TSmartDateEdit_TRV::ctSolar;
+    date_->SetCalendarType(type);
+    date_->SetCalendarResultType(type);
+    date_->SetToday(std::move(today));
 }
 
 void TVoucherHeadBar::SetYears(const QVector<TFiscalYear>& years)
@@ -126,7 +136,9 @@ TVoucherHead TVoucherHeadBar::Head() const
     TVoucherHead head = head_;
     if (head.Id == 0)
         head.FiscalYear = Year() == nullptr ? 0 : Year()->Code;
-    head.Date = date_->Text();
+    // A day that does not exist goes on as it is typed, so that the check names it.
+    const QString date = date_->GetValue();
+    head.Date = date.isEmpty() ? date_->Text() : date;
     head.Title = title_->Text();
     return head;
 }
@@ -162,9 +174,13 @@ void TVoucherHeadBar::ShowFault(const TVoucherFault& fault)
         Balloon::Show(year_, fault.Message);
         return;
     }
-    TSmartEdit_TRV* control = fault.Field == TVoucherField::Date ? date_ : title_;
-    control->setFocus(Qt::OtherFocusReason);
-    control->ShowError(fault.Message);
+    if (fault.Field == TVoucherField::Date) {
+        date_->setFocus(Qt::OtherFocusReason);
+        date_->ShowError(fault.Message);
+        return;
+    }
+    title_->setFocus(Qt::OtherFocusReason);
+    title_->ShowError(fault.Message);
 }
 
 void TVoucherHeadBar::EnterNumber()

@@ -2,10 +2,13 @@
 
 #include "VoucherDraft.h"
 
+#include <functional>
+#include <QDate>
 #include <QWidget>
 
 class QHBoxLayout;
 class TSmartComboBox_TRV;
+class TSmartDateEdit_TRV;
 class TSmartEdit_TRV;
 
 /// The head of a voucher: fiscal year, number, date, title. A number that is typed asks for the voucher of
@@ -18,6 +21,8 @@ public:
     explicit TVoucherHeadBar(QWidget* parent = nullptr);
     ~TVoucherHeadBar() override;
 
+    /// The calendar in which dates are typed, and where today comes from.
+    void SetCalendar(bool gregorian, std::function<QDate()> today);
     /// The first one that is open is chosen.
     void SetYears(const QVector<TFiscalYear>& years);
     /// The chosen year; null where there is none.
@@ -36,7 +41,7 @@ public:
 
     TSmartComboBox_TRV& YearBox() { return *year_; }
     TSmartEdit_TRV& Number() { return *number_; }
-    TSmartEdit_TRV& Date() { return *date_; }
+    TSmartDateEdit_TRV& Date() { return *date_; }
     TSmartEdit_TRV& Title() { return *title_; }
 
 Q_SIGNALS:
@@ -54,6 +59,6 @@ private:
     TVoucherHead head_;
     TSmartComboBox_TRV* year_;
     TSmartEdit_TRV* number_;
-    TSmartEdit_TRV* date_;
+    TSmartDateEdit_TRV* date_;
     TSmartEdit_TRV* title_;
 };

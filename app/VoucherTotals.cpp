@@ -51,8 +51,11 @@ void TVoucherTotals::Show(const TVoucherDraft& draft)
     credit_->SetCaption(QStringLiteral("جمع بستانکار: ") + Amount(draft.CreditTotal()));
     const QString side =
         balance.ToString().startsWith(u'-') ? QStringLiteral(" بستانکار") : QStringLiteral(" بدهکار");
-    balance_->SetCaption(balanced_ ? QStringLiteral("تراز است")
-                                   : QStringLiteral("مانده: ") + Amount(balance) + side);
+    if (draft.Count() == 0)
+        balance_->Clear();
+    else
+        balance_->SetCaption(balanced_ ? QStringLiteral("تراز است")
+                                       : QStringLiteral("مانده: ") + Amount(balance) + side);
     Repaint();
 }
 

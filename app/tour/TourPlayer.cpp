@@ -10,7 +10,10 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPainter>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -114,6 +117,35 @@ void TTourPlayer::Click(QWidget* widget, const QPoint& position)
 {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, position);
     QTest::qWait(breath);
+}
+
+void TTourPlayer::WhenDialogOpens(std::function<void()> play)
+{
+    dialog_ = std::move(play);
+    PlayDialog();
+}
+
+void TTourPlayer::PlayDialog()
+{
+    if (!dialog_)
+        return;
+    if (QApplication::activeModalWidget() == nullptr) {
+        QTimer::singleShot(breath, window_, [this] { PlayDialog(); });
+        return;
+    }
+    // Once more round the loop, so that the dialog has been laid out.
+    QTimer::singleShot(breath, window_, [this, play = std::exchange(dialog_, {})] {
+        const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        play();
+        // The stroke that opened it would wait for ever.
+        if (!Check(dialog == nullptr || !dialog->isVisible(), QStringLiteral("پنجره بسته نشد")))
+            dialog->close();
+    });
+}
+
+void TTourPlayer::CheckDialogCame(const QString& what)
+{
+    Check(!std::exchange(dialog_, {}), what);
 }
 
 void TTourPlayer::Screenshot(const QString& name, bool numbered)

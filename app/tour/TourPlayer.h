@@ -39,6 +39,11 @@ public:
     /// A text of any script, one stroke for each character.
     void Type(const QString& text);
     void Click(QWidget* widget, const QPoint& position);
+    /// What to do with the dialog that the next stroke opens: it is played while the stroke still waits for
+    /// the dialog to be closed. The dialog must be closed by it.
+    void WhenDialogOpens(std::function<void()> play);
+    /// No dialog is awaited any more; one that has not come is a failed check.
+    void CheckDialogCame(const QString& what);
 
     /// Writes the window, with the dialogs and menus over it, as the next numbered PNG; an unnumbered one
     /// stands under its name alone.
@@ -47,10 +52,12 @@ public:
 private:
     QWidget* KeyReceiver() const;
     void Activate(QWidget* window) const;
+    void PlayDialog();
 
     TMainWindow* window_;
     QString folder_;
     QString step_;
     QStringList failures_;
     int pictures_ = 0;
+    std::function<void()> dialog_; ///< awaited
 };

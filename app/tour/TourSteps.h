@@ -17,4 +17,6 @@ QVector<TTourStep> GoodsListSteps();
 QVector<TTourStep> SearchSteps();
 QVector<TTourStep> SortingSteps();
 QVector<TTourStep> PersonsListSteps();
+QVector<TTourStep> VoucherSteps();
+QVector<TTourStep> DetailAccountSteps();
 QVector<TTourStep> WindowSteps();

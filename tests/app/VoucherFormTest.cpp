@@ -2,6 +2,7 @@
 
 #include "Select_AccountCode_UNT.h"
 #include "SmartComboBox_TRV.h"
+#include "SmartDateEdit_TRV.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "VoucherBand.h"
