@@ -140,7 +140,7 @@ void TRange_SelectEntity_Search_Frame::SelectEntity_CHKClick()
         criterion->SetActive(checked);
 }
 
-void TRange_SelectEntity_Search_Frame::SelectEntity_Reverst_CHKClick()
+void TRange_SelectEntity_Search_Frame::SelectEntity_Reverst_CHKClick() const
 {
     TarvaSearch_Range_SelectEntity->SetReverst(SelectEntity_Reverst_CHK->Checked());
 }

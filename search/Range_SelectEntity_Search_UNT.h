@@ -58,7 +58,7 @@ private:
 
     void SelectEntity_CHKClick();
     void SelectEntity_CMBChange();
-    void SelectEntity_Reverst_CHKClick();
+    void SelectEntity_Reverst_CHKClick() const;
     void TarvaSearch_Range_SelectEntityChangeItemIndex();
     void Code_EDTExit(const TBound& bound, QObject* sender);
     void Code_EDTPropertiesButtonClick(const TBound& bound, QObject* sender);

@@ -68,7 +68,7 @@ void TSelectEntity_Search_Frame::Enable(bool enabled) const
     TSelect_Entity_Frame1->Name_LBL->setEnabled(enabled);
 }
 
-void TSelectEntity_Search_Frame::SelectEntity_CMBPropertiesChange()
+void TSelectEntity_Search_Frame::SelectEntity_CMBPropertiesChange() const
 {
     TarvaSearch_SelectEntityCMB->SetItemIndex(SelectEntity_CMB->ItemIndex());
     TarvaSearch_SelectEntityEDT->SetItemIndex(SelectEntity_CMB->ItemIndex());
@@ -85,7 +85,7 @@ void TSelectEntity_Search_Frame::SelectEntity_CHKClick()
     TarvaSearch_SelectEntityEDT->SetActive(checked);
 }
 
-void TSelectEntity_Search_Frame::SelectEntity_Reverst_CHKClick()
+void TSelectEntity_Search_Frame::SelectEntity_Reverst_CHKClick() const
 {
     TarvaSearch_SelectEntityEDT->SetReverst(SelectEntity_Reverst_CHK->Checked());
 }
@@ -106,7 +106,7 @@ void TSelectEntity_Search_Frame::TSelect_Entity_Frame1Code_EDTPropertiesButtonCl
         TakeCode();
 }
 
-void TSelectEntity_Search_Frame::TakeCode()
+void TSelectEntity_Search_Frame::TakeCode() const
 {
     TarvaSearch_SelectEntityEDT->SetValue1(TSelect_Entity_Frame1->Code_EDT->Text());
 }

@@ -40,13 +40,13 @@ private:
     void BindHandlers();
 
     void SelectEntity_CHKClick();
-    void SelectEntity_CMBPropertiesChange();
-    void SelectEntity_Reverst_CHKClick();
+    void SelectEntity_CMBPropertiesChange() const;
+    void SelectEntity_Reverst_CHKClick() const;
     void TSelect_Entity_Frame1Code_EDTExit(QObject* sender);
     void TSelect_Entity_Frame1Code_EDTPropertiesButtonClick(QObject* sender);
 
     void Enable(bool enabled) const;
-    void TakeCode();
+    void TakeCode() const;
 
     TFilterLine line_;
 };

@@ -47,7 +47,8 @@ public:
     void Code_EDTPropertiesButtonClick(QObject* sender);
 
     /// When a code is accepted, when the box is left empty and when 0 is refused; not when an unknown code is
-    /// emptied. May destroy the frame.
+    /// emptied. May destroy the frame, but not the control that is about to get the focus: an owner who
+    /// closes the whole form here does it with deleteLater().
     TNotifyEvent OnCodeChanged;
     void SetOnCodeChanged(TNotifyEvent handler) { OnCodeChanged = std::move(handler); }
 
