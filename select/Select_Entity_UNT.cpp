@@ -110,6 +110,8 @@ void TSelect_Entity_Frame::CodeInfo(TEntityType entityType, const QString& code)
     const TEntitySelection& selection = EntitySelection(entityType);
     const QPointer<TSelect_Entity_Frame> guard(this);
     QVariant found;
+    // Before the lookup, so that an error in it leaves no other code's name behind.
+    Name_LBL->Clear();
     if (!selection.LookupFields.isEmpty())
         found = Host().CommonLibrary.LookupDBs(code, selection.LookupFields.toString(), selection.Locate,
                                                Code_EDT, PerLocateOptions::plAll);

@@ -417,6 +417,31 @@ private Q_SLOTS:
         QVERIFY(line.After->hasFocus());
     }
 
+    void theFrameMayBeDestroyedDuringItsLookup()
+    {
+        TEntityLine line;
+        line.KnowPerson(QStringLiteral("5"), QStringLiteral("رضایی"));
+        QVERIFY(line.Start());
+        const QPointer<TSelect_Entity_Frame> frame = line.Frame;
+        line.Host.CommonLibrary.WhileLookingUp = [frame] { delete frame; };
+        line.Enter(QStringLiteral("5"));
+        QVERIFY(!frame);
+        QVERIFY(line.Raised.isEmpty());
+    }
+
+    void anErrorOfTheLookupLeavesNoOtherName()
+    {
+        TEntityLine line;
+        line.KnowPerson(QStringLiteral("5"), QStringLiteral("رضایی"));
+        line.Frame->SetCodeValue(5);
+        line.Raised.clear();
+        line.Host.CommonLibrary.WhileLookingUp = [] { throw std::runtime_error("connection lost"); };
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, line.Frame->SetCodeValue(6));
+        QCOMPARE(line.Code(), QStringLiteral("6"));
+        QCOMPARE(line.Name(), QString());
+        QVERIFY(line.Raised.isEmpty());
+    }
+
     void theFrameMayBeDestroyedWhileACodeIsSet()
     {
         TEntityLine line;

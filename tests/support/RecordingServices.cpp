@@ -33,6 +33,8 @@ QVariant TRecordingCommonLibrary::LookupDBs(const QString& code, const QString& 
                                             PerLocateOptions persons)
 {
     log_.Note(QStringLiteral("LookupDBs"), code, fields, option, control, persons);
+    if (WhileLookingUp)
+        WhileLookingUp();
     const auto found = Lookups.find({option, code});
     return found == Lookups.end() ? QVariant() : found->second;
 }

@@ -55,6 +55,7 @@ public:
                                           TOperationType operation, bool showMessage) override;
 
     std::map<std::pair<LocateDBsOptions, QString>, QVariant> Lookups; ///< by option and code as typed
+    std::function<void()> WhileLookingUp;                             ///< runs before a lookup answers
     QStringList HeldByOthers;                                         ///< "part:code"
     QStringList Held;                                                 ///< "part:code" that this user holds
 
