@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ADOConnection.h"
+#include "DatabaseFile.h"
+
+#include <memory>
+#include <QTemporaryDir>
+#include <QVariant>
+
+/// A database file that several users open, and whose holds on codes can be made older than they are.
+class TSharedDatabase
+{
+public:
+    TSharedDatabase() { Connect(); }
+
+    QString ConnectionString() const
+    {
+        return QStringLiteral("sqlite:") + folder_.filePath(QStringLiteral("shared.db"));
+    }
+    QString File(const QString& name) const { return folder_.filePath(name); }
+
+    /// One more user of the file, which is made for the first one.
+    std::unique_ptr<TADOConnection> Connect() const
+    {
+        auto result = std::make_unique<TADOConnection>();
+        TDatabaseOptions options;
+        options.Size = TSampleSize::Small();
+        OpenDatabase(*result, ConnectionString(), options);
+        return result;
+    }
+
+    /// Moves the moments of all holds into the past, as if the time had gone by without a renewal.
+    static void LetPass(TADOConnection& connection, int seconds)
+    {
+        connection.Execute(QStringLiteral("UPDATE dbo.CodeLocks SET TakenAt = DATEADD(second, %1, TakenAt), "
+                                          "ExpiresAt = DATEADD(second, %1, ExpiresAt)")
+                               .arg(-seconds));
+    }
+
+    static QVariant Value(TADOConnection& connection, const QString& statement)
+    {
+        const std::unique_ptr<IEngineRows> rows = connection.Run(statement);
+        return rows->Next() ? rows->Value(0) : QVariant();
+    }
+
+private:
+    QTemporaryDir folder_;
+};
