@@ -64,7 +64,8 @@ void TSqliteSession::RequestCancel()
 
 int TSqliteSession::OnBusy(void* session, int count)
 {
-    static constexpr std::array<unsigned long, 8> Pauses{1, 2, 5, 10, 15, 20, 25, 50};
+    // Short to the end: who waits long must not be overtaken again and again by those who have just come.
+    static constexpr std::array<unsigned long, 3> Pauses{1, 2, 5};
     auto* self = static_cast<TSqliteSession*>(session);
     if (count == 0)
         self->busyTime_.start();
