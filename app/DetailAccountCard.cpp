@@ -104,7 +104,11 @@ void TDetailAccountCard::Lay()
     active_->setText(QStringLiteral("&فعال"));
     form->addRow(new QWidget(this), active_);
     column->addLayout(form);
-    column->addWidget(uniqueCode_);
+    auto* numberRow = new QHBoxLayout;
+    numberRow->setContentsMargins(Look::Margin, 0, Look::Margin,
+                                  0); // with the frame's own, those of the form
+    numberRow->addWidget(uniqueCode_);
+    column->addLayout(numberRow);
     column->addWidget(NewButtons());
     code_->SetMaxLength(codeDigits);
     code_->OnKeyPress = [](QObject*, QChar& key) {

@@ -137,6 +137,12 @@ void TVoucherBand::Clear()
     debit_->Clear();
     credit_->Clear();
     description_->Clear();
+    // Entered anew, a box takes the name of its level out of the way of the caret.
+    QWidget* focus = focusWidget();
+    if (focus != nullptr && focus->hasFocus() && selector_->isAncestorOf(focus)) {
+        description_->setFocus();
+        focus->setFocus();
+    }
 }
 
 bool TVoucherBand::IsEmpty() const

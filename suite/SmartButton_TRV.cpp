@@ -355,6 +355,8 @@ void TSmartButton_TRV::PaintArrow(QPainter& painter, const QStyleOptionButton& o
     painter.drawLine(divider, Inset, divider, height() - 1 - Inset);
     QStyleOption arrow(option);
     arrow.rect = part.adjusted(Inset, Inset, -Inset, -Inset);
+    // The style takes the colour of plain text, which is white on the band, where the button is not.
+    arrow.palette.setColor(QPalette::WindowText, option.palette.color(QPalette::ButtonText));
     style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
 }
 

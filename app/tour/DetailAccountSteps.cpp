@@ -52,6 +52,7 @@ void CreateAccount(TTourPlayer& player)
     if (!player.Check(form.Card() != nullptr, QStringLiteral("کارت حساب تازه باز نشد")))
         return;
     player.Check(form.Card()->UniqueCode().GetUniqueCodeValue() > 0, QStringLiteral("کد یکتا پیشنهاد نشد"));
+    player.Wait(200);
     player.Screenshot(QStringLiteral("detail-account-new"));
     player.Press(Qt::Key_F2);
     player.Check(form.Card() != nullptr && form.Card()->Name().HasError(),

@@ -47,6 +47,33 @@ void ShowAbout(TTourPlayer& player)
     player.Check(QApplication::activeModalWidget() == nullptr, QStringLiteral("دربارهٔ برنامه بسته نشد"));
 }
 
+void ShowForms(TTourPlayer& player, const QString& scheme)
+{
+    player.Press(Qt::Key_3, Qt::ControlModifier);
+    player.Screenshot(QStringLiteral("voucher-empty") + scheme);
+    player.Press(Qt::Key_F3);
+    player.Type(QStringLiteral("1"));
+    player.Press(Qt::Key_Return);
+    player.Screenshot(QStringLiteral("voucher-locked") + scheme);
+    player.Press(Qt::Key_N, Qt::ControlModifier);
+    player.Press(Qt::Key_Return);
+    player.Type(QStringLiteral("شرح"));
+    player.Press(Qt::Key_Return);
+    player.Type(QStringLiteral("104"));
+    player.Type(QStringLiteral("1"));
+    player.Press(Qt::Key_Return);
+    player.Press(Qt::Key_F2);
+    player.Screenshot(QStringLiteral("voucher-fault") + scheme);
+    player.Press(Qt::Key_Escape);
+    player.Press(Qt::Key_4, Qt::ControlModifier);
+    player.Wait(300);
+    player.Press(Qt::Key_N, Qt::ControlModifier);
+    player.Wait(200);
+    player.Screenshot(QStringLiteral("detail-account-new") + scheme);
+    player.Press(Qt::Key_Escape);
+    player.Press(Qt::Key_1, Qt::ControlModifier);
+}
+
 void TurnTheColoursRound(TTourPlayer& player)
 {
     const bool dark = Look::IsDark();
@@ -60,6 +87,7 @@ void TurnTheColoursRound(TTourPlayer& player)
     player.Wait(200);
     player.Screenshot(dark ? QStringLiteral("card-light") : QStringLiteral("card-dark"));
     player.Press(Qt::Key_Escape);
+    ShowForms(player, dark ? QStringLiteral("-light") : QStringLiteral("-dark"));
     ChooseFromMenu(player, dark ? QStringLiteral("SchemeDark") : QStringLiteral("SchemeLight"));
     player.Check(Look::IsDark() == dark, QStringLiteral("رنگ‌بندی دوباره برنگشت"));
 }

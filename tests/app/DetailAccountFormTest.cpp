@@ -1,5 +1,6 @@
 #include "FormFixture.h"
 
+#include "Balloon.h"
 #include "CodeLocks.h"
 #include "DetailAccountCard.h"
 #include "DetailAccountForm.h"
@@ -109,6 +110,7 @@ private Q_SLOTS:
         TDetailAccountCard* card = NewCard();
         Press(card, Qt::Key_F2);
         QVERIFY(card->Name().HasError());
+        QVERIFY(Balloon::ShownText().contains(QStringLiteral("نام")));
         Type(card, QStringLiteral("صندوق تازه"));
         card->Code().SetText(QStringLiteral("1"));
         Press(card, Qt::Key_F2);

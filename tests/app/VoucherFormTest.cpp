@@ -118,6 +118,19 @@ private Q_SLOTS:
         QCOMPARE(shop_->Focus(), selector.TotalCode_EDT);
     }
 
+    void afterSavingTheTotalBoxIsReadyForTheNextCode()
+    {
+        TypeVoucher(QStringLiteral("10"));
+        QVERIFY(form_->Band().Selector().TotalCode_EDT->hasFocus());
+        shop_->Press(Qt::Key_F2);
+        QVERIFY(form_->Band().Selector().TotalCode_EDT->hasFocus());
+        shop_->Type(QStringLiteral("10"));
+        QCOMPARE(form_->Band().Selector().TotalCode_EDT->Text(), QStringLiteral("10"));
+        shop_->Press(Qt::Key_Escape);
+        shop_->Type(QStringLiteral("1"));
+        QCOMPARE(form_->Band().Selector().TotalCode_EDT->Text(), QStringLiteral("1"));
+    }
+
     void aLineWithoutItsDetailIsRefusedAtTheDetailBox()
     {
         form_->Band().FocusTotal();
