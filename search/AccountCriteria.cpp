@@ -1,8 +1,5 @@
 #include "AccountCriteria.h"
 
-#include "Select_AccountCode_UNT.h"
-#include "SmartLabel_TRV.h"
-
 TTarvaSearch* AccountCriteria::Create(QObject* frame, const QString& name, TSearchType type,
                                       const QString& title, const QString& field)
 {
@@ -18,10 +15,4 @@ TTarvaSearch* AccountCriteria::Create(QObject* frame, const QString& name, TSear
     criterion->SearchItems.Add(item);
     criterion->SetItemIndex(0);
     return criterion;
-}
-
-void AccountCriteria::PutOnBand(const TSelect_AccountCode& selector)
-{
-    selector.Name_LBL->SetOnBand(true);
-    selector.Separator_LBL->SetOnBand(true);
 }

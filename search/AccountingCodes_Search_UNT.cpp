@@ -31,7 +31,6 @@ TAccountingCodes_Search_Frame::TAccountingCodes_Search_Frame(QWidget* owner) : T
     AccCodes_Reverst_CHK = form.AccCodes_Reverst_CHK;
     AccCodes_Reverst_LBL = form.AccCodes_Reverst_LBL;
     line_ = {AccCodes_CHK, AccCodes_Cap_LBL, nullptr, AccCodes_Reverst_CHK, AccCodes_Reverst_LBL};
-    AccountCriteria::PutOnBand(*Select_AccountCode1);
 
     const auto criterion = [this](const QString& name, const QString& title, const QString& field) {
         return AccountCriteria::Create(this, name, TSearchType::stGeneral, title, field);
@@ -91,7 +90,7 @@ bool TAccountingCodes_Search_Frame::GetActive() const
     return AccCodes_CHK->Checked();
 }
 
-void TAccountingCodes_Search_Frame::SetActive(bool active)
+void TAccountingCodes_Search_Frame::SetActive(bool active) const
 {
     AccCodes_CHK->SetChecked(active);
 }
@@ -161,7 +160,7 @@ void TAccountingCodes_Search_Frame::AccCodes_Reverst_CHKClick()
 
 // Without the selector's own exit, on purpose: a total to search for is neither padded nor named, and clears
 // nothing.
-void TAccountingCodes_Search_Frame::TotalCode_EDTExit()
+void TAccountingCodes_Search_Frame::TotalCode_EDTExit() const
 {
     Select_AccountCode1->RestorePlaceholder(TCodeItem::ctTotal);
     TarvaSearch_Total->SetValue1(Select_AccountCode1->GetTotalCode());

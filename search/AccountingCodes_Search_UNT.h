@@ -42,7 +42,7 @@ public:
     void SetCodeItemBits(int bits);
     /// Whether the filter is switched on.
     bool GetActive() const;
-    void SetActive(bool active);
+    void SetActive(bool active) const;
 
     // The value of a level's criterion, as a 64-bit integer; 0 for none.
     QVariant GetSearchTotalValue() const;
@@ -73,7 +73,7 @@ private:
 
     void AccCodes_CHKClick();
     void AccCodes_Reverst_CHKClick();
-    void TotalCode_EDTExit();
+    void TotalCode_EDTExit() const;
     void AssistantCode_EDTExit(QObject* sender);
     void DetailCode_EDTExit(QObject* sender);
     void ExpenseCenterCode_EDTExit(QObject* sender);

@@ -58,8 +58,6 @@ TRange_AccCodes_Search_Frame::TRange_AccCodes_Search_Frame(QWidget* owner) : TFr
     AccCodes_Reverst_CHK = form.AccCodes_Reverst_CHK;
     AccCodes_Reverst_LBL = form.AccCodes_Reverst_LBL;
     line_ = {AccCodes_CHK, AccCodes_Cap_LBL, nullptr, AccCodes_Reverst_CHK, AccCodes_Reverst_LBL};
-    AccountCriteria::PutOnBand(*Select_AccountCode1);
-    AccountCriteria::PutOnBand(*Select_AccountCode2);
 
     const auto criterion = [this](const QString& name, const QString& title, const QString& field) {
         return AccountCriteria::Create(this, name, TSearchType::stRangeDigit, title, field);

@@ -172,7 +172,7 @@ void TSelect_AccountCode::Pad(TSmartEdit_TRV* box)
         box->SetText(Host().Accounting.CompleteCode(text, box->MaxLength()));
 }
 
-void TSelect_AccountCode::AdaptDetailBox()
+void TSelect_AccountCode::AdaptDetailBox() const
 {
     const int length = TAccountChart::DetailLength(GetTotalDetailType());
     DetailCode_EDT->SetMaxLength(length);
@@ -189,7 +189,7 @@ bool TSelect_AccountCode::ShowName()
 }
 
 // The blanks and the letter behind them keep the text in its place where labels follow their last letter.
-void TSelect_AccountCode::ShowTitle(const QString& title)
+void TSelect_AccountCode::ShowTitle(const QString& title) const
 {
     constexpr int Blanks = 1000;
     const QString shown =

@@ -243,7 +243,7 @@ void TSelect_AccountCode::WriteText(TCodeItem level, const QString& text)
     box->SetText(text);
 }
 
-void TSelect_AccountCode::RestorePlaceholder(TCodeItem level)
+void TSelect_AccountCode::RestorePlaceholder(TCodeItem level) const
 {
     if (BoxOf(level)->Text().isEmpty())
         AccountCodeBox::ShowPlaceholder(*BoxOf(level), AccountCodeNames::OfLevel(level));
@@ -262,6 +262,17 @@ void TSelect_AccountCode::SetCodeItemBits(int bits)
 void TSelect_AccountCode::SetSingleForm(bool single)
 {
     FSingleForm = single;
+}
+
+bool TSelect_AccountCode::OnBand() const
+{
+    return Name_LBL->OnBand();
+}
+
+void TSelect_AccountCode::SetOnBand(bool on) const
+{
+    Name_LBL->SetOnBand(on);
+    Separator_LBL->SetOnBand(on);
 }
 
 void TSelect_AccountCode::SetDisableOnChange(bool disable)
@@ -313,7 +324,7 @@ void TSelect_AccountCode::Code_EDTKeyPress(QObject* sender, QChar& key)
     key = QChar::Null;
 }
 
-void TSelect_AccountCode::Code_EDTChange(QObject* sender)
+void TSelect_AccountCode::Code_EDTChange(QObject* sender) const
 {
     const auto* const box = qobject_cast<TSmartEdit_TRV*>(sender);
     if (!box || !advances_)
@@ -325,7 +336,7 @@ void TSelect_AccountCode::Code_EDTChange(QObject* sender)
 }
 
 // Only the press is sent, and wherever the focus is: intended, the application's forms count on it.
-void TSelect_AccountCode::ExpenseCenterCode_EDTPropertiesChange()
+void TSelect_AccountCode::ExpenseCenterCode_EDTPropertiesChange() const
 {
     const QString text = ExpenseCenterCode_EDT->Text();
     const int length = ExpenseCenterCode_EDT->MaxLength();

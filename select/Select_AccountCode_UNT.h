@@ -26,6 +26,7 @@ class BASEFRAME_EXPORT TSelect_AccountCode : public TFrame
     /// The set as bits, for forms.
     Q_PROPERTY(int CodeItem READ CodeItemBits WRITE SetCodeItemBits)
     Q_PROPERTY(bool SingleForm READ SingleForm WRITE SetSingleForm)
+    Q_PROPERTY(bool OnBand READ OnBand WRITE SetOnBand)
     Q_PROPERTY(bool DisableOnChange READ DisableOnChange WRITE SetDisableOnChange)
 
 public:
@@ -74,6 +75,9 @@ public:
     /// False: the host's picker on several levels; true: one picker per level.
     bool SingleForm() const { return FSingleForm; }
     void SetSingleForm(bool single);
+    /// Whether the line stands on the dark band and its labels have the band's text colour.
+    bool OnBand() const;
+    void SetOnBand(bool on) const;
     bool DisableOnChange() const { return FDisableOnChange; } ///< kept for the owner; the frame ignores it
     void SetDisableOnChange(bool disable);
     TPropertiesItems SelectCodeProperties() const { return FSelectCodeProperties; }
@@ -96,7 +100,7 @@ public:
     /// Writes a text into a box as it is; no exit runs.
     void WriteText(TCodeItem level, const QString& text);
     /// Shows the level's name where the box is empty.
-    void RestorePlaceholder(TCodeItem level);
+    void RestorePlaceholder(TCodeItem level) const;
     void RunExit(TCodeItem level, QObject* sender);
 
     // The handlers of the controls, for owners that put their own in front of them.
@@ -143,8 +147,8 @@ private:
     void BindHandlers();
     void PlaceExpenseCenter();
 
-    void Code_EDTChange(QObject* sender);
-    void ExpenseCenterCode_EDTPropertiesChange();
+    void Code_EDTChange(QObject* sender) const;
+    void ExpenseCenterCode_EDTPropertiesChange() const;
     void Code_EDTEnter(TCodeItem level);
     void Code_EDTPaste(QObject* sender, QString& text);
     void TotalCode_EDTEditValueChange();
@@ -154,9 +158,9 @@ private:
     void WriteCode(TCodeItem level, int code);
     void ClearBelow(std::initializer_list<TCodeItem> levels);
     void Pad(TSmartEdit_TRV* box);
-    void AdaptDetailBox();
+    void AdaptDetailBox() const;
     bool ShowName();
-    void ShowTitle(const QString& title);
+    void ShowTitle(const QString& title) const;
     void RefreshExpenseCenter();
     void ReportUnknown(QStringView subject, TSmartEdit_TRV* box);
     void FocusBack(TSmartEdit_TRV* box) const;

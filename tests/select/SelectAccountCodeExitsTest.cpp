@@ -1,7 +1,9 @@
 #include "AccountLine.h"
 #include "TestCase.h"
 
+#include <QDialog>
 #include <QSignalSpy>
+#include <QTimer>
 
 namespace {
 
@@ -173,6 +175,58 @@ private Q_SLOTS:
         QCOMPARE(line.Box(L::D)->Text(), QStringLiteral("000009"));
         QVERIFY(line.Box(L::D)->hasFocus());
         QVERIFY(line.Tables.Statements.isEmpty()); // the expense center is not shown anew
+    }
+
+    void aModalMessageIsShownOnceAndTheFocusComesBack_data()
+    {
+        QTest::addColumn<TCodeItem>("level");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("total") << L::T << "005";
+        QTest::newRow("assistant") << L::A << "005";
+        QTest::newRow("detail") << L::D << "000005";
+        QTest::newRow("expense center") << L::E << "0005";
+    }
+    void aModalMessageIsShownOnceAndTheFocusComesBack()
+    {
+        QFETCH(TCodeItem, level);
+        QFETCH(QString, text);
+        TAccountLine line;
+        line.Frame->SetTotalCode(7);
+        line.Frame->SetAssistantCode(2);
+        line.Frame->SetDetailCode(11);
+        line.Host.Messages.WhileShown = [&line](QWidget* control) {
+            QDialog box(line.Form.get());
+            QTimer::singleShot(30, &box, &QDialog::accept);
+            box.exec();
+            control->setFocus();
+        };
+        QVERIFY(line.Start(level));
+        Typing::Type(line.Box(level), QStringLiteral("5"));
+        line.Leave();
+        QTest::qWait(50);
+        line.Form->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(line.Form.get()));
+        QCOMPARE(line.Messages().size(), 1);
+        QCOMPARE(line.Box(level)->Text(), text);
+        QVERIFY(line.Box(level)->hasFocus());
+    }
+
+    void theFormMayBeClosedWhileTheMessageIsOpen_data()
+    {
+        aModalMessageIsShownOnceAndTheFocusComesBack_data();
+    }
+    void theFormMayBeClosedWhileTheMessageIsOpen()
+    {
+        QFETCH(TCodeItem, level);
+        TAccountLine line;
+        line.Frame->SetTotalCode(7);
+        line.Frame->SetAssistantCode(2);
+        QVERIFY(line.Start(level));
+        const QPointer<TSelect_AccountCode> frame(line.Frame);
+        line.Host.Messages.WhileShown = [frame](QWidget*) { delete frame.data(); };
+        line.Box(level)->SetText(QStringLiteral("5"));
+        frame->RunExit(level, nullptr);
+        QVERIFY(frame.isNull());
     }
 
     void aDetailTellsItsExitWithoutTyping()
@@ -384,19 +438,7 @@ private Q_SLOTS:
         const QPointer<TSelect_AccountCode> frame(line.Frame);
         line.Frame->OnChange = [frame](QObject*) { delete frame.data(); };
         Typing::Type(line.Box(level), QStringLiteral("42"));
-        switch (level) {
-        case L::T:
-            frame->TotalCode_EDTExit(nullptr);
-            break;
-        case L::A:
-            frame->AssistantCode_EDTExit(nullptr);
-            break;
-        case L::D:
-            frame->DetailCode_EDTExit(nullptr);
-            break;
-        case L::E:
-            frame->ExpenseCenterCode_EDTExit(nullptr);
-        }
+        frame->RunExit(level, nullptr);
         QVERIFY(frame.isNull());
     }
 

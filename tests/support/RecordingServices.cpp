@@ -200,6 +200,8 @@ int TRecordingLibraries::Run_DLL_FuncReturnInt(const QString& library, const QSt
 void TRecordingMessages::MsgCodeNotAvailable(const QString& subject, QWidget* control, QWidget* form)
 {
     log_.Note(QStringLiteral("MsgCodeNotAvailable"), subject, control, form);
+    if (WhileShown)
+        WhileShown(control);
 }
 
 void TRecordingMessages::MsgNotSelected(const QString& subject, QWidget* control, QWidget* form)

@@ -150,6 +150,7 @@ public:
     void ShowMessage(const QString& text) override;
 
     TMessageResult Answer = TMessageResult::mrNo;
+    std::function<void(QWidget* control)> WhileShown; ///< runs while MsgCodeNotAvailable is "open"
     TTooltip LastTooltip;
 
 private:
