@@ -2,6 +2,8 @@
 #include "HostTestMain.h"
 #include "PickerFixture.h"
 
+#include <QScrollBar>
+
 /// Every kind, and a list of a hundred thousand rows.
 class EntityPickerKindsTest : public QObject
 {

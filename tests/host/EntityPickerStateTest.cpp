@@ -6,31 +6,21 @@
 
 namespace {
 
-/// A connection that is open and turns out to be dead.
-class TDeadConnection : public TADOConnection
+/// An engine whose server has gone.
+class TDeadEngine : public IEngine
 {
-protected:
-    std::unique_ptr<IEngine> CreateEngine(const QString&, const TEngineOptions&) override
+public:
+    std::unique_ptr<IEngineRows> Execute(const QString&, const QVariantList&) override
     {
-        return std::make_unique<TDeadEngine>();
+        throw EADOError(TAdoErrorKind::ConnectionLost, QStringLiteral("ارتباط با سرور قطع شد."));
     }
-
-private:
-    class TDeadEngine : public IEngine
-    {
-    public:
-        std::unique_ptr<IEngineRows> Execute(const QString&, const QVariantList&) override
-        {
-            throw EADOError(TAdoErrorKind::ConnectionLost, QStringLiteral("ارتباط با سرور قطع شد."));
-        }
-        void Begin() override {}
-        void Commit() override {}
-        void Rollback() override {}
-        bool InTransaction() const override { return false; }
-        void Cancel() override {}
-        bool IsDead() const override { return true; }
-        void RegisterFunction(const QString&, int, TDatabaseFunction) override {}
-    };
+    void Begin() override {}
+    void Commit() override {}
+    void Rollback() override {}
+    bool InTransaction() const override { return false; }
+    void Cancel() override {}
+    bool IsDead() const override { return true; }
+    void RegisterFunction(const QString&, int, TDatabaseFunction) override {}
 };
 
 /// The errors that the user is told.
@@ -191,8 +181,10 @@ private Q_SLOTS:
     void aLostConnectionIsToldAndAnswersZero()
     {
         TReports reports;
-        TDeadConnection connection;
+        TADOConnection connection;
         connection.SetConnectionString(QStringLiteral("sqlite::memory:"));
+        connection.SetEngineFactory(
+            [](const QString&, const TEngineOptions&) { return std::make_unique<TDeadEngine>(); });
         connection.Open();
         TEntityPickers pickers(connection, shop_->Settings);
         QCOMPARE(pickers.Select_Entity(TSoftwarePart::spGoods, {}, false), 0);
