@@ -76,9 +76,11 @@ void TTarvaSearch::SetItemIndex(int index)
     if (itemIndex_ == index)
         return;
     itemIndex_ = index;
+    const QPointer<TTarvaSearch> alive(this);
     Q_EMIT itemIndexChanged(index);
-    if (OnChangeItemIndex)
-        OnChangeItemIndex(this);
+    // A listener may have destroyed the criterion; the handler may replace itself.
+    if (const TNotifyEvent running = alive ? OnChangeItemIndex : nullptr)
+        running(this);
 }
 
 const TSearchItem* TTarvaSearch::CurrentItem() const
@@ -86,14 +88,20 @@ const TSearchItem* TTarvaSearch::CurrentItem() const
     return itemIndex_ >= 0 && itemIndex_ < SearchItems.Count() ? &SearchItems.GetItem(itemIndex_) : nullptr;
 }
 
+void TTarvaSearch::RaiseChange()
+{
+    const QPointer<TTarvaSearch> alive(this);
+    Q_EMIT changed();
+    if (const TNotifyEvent running = alive ? OnChange : nullptr)
+        running(this);
+}
+
 void TTarvaSearch::SetValue1(const QVariant& value)
 {
     if (SameValue(value1_, value))
         return;
     value1_ = value;
-    Q_EMIT changed();
-    if (OnChange)
-        OnChange(this);
+    RaiseChange();
 }
 
 void TTarvaSearch::SetValue2(const QVariant& value)
@@ -101,9 +109,7 @@ void TTarvaSearch::SetValue2(const QVariant& value)
     if (SameValue(value2_, value))
         return;
     value2_ = value;
-    Q_EMIT changed();
-    if (OnChange)
-        OnChange(this);
+    RaiseChange();
 }
 
 int TTarvaSearch::GetValue1AsInt() const

@@ -112,6 +112,8 @@ Q_SIGNALS:
     void itemIndexChanged(int index);
 
 private:
+    void RaiseChange();
+
     bool active_ = false;
     bool reverst_ = false;
     bool zeroValueIgnore_ = true;
