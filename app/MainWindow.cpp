@@ -276,7 +276,11 @@ void TMainWindow::closeEvent(QCloseEvent* event)
 {
     for (qsizetype place = 0; place < pages_.size(); ++place) {
         TPage* page = pages_.at(place);
-        if (page != nullptr && !page->MayClose()) {
+        if (page == nullptr || !page->HasUnsaved())
+            continue;
+        // The question is about what the user sees.
+        OpenPageAt(place);
+        if (!page->MayClose()) {
             event->ignore();
             return;
         }

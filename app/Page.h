@@ -27,7 +27,9 @@ public:
 
     /// The page has come to the front: reads what it has not read yet and puts the caret where work goes on.
     virtual void Enter() = 0;
-    /// The window wants to close. False keeps it open; the user has been asked.
+    /// What the user has typed is not all saved.
+    virtual bool HasUnsaved() const { return false; }
+    /// The window wants to close, and not all is saved. False keeps it open; the user has been asked.
     virtual bool MayClose() { return true; }
     /// Writes sizes, orders and the like into the host's settings.
     virtual void SaveState() const {}

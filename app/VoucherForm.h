@@ -23,6 +23,7 @@ public:
     ~TVoucherForm() override;
 
     void Enter() override;
+    bool HasUnsaved() const override { return IsChanged(); }
     bool MayClose() override { return MayDiscard(); }
     void SaveState() const override;
     void Reconnect() override { Enter(); }

@@ -5,11 +5,13 @@
 #include "DetailAccountCard.h"
 #include "DetailAccountForm.h"
 #include "DetailUniqueCode_UNT.h"
+#include "General_Search_UNT.h"
 #include "ListForm.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartComboBox_TRV.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
+#include "TarvaSearchManager.h"
 
 class DetailAccountFormTest : public QObject
 {
@@ -39,6 +41,25 @@ private Q_SLOTS:
         QVERIFY(form_->List().DataSet().WaitForFirstPage());
         QTRY_COMPARE(form_->List().DataSet().RecordCount(), CountOf(4));
         QCOMPARE(form_->KindBox().Count(), 8);
+    }
+
+    void theListIsSearchedWithinTheKind()
+    {
+        form_->ChooseKind(4);
+        QVERIFY(form_->List().DataSet().WaitForFirstPage());
+        form_->List().FocusSearchEdit();
+        shop_->Type(QStringLiteral("ملزومات ادا"));
+        QTRY_VERIFY(form_->List().SearchFrame().Filter_is_done());
+        form_->List().SearchFrame().Refrenc_SearchManager->Flush();
+        QVERIFY(form_->List().DataSet().WaitForFirstPage());
+        QTRY_COMPARE(form_->List().DataSet().RecordCount(), 1);
+        form_->ChooseKind(1);
+        QVERIFY(form_->List().DataSet().WaitForFirstPage());
+        QTRY_COMPARE(form_->List().DataSet().RecordCount(), 0);
+        shop_->Press(Qt::Key_Escape);
+        form_->List().SearchFrame().Refrenc_SearchManager->Flush();
+        QVERIFY(form_->List().DataSet().WaitForFirstPage());
+        QTRY_COMPARE(form_->List().DataSet().RecordCount(), CountOf(1));
     }
 
     void anAccountIsCreatedByKeysWithItsUniqueCode()
