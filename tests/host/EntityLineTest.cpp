@@ -68,13 +68,11 @@ private Q_SLOTS:
         TForm form(TEntityType::etGoods);
         form.Frame.OtherParams = QStringLiteral("GroupCode=1,2");
         form.Frame.Code_EDT->SetSelectParams(QStringLiteral("GroupCode=2,3"));
-        const auto row = shop_->Connection.Run(
-            QStringLiteral("SELECT COUNT(*) FROM dbo.kala WHERE GroupCode = 2 AND Active = 1"));
-        QVERIFY(row->Next());
-        const qint64 expected = row->Int64(0);
+        const int expected =
+            shop_->Number(QStringLiteral("SELECT COUNT(*) FROM dbo.kala WHERE GroupCode = 2 AND Active = 1"));
         form.Pick([expected](TEntityPicker& picker) {
             QVERIFY(expected > 0);
-            QCOMPARE(qint64(picker.DataSet().RecordCount()), expected);
+            QCOMPARE(picker.DataSet().RecordCount(), expected);
         });
         QCOMPARE(shop_->Played, 1);
     }
@@ -112,9 +110,8 @@ private:
     static int LastCode(int part, const QString& table)
     {
         const bool active = EntityLists::Of(static_cast<TSoftwarePart>(part)).HasActive();
-        const auto row = shop_->Connection.Run(QStringLiteral("SELECT MAX(Code) FROM ") + table +
-                                               (active ? QStringLiteral(" WHERE Active = 1") : QString()));
-        return row->Next() ? static_cast<int>(row->Int64(0)) : -1;
+        return shop_->Number(QStringLiteral("SELECT MAX(Code) FROM ") + table +
+                             (active ? QStringLiteral(" WHERE Active = 1") : QString()));
     }
 
     static inline std::unique_ptr<TPickerFixture> shop_;

@@ -55,9 +55,8 @@ private:
     static int LastCode(int part, const QString& table)
     {
         const bool active = EntityLists::Of(static_cast<TSoftwarePart>(part)).HasActive();
-        const auto row = shop_->Connection.Run(QStringLiteral("SELECT MAX(Code) FROM ") + table +
-                                               (active ? QStringLiteral(" WHERE Active = 1") : QString()));
-        return row->Next() ? static_cast<int>(row->Int64(0)) : -1;
+        return shop_->Number(QStringLiteral("SELECT MAX(Code) FROM ") + table +
+                             (active ? QStringLiteral(" WHERE Active = 1") : QString()));
     }
 
     static inline std::unique_ptr<TPickerFixture> shop_;

@@ -39,15 +39,12 @@ private Q_SLOTS:
         QFETCH(int, option);
         QFETCH(QString, table);
         QFETCH(QString, fields);
-        const QString columns = QString(fields).replace(u';', QStringLiteral(", "));
-        const auto row = connection_.Run(
-            QStringLiteral("SELECT TOP 1 Code, %1 FROM %2 ORDER BY Code DESC").arg(columns, table));
-        QVERIFY(row->Next());
-        const QVariant found = Find(row->Text(0), fields, static_cast<LocateDBsOptions>(option));
-        if (fields.contains(u';'))
-            QCOMPARE(found, QVariant(QVariantList{row->Value(1), row->Value(2), row->Value(3)}));
-        else
-            QCOMPARE(found, row->Value(1));
+        QStringList columns{QStringLiteral("Code")};
+        columns += fields.split(u';');
+        const QVariantList last = LastRow(table, columns);
+        const QVariant found =
+            Find(last.constFirst().toString(), fields, static_cast<LocateDBsOptions>(option));
+        QCOMPARE(found, columns.size() > 2 ? QVariant(last.mid(1)) : last.at(1));
         QVERIFY(!Find(QStringLiteral("2000000000"), fields, static_cast<LocateDBsOptions>(option)).isValid());
     }
 
@@ -157,6 +154,18 @@ private:
                   PerLocateOptions persons = PerLocateOptions::plAll)
     {
         return Lookups::Find(connection_, code, fields, option, persons);
+    }
+
+    QVariantList LastRow(const QString& table, const QStringList& columns)
+    {
+        const auto row = connection_.Run(QStringLiteral("SELECT TOP 1 %1 FROM %2 ORDER BY Code DESC")
+                                             .arg(columns.join(QStringLiteral(", ")), table));
+        QVariantList values;
+        if (row->Next()) {
+            for (int column = 0; column < columns.size(); ++column)
+                values.append(row->Value(column));
+        }
+        return values;
     }
 
     TADOConnection connection_;

@@ -91,6 +91,13 @@ public:
         return codes;
     }
 
+    /// The number that a statement answers.
+    int Number(const QString& statement)
+    {
+        const auto row = Connection.Run(statement);
+        return row->Next() ? static_cast<int>(row->Int64(0)) : -1;
+    }
+
     QTemporaryDir Folder;
     TADOConnection Connection;
     THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
