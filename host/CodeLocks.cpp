@@ -109,7 +109,7 @@ void TCodeLocks::ReleaseAll()
 
 void TCodeLocks::SetLifetime(int seconds)
 {
-    const int lifetime = seconds > 0 ? seconds : DefaultLifetime;
+    const int lifetime = seconds > 0 ? qMin(seconds, LongestLifetime) : DefaultLifetime;
     if (lifetime == lifetime_)
         return;
     lifetime_ = lifetime;

@@ -37,7 +37,8 @@ class HOST_EXPORT TCodeLocks : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int DefaultLifetime = 120; ///< seconds
+    static constexpr int DefaultLifetime = 120;   ///< seconds
+    static constexpr int LongestLifetime = 86400; ///< seconds
 
     /// Both must outlive this. The connection need not be open yet.
     TCodeLocks(TADOConnection& connection, const ISettings& settings);
@@ -56,7 +57,7 @@ public:
     void ReleaseAll();
 
     /// Seconds from the last renewal of a hold to its end, for what is taken and renewed from now on. 0 and
-    /// below mean DefaultLifetime.
+    /// below mean DefaultLifetime, more than LongestLifetime means that.
     void SetLifetime(int seconds);
     /// The holder that the last OtherHolder or Take met, if they met one; once.
     std::optional<TCodeHolder> TakeLastRefusal();

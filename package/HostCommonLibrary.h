@@ -42,7 +42,8 @@ public:
     virtual bool LocateLockCode_SoftwarePart(const QString& code, TSoftwarePart part, int option,
                                              bool showMessage) = 0;
     /// Takes, renews or releases the hold on a code; true when that has happened. Releasing a code that is
-    /// not held does nothing. Frames go on whatever the answer is.
+    /// not held does nothing. A frame whose code was not taken asks whether another user holds it; where
+    /// nobody does, it goes on.
     virtual bool OperationOnLockCode_SoftwarePart(const QString& code, TSoftwarePart part, int option,
                                                   TOperationType operation, bool showMessage) = 0;
 };

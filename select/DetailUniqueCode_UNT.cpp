@@ -50,6 +50,11 @@ private:
     TADOQuery* query_;
 };
 
+bool IsUsedByAccount(int code)
+{
+    return code != 0 && TOpenQuery(DetailUniqueCode::AccountsOf(code)).HasRows();
+}
+
 bool Passes(quint16 key)
 {
     // Only Backspace and the main row's digits edit, not even the keypad's. What the form does with Tab,
@@ -121,11 +126,6 @@ bool TDetailUniqueCode_FRME::TakeProposal()
         return false;
     // Between the proposal and the hold another user may have taken, saved and released the number.
     return !IsUsedByAccount(fUDetailCode);
-}
-
-bool TDetailUniqueCode_FRME::IsUsedByAccount(int code) const
-{
-    return code != 0 && TOpenQuery(DetailUniqueCode::AccountsOf(code)).HasRows();
 }
 
 void TDetailUniqueCode_FRME::FillUniqueCode(int detailCode)

@@ -57,7 +57,6 @@ private:
     void UniqueCode_EDTExit();
 
     bool TakeProposal();
-    bool IsUsedByAccount(int code) const;
     bool MoveLock();
     void TellInUse();
     bool Refuse(const TOnInvalideProc& OnInvalid, const std::function<void()>& report);

@@ -267,6 +267,32 @@ private Q_SLOTS:
         QCOMPARE(first.Rows(), 1);
     }
 
+    void theLifetimeHasBounds_data()
+    {
+        QTest::addColumn<int>("asked");
+        QTest::addColumn<int>("given");
+        QTest::newRow("none") << 0 << TCodeLocks::DefaultLifetime;
+        QTest::newRow("negative") << -5 << TCodeLocks::DefaultLifetime;
+        QTest::newRow("a minute") << 60 << 60;
+        QTest::newRow("too long") << 2000000000 << TCodeLocks::LongestLifetime;
+    }
+
+    void theLifetimeHasBounds()
+    {
+        QFETCH(int, asked);
+        QFETCH(int, given);
+        TRun run(database_);
+        run.Locks.SetLifetime(asked);
+        QVERIFY(run.Locks.Take(code, part));
+        const int seconds =
+            TSharedDatabase::Value(
+                *run.Connection,
+                QStringLiteral("SELECT DATEDIFF(second, TakenAt, ExpiresAt) AS s FROM dbo.CodeLocks"))
+                .toInt();
+        // The two moments may stand on two sides of a second's border.
+        QVERIFY2(qAbs(seconds - given) <= 1, qPrintable(QString::number(seconds)));
+    }
+
     void aDatabaseWithoutTheTableIsAnError()
     {
         TADOConnection connection;
