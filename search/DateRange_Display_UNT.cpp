@@ -24,6 +24,8 @@ TDateRange_Display_FRAM::TDateRange_Display_FRAM(QWidget* owner)
     RangeDate_LBL = form.RangeDate_LBL;
     RangeDate_CMB = form.RangeDate_CMB;
     RangeDate_From_EDT = form.RangeDate_From_EDT;
+    // The longest entry fits into the box in this size.
+    RangeDate_CMB->setFont(Look::SmallFont());
     RangeDate_From_EDT->SetToday([] { return Host().Clock.Today(); });
 
     TSearchItem item;

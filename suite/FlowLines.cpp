@@ -15,14 +15,25 @@ int CloseLine(QList<QRect>& places, qsizetype first, int top)
 
 } // namespace
 
-QList<QRect> TFlowLines::Place(const QList<QSize>& sizes) const
+int TFlowLines::WidthOfRun(const QList<TPiece>& pieces, qsizetype first) const
+{
+    int width = pieces.at(first).Size.width();
+    while (pieces.at(first).WithNext && first + 1 < pieces.size())
+        width += Spacing + pieces.at(++first).Size.width();
+    return width;
+}
+
+QList<QRect> TFlowLines::Place(const QList<TPiece>& pieces) const
 {
     QList<QRect> places;
     int used = 0;
     int top = 0;
     qsizetype firstOfLine = 0;
-    for (const QSize& size : sizes) {
-        if (used > 0 && used + size.width() > Width) {
+    for (qsizetype index = 0; index < pieces.size(); ++index) {
+        const QSize size = pieces.at(index).Size;
+        const bool mayBreak = used > 0 && !pieces.at(index - 1).WithNext;
+        const bool runFits = used + WidthOfRun(pieces, index) <= Width;
+        if ((mayBreak && !runFits) || (used > 0 && used + size.width() > Width)) {
             top = CloseLine(places, firstOfLine, top) + LineSpacing;
             firstOfLine = places.size();
             used = 0;
@@ -35,10 +46,10 @@ QList<QRect> TFlowLines::Place(const QList<QSize>& sizes) const
     return places;
 }
 
-int TFlowLines::HeightFor(const QList<QSize>& sizes) const
+int TFlowLines::HeightFor(const QList<TPiece>& pieces) const
 {
     int height = 0;
-    for (const QRect& place : Place(sizes))
+    for (const QRect& place : Place(pieces))
         height = qMax(height, place.y() + place.height());
     return height;
 }

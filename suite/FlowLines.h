@@ -14,8 +14,18 @@ struct SUITE_EXPORT TFlowLines
     int LineSpacing = 0;
     bool FromRight = false; ///< lines begin at the right
 
-    /// Where rectangles of these sizes come to stand. One that is wider than a line has it for itself.
-    QList<QRect> Place(const QList<QSize>& sizes) const;
+    struct TPiece
+    {
+        QSize Size;
+        bool WithNext = false; ///< no line ends between this one and the next
+    };
+
+    /// Where rectangles of these sizes come to stand. What is wider than a line has it for itself.
+    QList<QRect> Place(const QList<TPiece>& pieces) const;
     /// The height of all lines.
-    int HeightFor(const QList<QSize>& sizes) const;
+    int HeightFor(const QList<TPiece>& pieces) const;
+
+private:
+    /// The width from a piece on to where a line may end.
+    int WidthOfRun(const QList<TPiece>& pieces, qsizetype first) const;
 };

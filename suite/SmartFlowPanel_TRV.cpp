@@ -1,6 +1,5 @@
 #include "SmartFlowPanel_TRV.h"
 
-#include "FlowLines.h"
 #include "Look.h"
 
 #include <QChildEvent>
@@ -48,12 +47,12 @@ QSize TSmartFlowPanel_TRV::SizeOf(const QWidget* child)
         .expandedTo(child->minimumSize());
 }
 
-QList<QSize> TSmartFlowPanel_TRV::Sizes() const
+QList<TFlowLines::TPiece> TSmartFlowPanel_TRV::Pieces() const
 {
-    QList<QSize> sizes;
+    QList<TFlowLines::TPiece> pieces;
     for (const QWidget* child : ShownChildren())
-        sizes.append(SizeOf(child));
-    return sizes;
+        pieces.append({SizeOf(child), child->property("KeepWithNext").toBool()});
+    return pieces;
 }
 
 TFlowLines TSmartFlowPanel_TRV::Lines(int width) const
@@ -66,7 +65,7 @@ TFlowLines TSmartFlowPanel_TRV::Lines(int width) const
 int TSmartFlowPanel_TRV::heightForWidth(int width) const
 {
     const QMargins margins = contentsMargins();
-    return Lines(width).HeightFor(Sizes()) + margins.top() + margins.bottom();
+    return Lines(width).HeightFor(Pieces()) + margins.top() + margins.bottom();
 }
 
 /// All children in one line.
@@ -74,8 +73,8 @@ QSize TSmartFlowPanel_TRV::sizeHint() const
 {
     const QMargins margins = contentsMargins();
     int width = margins.left() + margins.right();
-    for (const QSize& size : Sizes())
-        width += size.width() + spacing_;
+    for (const TFlowLines::TPiece& piece : Pieces())
+        width += piece.Size.width() + spacing_;
     return {width, heightForWidth(width)};
 }
 
@@ -83,15 +82,15 @@ QSize TSmartFlowPanel_TRV::minimumSizeHint() const
 {
     const QMargins margins = contentsMargins();
     QSize widest(0, 0);
-    for (const QSize& size : Sizes())
-        widest = widest.expandedTo(size);
+    for (const TFlowLines::TPiece& piece : Pieces())
+        widest = widest.expandedTo(piece.Size);
     return widest.grownBy(margins);
 }
 
 void TSmartFlowPanel_TRV::Arrange()
 {
     const QList<QWidget*> shown = ShownChildren();
-    const QList<QRect> places = Lines(width()).Place(Sizes());
+    const QList<QRect> places = Lines(width()).Place(Pieces());
     const QPoint corner(contentsMargins().left(), contentsMargins().top());
     for (qsizetype index = 0; index < shown.size(); ++index)
         shown.at(index)->setGeometry(places.at(index).translated(corner));

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "FlowLines.h"
 #include "SmartPanel_TRV.h"
 #include "SuiteExport.h"
 
-struct TFlowLines;
-
 /// Panel that lays its children out one after the other, in the order in which they were made, and goes on in
-/// the next line where one ends. Hidden children take no room.
+/// the next line where one ends. Hidden children take no room. A child with the property "KeepWithNext" set
+/// is not parted from the one behind it while both fit into one line.
 class SUITE_EXPORT TSmartFlowPanel_TRV : public TSmartPanel_TRV
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ protected:
 private:
     QList<QWidget*> ShownChildren() const;
     static QSize SizeOf(const QWidget* child);
-    QList<QSize> Sizes() const;
+    QList<TFlowLines::TPiece> Pieces() const;
     TFlowLines Lines(int width) const;
     void Arrange();
 

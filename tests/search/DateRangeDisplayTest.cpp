@@ -1,6 +1,9 @@
 #include "DateRange_Display_UNT.h"
 #include "FilterForm.h"
+#include "Look.h"
 #include "SmartDateEdit_TRV.h"
+
+#include <QStyleOptionComboBox>
 
 namespace {
 
@@ -29,6 +32,7 @@ class DateRangeDisplayTest : public TTestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { Look::Install(*qApp, Look::TScheme::Light); }
     void theFormIsAsDesigned();
     void theEntriesFitIntoTheCombo();
     void initAppliesTheLastThirtyDays();
@@ -79,7 +83,13 @@ void DateRangeDisplayTest::theEntriesFitIntoTheCombo()
     const TSmartComboBox_TRV& combo = *chooser.Frame->RangeDate_CMB;
     QVERIFY(combo.geometry().right() < chooser.Frame->RangeDate_LBL->x());
     QVERIFY(chooser.Frame->rect().contains(combo.geometry()));
-    QVERIFY(combo.hasFocus() || CanFocus(&combo));
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    const QRect field =
+        combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
+    for (int index = 0; index < combo.Count(); ++index)
+        QVERIFY2(combo.fontMetrics().horizontalAdvance(combo.ItemText(index)) <= field.width(),
+                 qPrintable(combo.ItemText(index)));
 }
 
 void DateRangeDisplayTest::initAppliesTheLastThirtyDays()

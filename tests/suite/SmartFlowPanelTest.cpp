@@ -25,6 +25,7 @@ class SmartFlowPanelTest : public QObject
 private Q_SLOTS:
     void linesBreakWhereTheWidthEnds();
     void whatIsWiderThanTheLineStandsAlone();
+    void whatBelongsTogetherStaysTogether();
     void childrenStandFromTheRightInTheirOrder();
     void theFlowStyleTurnsTheLinesRound();
     void hiddenChildrenTakeNoRoom();
@@ -37,17 +38,37 @@ private Q_SLOTS:
 void SmartFlowPanelTest::linesBreakWhereTheWidthEnds()
 {
     const TFlowLines lines{100, 10, 6, false};
-    const QList<QRect> places = lines.Place({{40, 20}, {50, 30}, {40, 20}, {50, 10}});
+    const QList<QRect> places = lines.Place({{{40, 20}}, {{50, 30}}, {{40, 20}}, {{50, 10}}});
     QCOMPARE(places, (QList<QRect>{{0, 5, 40, 20}, {50, 0, 50, 30}, {0, 36, 40, 20}, {50, 41, 50, 10}}));
-    QCOMPARE(lines.HeightFor({{40, 20}, {50, 30}, {40, 20}, {50, 10}}), 56);
+    QCOMPARE(lines.HeightFor({{{40, 20}}, {{50, 30}}, {{40, 20}}, {{50, 10}}}), 56);
     QCOMPARE(lines.HeightFor({}), 0);
 }
 
 void SmartFlowPanelTest::whatIsWiderThanTheLineStandsAlone()
 {
     const TFlowLines lines{100, 10, 6, true};
-    const QList<QRect> places = lines.Place({{120, 20}, {30, 20}});
+    const QList<QRect> places = lines.Place({{{120, 20}}, {{30, 20}}});
     QCOMPARE(places, (QList<QRect>{{-20, 0, 120, 20}, {70, 26, 30, 20}}));
+}
+
+void SmartFlowPanelTest::whatBelongsTogetherStaysTogether()
+{
+    const TFlowLines lines{100, 10, 6, false};
+    const QList<QRect> places = lines.Place({{{60, 20}}, {{20, 20}, true}, {{30, 20}}});
+    QCOMPARE(places, (QList<QRect>{{0, 0, 60, 20}, {0, 26, 20, 20}, {30, 26, 30, 20}}));
+    const QList<QRect> tooWide = lines.Place({{{60, 20}, true}, {{60, 20}}});
+    QCOMPARE(tooWide, (QList<QRect>{{0, 0, 60, 20}, {0, 26, 60, 20}}));
+
+    TSmartFlowPanel_TRV panel;
+    Block(&panel, 200);
+    QWidget* box = Block(&panel, 15);
+    QWidget* label = Block(&panel, 100);
+    box->setProperty("KeepWithNext", true);
+    panel.resize(270, 80);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QVERIFY(box->y() > 30);
+    QCOMPARE(box->y(), label->y());
 }
 
 void SmartFlowPanelTest::childrenStandFromTheRightInTheirOrder()
