@@ -198,19 +198,21 @@ void TAccountDetailPane::Search()
     GoTo(AccountLevels::CodeOf(typed.trimmed()).value_or(0));
 }
 
+int TAccountDetailPane::Ask(const QString& statement) const
+{
+    TADOQuery query;
+    query.SetConnection(parts_->Connection);
+    query.SQL.SetText(statement);
+    query.Open();
+    return query.Field(0)->AsInteger();
+}
+
 void TAccountDetailPane::GoTo(int code)
 {
-    wantedCode_ = 0;
-    if (code == 0)
-        return;
-    TADOQuery place;
-    place.SetConnection(parts_->Connection);
-    place.SQL.SetText(AccountDetails::PlaceStatement(kind_, searched_, code));
-    place.Open();
-    if (place.Field(1)->AsInteger() == 0)
-        return;
-    wantedCode_ = code;
-    wantedRow_ = place.Field(0)->AsInteger() + 1;
+    const bool isThere = code != 0 && Ask(AccountDetails::PresenceStatement(kind_, code)) > 0;
+    wantedCode_ = isThere ? code : 0;
+    // Counting among what a search finds would take as long as the search.
+    wantedRow_ = isThere && searched_.isEmpty() ? Ask(AccountDetails::PlaceStatement(kind_, code)) + 1 : 0;
 }
 
 void TAccountDetailPane::ReachWantedRow()
@@ -219,8 +221,24 @@ void TAccountDetailPane::ReachWantedRow()
     // The announcement may still be that of the list before.
     if (wantedCode_ == 0 || !dataSet.WaitForFirstPage(0) || dataSet.RecordCount() < wantedRow_)
         return;
+    const int row = wantedRow_ > 0 ? wantedRow_ : RowAmongTheFirst(wantedCode_);
     wantedCode_ = 0;
-    dataSet.SetRecNo(wantedRow_);
+    if (row > 0)
+        dataSet.SetRecNo(row);
+}
+
+/// A code that begins with itself and no other is one of the first, unless a hundred names before it have its
+/// digits.
+int TAccountDetailPane::RowAmongTheFirst(int code) const
+{
+    constexpr int rowsOfPage = 100;
+    TPagedDataSet& dataSet = parts_->DataSet;
+    const int rows = qMin(rowsOfPage, dataSet.RecordCount());
+    for (int row = 0; row < rows; ++row) {
+        if (dataSet.ValueAt(row, CodeOfDetail).toInt() == code)
+            return row + 1;
+    }
+    return 0;
 }
 
 int TAccountDetailPane::Take()

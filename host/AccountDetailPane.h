@@ -56,7 +56,9 @@ private:
     void Lay();
     void ConnectData();
     void Search();
+    int Ask(const QString& statement) const;
     void GoTo(int code);
+    int RowAmongTheFirst(int code) const;
     void ReachWantedRow();
     void ShowCount();
     void ShowEmptyText();
@@ -68,5 +70,5 @@ private:
     QString searched_; ///< what the list shows
     int codeWidth_ = 90;
     int wantedCode_ = 0; ///< of the row that is gone to when it is here; 0 for none
-    int wantedRow_ = 0;  ///< its record number
+    int wantedRow_ = 0;  ///< its record number in the whole list; 0 where it is sought among the first rows
 };

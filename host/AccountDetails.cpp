@@ -58,6 +58,13 @@ QStringList CodeRanges(const QString& field, const QString& digits, int length)
     return ranges;
 }
 
+QString CountStatement(TFloatingAccountsType kind, const QString& comparison, int code)
+{
+    return QStringLiteral("SELECT COUNT(*) AS Number FROM dbo.AccDetails WHERE %1 AND %2 %3 %4")
+        .arg(AccountDetails::Condition(kind, {}), AccountDetails::CodeField(kind), comparison)
+        .arg(code);
+}
+
 } // namespace
 
 TPagedSource AccountDetails::Source(TFloatingAccountsType kind)
@@ -93,12 +100,12 @@ QString AccountDetails::Condition(TFloatingAccountsType kind, const QString& typ
     return list + QStringLiteral(" AND (") + either.join(QStringLiteral(" OR ")) + u')';
 }
 
-QString AccountDetails::PlaceStatement(TFloatingAccountsType kind, const QString& typed, int code)
+QString AccountDetails::PresenceStatement(TFloatingAccountsType kind, int code)
 {
-    return QStringLiteral("SELECT ISNULL(SUM(CASE WHEN %1 < %2 THEN 1 ELSE 0 END), 0) AS Before, "
-                          "ISNULL(SUM(CASE WHEN %1 = %2 THEN 1 ELSE 0 END), 0) AS Present "
-                          "FROM dbo.AccDetails WHERE %1 <= %2 AND %3")
-        .arg(CodeField(kind))
-        .arg(code)
-        .arg(Condition(kind, typed));
+    return CountStatement(kind, QStringLiteral("="), code);
+}
+
+QString AccountDetails::PlaceStatement(TFloatingAccountsType kind, int code)
+{
+    return CountStatement(kind, QStringLiteral("<"), code);
 }

@@ -18,8 +18,9 @@ HOST_EXPORT int CodeDigits(TFloatingAccountsType kind);
 /// WHERE text for what the user has typed. Digits are sought at the beginning of the code, with or without
 /// its leading zeros, and inside the name; other texts inside the name as a Persian reader compares them.
 HOST_EXPORT QString Condition(TFloatingAccountsType kind, const QString& typed);
-/// A statement of two numbers: how many rows of the list stand before a code, and whether (1, else 0) it is
-/// in the list.
-HOST_EXPORT QString PlaceStatement(TFloatingAccountsType kind, const QString& typed, int code);
+/// How many rows the whole list has of a code: 1 or 0.
+HOST_EXPORT QString PresenceStatement(TFloatingAccountsType kind, int code);
+/// How many rows of the whole list stand before a code.
+HOST_EXPORT QString PlaceStatement(TFloatingAccountsType kind, int code);
 
 } // namespace AccountDetails

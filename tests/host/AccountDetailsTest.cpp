@@ -94,27 +94,33 @@ private Q_SLOTS:
 
     void thePlaceOfACodeIsCounted()
     {
-        const auto place = [this](TFloatingAccountsType kind, const QString& typed, int code) {
-            TADOQuery query;
-            query.SetConnection(&chart_->Connection);
-            query.SQL.SetText(AccountDetails::PlaceStatement(kind, typed, code));
-            query.Open();
-            return std::pair(query.Field(0)->AsInteger(), query.Field(1)->AsInteger());
-        };
         const QVector<int> all = Codes(AccountDetails::Condition(persons, {}), persons);
-        for (const int row : {0, 1, 40, static_cast<int>(all.size()) - 1})
-            QCOMPARE(place(persons, {}, all[row]), std::pair(row, 1));
-        QCOMPARE(place(persons, {}, 7001).second, 0);
-        QCOMPARE(place(persons, {}, 5000).second, 0);
-        QCOMPARE(place(persons, QStringLiteral("7000"), 7000), std::pair(0, 1));
-        QCOMPARE(place(unique, {}, 1000001), std::pair(0, 1));
-        QCOMPARE(AccountDetails::PlaceStatement(persons, {}, 12),
-                 QStringLiteral("SELECT ISNULL(SUM(CASE WHEN Code < 12 THEN 1 ELSE 0 END), 0) AS Before, "
-                                "ISNULL(SUM(CASE WHEN Code = 12 THEN 1 ELSE 0 END), 0) AS Present "
-                                "FROM dbo.AccDetails WHERE Code <= 12 AND [Type] = 1 AND Active = 1"));
+        for (const int row : {0, 1, 40, static_cast<int>(all.size()) - 1}) {
+            QCOMPARE(Number(AccountDetails::PlaceStatement(persons, all[row])), row);
+            QCOMPARE(Number(AccountDetails::PresenceStatement(persons, all[row])), 1);
+        }
+        QCOMPARE(Number(AccountDetails::PresenceStatement(persons, 7001)), 0);
+        QCOMPARE(Number(AccountDetails::PresenceStatement(persons, 5000)), 0);
+        QCOMPARE(Number(AccountDetails::PlaceStatement(unique, 1000001)), 0);
+        QCOMPARE(Number(AccountDetails::PresenceStatement(unique, 1000001)), 1);
+        QCOMPARE(AccountDetails::PlaceStatement(persons, 12),
+                 QStringLiteral("SELECT COUNT(*) AS Number FROM dbo.AccDetails "
+                                "WHERE [Type] = 1 AND Active = 1 AND Code < 12"));
+        QCOMPARE(AccountDetails::PresenceStatement(unique, 12),
+                 QStringLiteral("SELECT COUNT(*) AS Number FROM dbo.AccDetails "
+                                "WHERE UniqueCode > 0 AND Active = 1 AND UniqueCode = 12"));
     }
 
 private:
+    int Number(const QString& statement) const
+    {
+        TADOQuery query;
+        query.SetConnection(&chart_->Connection);
+        query.SQL.SetText(statement);
+        query.Open();
+        return query.Field(0)->AsInteger();
+    }
+
     QVector<int> Codes(const QString& condition, TFloatingAccountsType kind) const
     {
         const QString code = AccountDetails::CodeField(kind);

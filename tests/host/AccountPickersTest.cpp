@@ -48,6 +48,7 @@ private Q_SLOTS:
         chart_ = std::make_unique<TChartFixture>();
         chart_->AddDetail(1, 900001, QStringLiteral("كارخانه یکتای آزمون"), 1900001);
         chart_->AddDetail(1, 900002, QStringLiteral("کارخانهٔ کنارگذاشته"), 1900002, false);
+        chart_->AddDetail(1, 899999, QStringLiteral("شعبهٔ 900003"), 1899999);
         chart_->AddDetail(1, 900003, QStringLiteral("شعبهٔ ۳۰۰۰۰ کارخانه"), 1900003);
     }
 
@@ -158,7 +159,7 @@ private Q_SLOTS:
         QTest::newRow("completed code") << QStringLiteral("000012") << 12;
         QTest::newRow("Persian digits") << QStringLiteral("۹۰۰۰۰۳") << 900003;
         QTest::newRow("digits of a name") << QStringLiteral("30000 کارخانه") << 900003;
-        QTest::newRow("beginning of a code") << QStringLiteral("90000") << 900001;
+        QTest::newRow("beginning of codes, in a name before them") << QStringLiteral("90000") << 899999;
         QTest::newRow("a whole code before longer ones") << QStringLiteral("3") << 3;
     }
 
