@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace {
@@ -62,6 +63,7 @@ TAccountDetailPane::~TAccountDetailPane()
 {
     // The controls outlive parts_, with the data set that they refer to.
     parts_->Grid->SetDataSource(nullptr);
+    parts_->Search->OnChange = nullptr;
     parts_->Search->OnEditValueChange = nullptr;
     parts_->DataSet.disconnect(this);
 }
@@ -120,28 +122,46 @@ void TAccountDetailPane::ConnectData()
     parts.Source.SetDataSet(&parts.DataSet);
     parts.Grid->SetDataSource(&parts.Source);
     parts.Search->OnEditValueChange = [this](QObject* /*Sender*/) { Search(); };
-    parts.Grid->OnDblClick = [this](QObject* /*Sender*/) { Q_EMIT chosen(); };
+    parts.Search->OnChange = [this](QObject* /*Sender*/) { choosing_ = false; };
+    parts.Grid->OnDblClick = [this](QObject* /*Sender*/) { Choose(); };
     SetCodeWidth(codeWidth_);
     parts.Grid->installEventFilter(this);
     parts.Grid->viewport()->installEventFilter(this);
     const auto* keys = new TTypeToFind(parts.Search, parts.Grid, this);
-    connect(keys, &TTypeToFind::chosen, this, &TAccountDetailPane::chosen);
-    TPagedDataSet* dataSet = &parts.DataSet;
+    connect(keys, &TTypeToFind::chosen, this, &TAccountDetailPane::Choose);
+    const TPagedDataSet* dataSet = &parts.DataSet;
     connect(dataSet, &TPagedDataSet::scrolled, this, &TAccountDetailPane::currentMoved);
-    connect(dataSet, &TPagedDataSet::rowsArrived, this, &TAccountDetailPane::currentMoved);
-    connect(dataSet, &TPagedDataSet::dataChanged, this, &TAccountDetailPane::currentMoved);
-    connect(dataSet, &TPagedDataSet::countChanged, this, &TAccountDetailPane::ReachWantedRow);
-    connect(dataSet, &TPagedDataSet::countChanged, this, &TAccountDetailPane::ShowCount);
-    connect(dataSet, &TPagedDataSet::failed, this, [](const QString& message, const QString& serverMessage) {
-        if (auto* application = qobject_cast<THostApplication*>(qApp))
-            application->Report({message, serverMessage});
-    });
+    connect(dataSet, &TPagedDataSet::dataChanged, this, &TAccountDetailPane::FollowRows);
+    connect(dataSet, &TPagedDataSet::rowsArrived, this, &TAccountDetailPane::FollowRows);
+    connect(dataSet, &TPagedDataSet::countChanged, this, &TAccountDetailPane::FollowRows);
+    connect(dataSet, &TPagedDataSet::failed, this, &TAccountDetailPane::ReportFailure);
+}
+
+void TAccountDetailPane::FollowRows()
+{
+    ReachWantedRow();
+    ShowCount();
+    Q_EMIT currentMoved();
+    FinishChoice();
+}
+
+void TAccountDetailPane::ReportFailure(const QString& message, const QString& serverMessage)
+{
+    ForgetIntentions();
+    auto* application = qobject_cast<THostApplication*>(qApp);
+    if (application == nullptr)
+        return;
+    const QPointer<TAccountDetailPane> pane(this);
+    application->Report({message, serverMessage, false, [pane] {
+                             if (pane != nullptr)
+                                 pane->parts_->DataSet.Refresh();
+                         }});
 }
 
 void TAccountDetailPane::ShowNothing(const QString& reason)
 {
     kind_ = TFloatingAccountsType::fatNone;
-    wantedCode_ = 0;
+    ForgetIntentions();
     parts_->Search->Clear();
     parts_->DataSet.Close();
     parts_->Caption->SetCaption(QStringLiteral("تفصیلی"));
@@ -153,6 +173,7 @@ void TAccountDetailPane::ShowNothing(const QString& reason)
 
 void TAccountDetailPane::ShowKind(TFloatingAccountsType kind, const QString& kindName, int code)
 {
+    choosing_ = false;
     if (kind == kind_)
         return;
     kind_ = kind;
@@ -241,17 +262,31 @@ int TAccountDetailPane::RowAmongTheFirst(int code) const
     return 0;
 }
 
-int TAccountDetailPane::Take()
+void TAccountDetailPane::Choose()
 {
     if (!HasList())
-        return 0;
+        return;
     Search();
+    choosing_ = true;
+    FinishChoice();
+}
+
+void TAccountDetailPane::FinishChoice()
+{
     TPagedDataSet& dataSet = parts_->DataSet;
-    if (dataSet.IsEmpty())
-        return 0;
-    if (wantedCode_ != 0)
-        return wantedCode_;
-    return dataSet.WaitForCurrentRow() ? CurrentCode() : 0;
+    // What was typed last is not in force yet; its first rows will call again.
+    if (!choosing_ || !dataSet.WaitForFirstPage(0))
+        return;
+    const int code = wantedCode_ != 0 ? wantedCode_ : CurrentCode();
+    choosing_ = code == 0 && dataSet.RecordCount() > 0;
+    if (code != 0)
+        Q_EMIT chosen(code);
+}
+
+void TAccountDetailPane::ForgetIntentions()
+{
+    wantedCode_ = 0;
+    choosing_ = false;
 }
 
 QString TAccountDetailPane::FieldText(int field)
@@ -302,7 +337,7 @@ bool TAccountDetailPane::eventFilter(QObject* watched, QEvent* event)
 {
     // The user goes elsewhere by himself.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
-        wantedCode_ = 0;
+        ForgetIntentions();
     if (watched != parts_->Grid || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<const QKeyEvent*>(event);

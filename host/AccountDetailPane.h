@@ -37,8 +37,9 @@ public:
     int CurrentCode();         ///< 0 where there is no current row or it has not arrived
     QString CurrentCodeText(); ///< as the boxes show it; empty where there is none
     QString CurrentName();
-    /// The code of the current row, after what was typed last is in force; 0 where there is none.
-    int Take();
+    /// Chooses the current row as soon as it is here and what was typed last is in force, unless the user
+    /// does something else meanwhile.
+    void Choose();
 
     TSmartDBGrid_TRV& Grid();
     TSmartEdit_TRV& SearchEdit();
@@ -49,8 +50,8 @@ public:
 
 Q_SIGNALS:
     void currentMoved();
-    void chosen(); ///< Enter or double click
-    void back();   ///< Right in the list
+    void chosen(int code); ///< by Enter, a double click or Choose()
+    void back();           ///< Right in the list
 
 private:
     void Lay();
@@ -60,6 +61,10 @@ private:
     void GoTo(int code);
     int RowAmongTheFirst(int code) const;
     void ReachWantedRow();
+    void FollowRows();
+    void FinishChoice();
+    void ForgetIntentions();
+    void ReportFailure(const QString& message, const QString& serverMessage);
     void ShowCount();
     void ShowEmptyText();
     QString FieldText(int field);
@@ -71,4 +76,5 @@ private:
     int codeWidth_ = 90;
     int wantedCode_ = 0; ///< of the row that is gone to when it is here; 0 for none
     int wantedRow_ = 0;  ///< its record number in the whole list; 0 where it is sought among the first rows
+    bool choosing_ = false; ///< the current row is chosen when it is here
 };

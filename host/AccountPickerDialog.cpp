@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -46,6 +47,14 @@ TWords WordsOf(TAccountPicking::TLevels levels)
     return {QStringLiteral("انتخاب حساب"), QStringLiteral("Accounts")};
 }
 
+/// The family stays that of the application, so that a switch of the digits reaches the text.
+QFont RelativeFont(const QFont& wanted)
+{
+    QFont font(wanted);
+    font.setResolveMask(QFont::SizeResolved | QFont::WeightResolved);
+    return font;
+}
+
 } // namespace
 
 TAccountPickerDialog::TAccountPickerDialog(TADOConnection& connection, THostSettings& settings,
@@ -65,7 +74,6 @@ TAccountPickerDialog::TAccountPickerDialog(TADOConnection& connection, THostSett
     Lay();
     Connect();
     RestoreState();
-    Begin();
 }
 
 TAccountPickerDialog::~TAccountPickerDialog()
@@ -101,7 +109,7 @@ void TAccountPickerDialog::Lay()
     column->addWidget(splitter_, 1);
     path_ = new TSmartLabel_TRV(this);
     path_->setObjectName(QStringLiteral("Path"));
-    path_->setFont(Look::BoldFont());
+    path_->setFont(RelativeFont(Look::BoldFont()));
     path_->setTextFormat(Qt::PlainText);
     path_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     column->addWidget(path_);
@@ -118,7 +126,7 @@ bool TAccountPickerDialog::UsesDetails() const
 void TAccountPickerDialog::LayFooter(QWidget* footer)
 {
     auto* hint = new TSmartLabel_TRV(footer);
-    hint->setFont(Look::SmallFont());
+    hint->setFont(RelativeFont(Look::SmallFont()));
     hint->setTextFormat(Qt::PlainText);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     const QString enter = PersianText::Isolated(QStringLiteral("Enter"));
@@ -165,7 +173,7 @@ void TAccountPickerDialog::Connect()
     });
 }
 
-void TAccountPickerDialog::Begin()
+void TAccountPickerDialog::Open()
 {
     chart_->Show(FirstPlace());
     if (const int place = chart_->Current(); place >= 0 && tree_.At(place).Level == TAccountNode::Total)
@@ -302,7 +310,7 @@ bool TAccountPickerDialog::CanPick(int place) const
 void TAccountPickerDialog::Choose()
 {
     if (detailsAreFront_)
-        ChooseDetail();
+        details_->Choose();
     else
         ChooseAccount();
 }
@@ -318,14 +326,12 @@ void TAccountPickerDialog::ChooseAccount()
     accept();
 }
 
-void TAccountPickerDialog::ChooseDetail()
+void TAccountPickerDialog::ChooseDetail(int code)
 {
-    const int place = chart_->Current();
-    const int detail = details_->Take();
-    if (place < 0 || detail == 0)
+    if (chart_->Current() < 0)
         return;
-    picked_ = CodesOf(place);
-    picked_.Detail = detail;
+    picked_ = CodesOf(chart_->Current());
+    picked_.Detail = code;
     accept();
 }
 
@@ -338,7 +344,7 @@ void TAccountPickerDialog::RestoreState()
 {
     const QSize usualSize = picking_.Levels == TAccountPicking::AllLevels ? sizeOfAllLevels : sizeOfOneLevel;
     const QSize kept = settings_->Value(SettingKey(QStringLiteral("Size"))).toSize();
-    resize(kept.isValid() ? kept.boundedTo(usualSize * 4) : usualSize);
+    resize((kept.isValid() ? kept : usualSize).boundedTo(screen()->availableSize()));
     const QByteArray parts = settings_->Value(SettingKey(QStringLiteral("Parts"))).toByteArray();
     if (!splitter_->restoreState(parts))
         splitter_->setSizes({1, 1});

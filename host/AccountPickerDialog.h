@@ -41,6 +41,8 @@ public:
                          QWidget* parent = nullptr);
     ~TAccountPickerDialog() override;
 
+    /// Goes to the account to begin with and starts to read. Throws EADOError.
+    void Open();
     /// What was picked; all 0 until the dialog was accepted.
     THCSelectedCode Picked() const { return picked_; }
     /// What Enter would pick now, in words.
@@ -55,7 +57,6 @@ private:
     void Lay();
     void LayFooter(QWidget* footer);
     void Connect();
-    void Begin();
     int FirstPlace() const;
     void RestoreState();
     void ReadKinds(TADOConnection& connection);
@@ -64,7 +65,7 @@ private:
     void ShowPath();
     void Choose();
     void ChooseAccount();
-    void ChooseDetail();
+    void ChooseDetail(int code);
     bool UsesDetails() const;
     bool CanPick(int place) const;
     THCSelectedCode CodesOf(int place) const;

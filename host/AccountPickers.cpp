@@ -3,6 +3,7 @@
 #include "AccountLevels.h"
 #include "AccountPickerDialog.h"
 
+#include <memory>
 #include <QApplication>
 #include <QPointer>
 
@@ -24,14 +25,16 @@ TAccountPickers::TAccountPickers(TADOConnection& connection, THostSettings& sett
 THCSelectedCode TAccountPickers::Pick(const TAccountPicking& picking)
 {
     // The window that the dialog stands on may go while it is open, and takes it along.
-    const QPointer<TAccountPickerDialog> dialog =
-        new TAccountPickerDialog(*connection_, *settings_, picking, QApplication::activeWindow());
+    auto dialog = std::make_unique<TAccountPickerDialog>(*connection_, *settings_, picking,
+                                                         QApplication::activeWindow());
+    const QPointer<TAccountPickerDialog> living(dialog.get());
+    dialog->Open();
     dialog->exec();
-    if (dialog == nullptr)
+    if (living == nullptr) {
+        static_cast<void>(dialog.release());
         return {};
-    const THCSelectedCode picked = dialog->Picked();
-    delete dialog;
-    return picked;
+    }
+    return dialog->Picked();
 }
 
 THCSelectedCode TAccountPickers::Select_AccountCodes(TSelectGroups groups, const QString& total,

@@ -31,6 +31,7 @@ public:
 
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        awaitsAnswer_ = key == Qt::Key_Return || key == Qt::Key_Enter;
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
@@ -67,12 +68,19 @@ private:
         seen_ = true;
         timer_.stop();
         const QPointer<TAccountPickerDialog> open(dialog);
+        awaitsAnswer_ = false;
         act_(*dialog);
+        // What Enter picks may still have to be read.
+        const auto isClosed = [&open] { return open == nullptr || !open->isVisible(); };
+        if (awaitsAnswer_)
+            static_cast<void>(QTest::qWaitFor(isClosed, longestAnswer));
         if (open != nullptr && open->isVisible())
             open->reject();
     }
 
     static constexpr int enoughLooks = 8;
+    static constexpr int longestAnswer = 3000; // milliseconds
+    static inline bool awaitsAnswer_ = false;
 
     std::function<void(TAccountPickerDialog&)> act_;
     QTimer timer_;

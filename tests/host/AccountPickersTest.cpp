@@ -325,12 +325,12 @@ private Q_SLOTS:
     void sizesAreKept()
     {
         Pick([](TAccountPickerDialog& dialog) {
-            dialog.resize(1100, 611);
+            dialog.resize(760, 511);
             dialog.Chart().View().setColumnWidth(0, 151);
             dialog.Details().SetCodeWidth(111);
         });
         Pick([](TAccountPickerDialog& dialog) {
-            QCOMPARE(dialog.size(), QSize(1100, 611));
+            QCOMPARE(dialog.size(), QSize(760, 511));
             QCOMPARE(dialog.Chart().View().columnWidth(0), 151);
             QCOMPARE(dialog.Details().CodeWidth(), 111);
         });
