@@ -1,6 +1,8 @@
 #include "OdbcDiagnostics.h"
 
+#include <algorithm>
 #include <array>
+#include <QStringList>
 
 namespace {
 
@@ -33,6 +35,62 @@ QString UserMessage(TAdoErrorKind kind)
     }
 }
 
+/// What kept a connection from being made, and how the drivers tell it: by the state of a record, by the
+/// number of the server or the client library, or by words.
+struct TOpeningCause
+{
+    QStringList States; ///< or their beginnings
+    QVector<int> Codes;
+    QString Words;
+    QString Message;
+};
+
+// In this order: behind "there is no such database" stands "login failed", and behind both "no connection".
+const QVector<TOpeningCause>& OpeningCauses()
+{
+    static const QVector<TOpeningCause> causes{
+        {{QStringLiteral("IM002"), QStringLiteral("IM003"), QStringLiteral("IM004"), QStringLiteral("IM005")},
+         {},
+         QStringLiteral("Can't open lib"),
+         QStringLiteral(
+             "راه‌انداز ODBC پیدا نشد. نام Driver یا DSN را در نشانی اتصال بررسی کنید و اگر "
+             "راه‌انداز نصب نیست آن را نصب کنید.")},
+        {{},
+         {},
+         QStringLiteral("certificate"),
+         QStringLiteral("گواهی رمزنگاری سرور پذیرفته نشد. گواهی سرور یا گزینهٔ TrustServerCertificate را "
+                        "در نشانی اتصال بررسی کنید.")},
+        {{QStringLiteral("3D000")},
+         {4060, 4063, 4064},
+         {},
+         QStringLiteral(
+             "پایگاه داده‌ای با این نام روی سرور نیست، یا این کاربر به آن راه ندارد. نام "
+             "Database را در نشانی اتصال بررسی کنید.")},
+        {{QStringLiteral("28")},
+         {18452, 18456, 18470, 18486, 18487, 18488},
+         {},
+         QStringLiteral("نام کاربری یا گذرواژهٔ پایگاه داده درست نیست، یا این کاربر اجازهٔ ورود ندارد.")},
+        {{QStringLiteral("08"), QStringLiteral("HYT")},
+         {20002, 20009, 20012, 20013},
+         {},
+         QStringLiteral(
+             "سرور پایگاه داده پاسخ نمی‌دهد. نام سرور، درگاه و شبکه را بررسی کنید.")},
+    };
+    return causes;
+}
+
+bool Tells(const TOdbcDiagnostics& diagnostics, const TOpeningCause& cause)
+{
+    if (!cause.Words.isEmpty() && diagnostics.Message.contains(cause.Words, Qt::CaseInsensitive))
+        return true;
+    return std::any_of(
+        diagnostics.Records.begin(), diagnostics.Records.end(), [&](const TOdbcDiagnostics::TRecord& record) {
+            return cause.Codes.contains(record.Code) ||
+                   std::any_of(cause.States.begin(), cause.States.end(),
+                               [&](const QString& state) { return record.State.startsWith(state); });
+        });
+}
+
 } // namespace
 
 TOdbcDiagnostics ReadDiagnostics(SQLSMALLINT handleType, SQLHANDLE handle)
@@ -48,6 +106,7 @@ TOdbcDiagnostics ReadDiagnostics(SQLSMALLINT handleType, SQLHANDLE handle)
         if (!Succeeded(answer))
             break;
         const QString recordState = QString::fromUtf16(reinterpret_cast<const char16_t*>(state.data()));
+        result.Records.append({recordState, code});
         if (record == 1) {
             result.State = recordState;
             result.Code = code;
@@ -84,5 +143,15 @@ EADOError OdbcError(const TOdbcDiagnostics& diagnostics, const QString& statemen
     if (kind == TAdoErrorKind::Other)
         kind = KindOf(diagnostics);
     return EADOError(kind, UserMessage(kind), statement, diagnostics.Message, diagnostics.State,
+                     diagnostics.Code);
+}
+
+EADOError OdbcOpeningError(const TOdbcDiagnostics& diagnostics)
+{
+    const auto& causes = OpeningCauses();
+    const auto cause = std::find_if(causes.begin(), causes.end(),
+                                    [&](const TOpeningCause& known) { return Tells(diagnostics, known); });
+    const QString message = cause != causes.end() ? cause->Message : UserMessage(TAdoErrorKind::CannotOpen);
+    return EADOError(TAdoErrorKind::CannotOpen, message, {}, diagnostics.Message, diagnostics.State,
                      diagnostics.Code);
 }

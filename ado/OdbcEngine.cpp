@@ -3,6 +3,8 @@
 #include "OdbcParameters.h"
 #include "OdbcRows.h"
 
+#include <array>
+
 namespace {
 
 EADOError DriverManagerError()
@@ -25,6 +27,17 @@ QString CompleteOdbcConnectionString(const QString& connectionString)
     if (overTds && !result.contains(QLatin1String("Encryption="), Qt::CaseInsensitive))
         result += QLatin1String("Encryption=request;");
     return result;
+}
+
+QString SqlServerSession(int busyTimeout)
+{
+    return QStringLiteral("SET ANSI_NULLS, ANSI_PADDING, ANSI_WARNINGS, ARITHABORT, CONCAT_NULL_YIELDS_NULL, "
+                          "QUOTED_IDENTIFIER ON\n"
+                          "SET NUMERIC_ROUNDABORT OFF\n"
+                          "SET DATEFORMAT ymd\n"
+                          "SET TEXTSIZE 2147483647\n"
+                          "SET LOCK_TIMEOUT %1")
+        .arg(qMax(0, busyTimeout));
 }
 
 std::unique_ptr<IEngine> OpenOdbcEngine(const QString& connectionString, const TEngineOptions& options)
@@ -53,7 +66,24 @@ TOdbcEngine::TOdbcEngine(const QString& connectionString, const TEngineOptions& 
     const SQLRETURN result = SQLDriverConnectW(connection_.Get(), nullptr, OdbcText(text), SQL_NTS, nullptr,
                                                0, nullptr, SQL_DRIVER_NOPROMPT);
     if (!Succeeded(result))
-        FailConnection(TAdoErrorKind::CannotOpen);
+        throw OdbcOpeningError(ReadDiagnostics(SQL_HANDLE_DBC, connection_.Get()));
+    try {
+        if (IsSqlServer())
+            Execute(SqlServerSession(options.BusyTimeout), {});
+    } catch (...) {
+        SQLDisconnect(connection_.Get());
+        throw;
+    }
+}
+
+bool TOdbcEngine::IsSqlServer() const
+{
+    std::array<SQLWCHAR, 128> name{};
+    SQLSMALLINT bytes = 0;
+    const SQLRETURN result = SQLGetInfoW(connection_.Get(), SQL_DBMS_NAME, name.data(),
+                                         static_cast<SQLSMALLINT>(sizeof name), &bytes);
+    return Succeeded(result) && QString::fromUtf16(reinterpret_cast<const char16_t*>(name.data()))
+                                    .contains(QLatin1String("SQL Server"), Qt::CaseInsensitive);
 }
 
 TOdbcEngine::~TOdbcEngine()
@@ -68,7 +98,7 @@ std::unique_ptr<IEngineRows> TOdbcEngine::Execute(const QString& text, const QVa
 {
     TOdbcStatement statement(connection_.Get());
     if (!statement)
-        FailConnection(TAdoErrorKind::Other);
+        FailConnection();
     const SQLHANDLE handle = statement.Get();
     // The rows own the statement from here on and tell when it is closed, also when running it fails.
     auto rows = std::make_unique<TOdbcRows>(*this, std::move(statement), text);
@@ -108,7 +138,7 @@ void TOdbcEngine::EndTransaction(SQLSMALLINT completion)
     if (!inTransaction_)
         throw EADOError(TAdoErrorKind::WrongState, QStringLiteral("تراکنشی باز نیست."));
     if (!Succeeded(SQLEndTran(SQL_HANDLE_DBC, connection_.Get(), completion)))
-        FailConnection(TAdoErrorKind::Other);
+        FailConnection();
     inTransaction_ = false;
     SetAutoCommit(true);
 }
@@ -119,7 +149,7 @@ void TOdbcEngine::SetAutoCommit(bool on)
     const SQLRETURN result = SQLSetConnectAttrW(connection_.Get(), SQL_ATTR_AUTOCOMMIT,
                                                 reinterpret_cast<SQLPOINTER>(value), SQL_IS_UINTEGER);
     if (!Succeeded(result))
-        FailConnection(TAdoErrorKind::Other);
+        FailConnection();
 }
 
 void TOdbcEngine::Cancel()
@@ -171,9 +201,9 @@ void TOdbcEngine::FailStatement(SQLHANDLE statement, const QString& text)
     throw OdbcError(diagnostics, text, cancelled ? TAdoErrorKind::Cancelled : TAdoErrorKind::Other);
 }
 
-void TOdbcEngine::FailConnection(TAdoErrorKind kind)
+void TOdbcEngine::FailConnection()
 {
     const TOdbcDiagnostics diagnostics = ReadDiagnostics(SQL_HANDLE_DBC, connection_.Get());
     dead_ = dead_ || diagnostics.Dead;
-    throw OdbcError(diagnostics, {}, kind);
+    throw OdbcError(diagnostics, {});
 }

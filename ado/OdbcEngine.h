@@ -32,7 +32,8 @@ public:
     void StatementCloses(const IOpenRows* rows);
 
 private:
-    [[noreturn]] void FailConnection(TAdoErrorKind kind);
+    [[noreturn]] void FailConnection();
+    bool IsSqlServer() const;
     void EndTransaction(SQLSMALLINT completion);
     void SetAutoCommit(bool on);
     bool ConnectionSaysDead() const;
@@ -51,3 +52,9 @@ private:
 /// The connection string as the drivers want it: closed by ";" (a driver over TDS takes the last value with
 /// whatever follows it otherwise), and for that driver with the encryption said explicitly.
 ADO_EXPORT QString CompleteOdbcConnectionString(const QString& connectionString);
+
+/// What a session on SQL Server begins with, whatever its driver and the server's settings prefer: the
+/// options that the computed columns and their indexes ask for, dates read as year, month, day, long values
+/// not cut off (a driver over TDS has the server cut them to some ten thousand bytes), and an end to waiting
+/// for another user's lock after `busyTimeout` milliseconds.
+ADO_EXPORT QString SqlServerSession(int busyTimeout);

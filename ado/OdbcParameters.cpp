@@ -17,6 +17,7 @@ struct TOdbcParameters::TParameter
     SQLLEN Indicator = SQL_NULL_DATA;
     QString Text;
     QByteArray Bytes;
+    SQLINTEGER SmallInteger = 0;
     qint64 Integer = 0;
     double Float = 0;
     unsigned char Bit = 0;
@@ -33,6 +34,10 @@ TOdbcParameters::TParameter TOdbcParameters::Describe(const QVariant& value)
         result.Bit = value.toBool() ? 1 : 0;
         break;
     case QMetaType::Int:
+        result.CType = SQL_C_SLONG;
+        result.SqlType = SQL_INTEGER;
+        result.SmallInteger = value.toInt();
+        break;
     case QMetaType::UInt:
     case QMetaType::LongLong:
         result.CType = SQL_C_SBIGINT;
@@ -76,6 +81,9 @@ TOdbcParameters::TOdbcParameters(const QVariantList& values)
         switch (parameter.CType) {
         case SQL_C_BIT:
             parameter.Data = &parameter.Bit;
+            break;
+        case SQL_C_SLONG:
+            parameter.Data = &parameter.SmallInteger;
             break;
         case SQL_C_SBIGINT:
             parameter.Data = &parameter.Integer;

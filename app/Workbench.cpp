@@ -6,9 +6,11 @@
 #include "HostApplication.h"
 #include "Look.h"
 #include "MainWindow.h"
+#include "OffscreenMessages.h"
 #include "PersianText.h"
 #include "ProgressWindow.h"
 #include "ReferenceHost.h"
+#include "ServerDatabase.h"
 #include "StartMessages.h"
 #include "StatementLog.h"
 #include "Tour.h"
@@ -91,6 +93,13 @@ void OpenWithProgress(TADOConnection& connection, const QString& connectionStrin
     OpenDatabase(connection, connectionString, options);
 }
 
+void WarnOfCollation(TADOConnection& connection)
+{
+    const QString warning = ServerDatabase::CollationWarning(connection);
+    if (!warning.isEmpty())
+        StartMessages::Tell(warning);
+}
+
 void MakeFolder(const QString& folder)
 {
     if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable())
@@ -157,14 +166,17 @@ int TWorkbench::Start(const TCommandLine& line)
             QStringLiteral(
                 "پروندهٔ تنظیمات %1 خوانده نشد و دست‌نخورده ماند؛ برنامه با تنظیمات نخستین باز می‌شود.")
                 .arg(PersianText::Isolated(THostSettings::DefaultFileName())));
-    if (tour)
+    if (tour) {
+        HideSizeHintMessage();
         MakeFolder(line.TourFolder);
+    }
     TStatementLog log;
     StartLog(log, line.LogFile);
     const QString connectionString = ConnectionStringOf(line);
     TADOConnection connection;
     log.Follow(connection);
     OpenWithProgress(connection, connectionString);
+    WarnOfCollation(connection);
     settings.SetUserInfo(SignIn(connection, line.User));
     TReferenceHost host(connection, settings);
     application_->SetConnection(&connection);

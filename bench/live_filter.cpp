@@ -4,6 +4,7 @@
 #include "DataSource.h"
 #include "FilterWindow.h"
 #include "Look.h"
+#include "OffscreenMessages.h"
 #include "PagedDataSet.h"
 #include "ProcessMemory.h"
 #include "RawPage.h"
@@ -15,7 +16,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -206,6 +209,10 @@ int main(int argc, char** argv)
 {
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir runtimeFolder;
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder.path()));
+    HideSizeHintMessage();
     QApplication application(argc, argv);
     Look::Install(application, Look::TScheme::Light);
     QCommandLineParser parser;

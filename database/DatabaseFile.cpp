@@ -6,6 +6,7 @@
 #include "DatabaseSchema.h"
 #include "FileCreation.h"
 #include "FileHeader.h"
+#include "ServerDatabase.h"
 
 #include <atomic>
 #include <QFileInfo>
@@ -141,39 +142,6 @@ void OpenMemory(TADOConnection& connection, const QString& name, const TDatabase
     connection.Open();
 }
 
-/// A statement that only works where the script has been run; otherwise the script is named.
-void CheckScript(TADOConnection& connection, const QString& statement, const QString& script)
-{
-    try {
-        const std::unique_ptr<IEngineRows> rows = connection.Run(statement);
-        rows->Next();
-    } catch (const EADOError& error) {
-        if (!IsAnswerOfTheDatabase(error))
-            throw;
-        throw EADOError(
-            TAdoErrorKind::CannotOpen,
-            QStringLiteral("پایگاه دادهٔ سرور آماده نیست. نخست دستورهای database/%1 را در آن اجرا کنید.")
-                .arg(script),
-            statement, error.ServerMessage(), error.State(), error.Code());
-    }
-}
-
-void OpenServer(TADOConnection& connection, const QString& connectionString)
-{
-    connection.SetConnectionString(connectionString);
-    connection.Open();
-    CheckScript(connection, QStringLiteral("SELECT Version FROM dbo.SchemaInfo"),
-                QStringLiteral("schema.sql"));
-    CheckScript(connection, QStringLiteral("SELECT dbo.Category_SubNodes(0,0,1) AS value"),
-                QStringLiteral("functions.sql"));
-    if (SchemaVersion(connection) != DatabaseSchema::Version) {
-        throw EADOError(
-            TAdoErrorKind::CannotOpen,
-            QStringLiteral("نسخهٔ جدول‌های پایگاه دادهٔ سرور با این "
-                           "برنامه نمی‌خواند."));
-    }
-}
-
 } // namespace
 
 void OpenDatabase(TADOConnection& connection, const QString& connectionString,
@@ -183,7 +151,7 @@ void OpenDatabase(TADOConnection& connection, const QString& connectionString,
     RegisterDatabaseFunctions(connection);
     try {
         if (!connectionString.startsWith(EmbeddedPrefix, Qt::CaseInsensitive)) {
-            OpenServer(connection, connectionString);
+            ServerDatabase::Open(connection, connectionString);
             return;
         }
         const QString name = connectionString.mid(EmbeddedPrefix.size());

@@ -34,6 +34,9 @@ private Q_SLOTS:
     void anOpenTransactionIsRolledBackWithTheConnection();
     void cancellingEndsARunningStatement();
     void cancellingBetweenStatementsDoesNothing();
+    void aFailedOpeningSaysWhatToLookAfter_data();
+    void aFailedOpeningSaysWhatToLookAfter();
+    void aSessionOnTheServerHasItsOptions();
     void aWrongConnectionStringIsRefused_data();
     void aWrongConnectionStringIsRefused();
     void theConnectionStringIsClosedAndSaysItsEncryption_data();
@@ -303,6 +306,65 @@ void OdbcEngineTest::cancellingBetweenStatementsDoesNothing()
 {
     engine_->Cancel();
     QCOMPARE(Scalar(QStringLiteral("select 7")).toInt(), 7);
+}
+
+void OdbcEngineTest::aFailedOpeningSaysWhatToLookAfter_data()
+{
+    using TRecord = TOdbcDiagnostics::TRecord;
+    QTest::addColumn<QVector<TRecord>>("records");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("words");
+    const QString none;
+    const auto at = [](const char* state, int code = 0) { return TRecord{QString::fromLatin1(state), code}; };
+    QTest::newRow("no such driver") << QVector<TRecord>{at("01000")}
+                                    << QStringLiteral("Can't open lib 'None' : file not found")
+                                    << QStringLiteral("راه‌انداز ODBC");
+    QTest::newRow("no such data source") << QVector<TRecord>{at("IM002")} << none << QStringLiteral("DSN");
+    QTest::newRow("no such database, over TDS")
+        << QVector<TRecord>{at("42000", 4060), at("28000", 18456), at("08001")} << none
+        << QStringLiteral("Database");
+    QTest::newRow("no such database, the vendor's driver")
+        << QVector<TRecord>{at("42000", 4060), at("42000", 4060)} << none << QStringLiteral("Database");
+    QTest::newRow("wrong password, over TDS")
+        << QVector<TRecord>{at("42000", 18456), at("08001", 20002)} << none << QStringLiteral("گذرواژه");
+    QTest::newRow("wrong password, the vendor's driver")
+        << QVector<TRecord>{at("28000", 18456)} << none << QStringLiteral("گذرواژه");
+    QTest::newRow("no server, over TDS") << QVector<TRecord>{at("08001"), at("08S01", 20009)} << none
+                                         << QStringLiteral("پاسخ نمی‌دهد");
+    QTest::newRow("no server in time")
+        << QVector<TRecord>{at("HYT00")} << none << QStringLiteral("پاسخ نمی‌دهد");
+    QTest::newRow("unknown certificate")
+        << QVector<TRecord>{at("08001", -1)}
+        << QStringLiteral("SSL Provider: certificate verify failed:self-signed certificate")
+        << QStringLiteral("TrustServerCertificate");
+    QTest::newRow("anything else") << QVector<TRecord>{at("HY000", 1)} << QStringLiteral("connect failed")
+                                   << QStringLiteral("برقرار نشد");
+}
+
+void OdbcEngineTest::aFailedOpeningSaysWhatToLookAfter()
+{
+    QFETCH(const QVector<TOdbcDiagnostics::TRecord>, records);
+    QFETCH(const QString, message);
+    QFETCH(const QString, words);
+    TOdbcDiagnostics diagnostics;
+    diagnostics.State = records.first().State;
+    diagnostics.Code = records.first().Code;
+    diagnostics.Message = message;
+    diagnostics.Records = records;
+    const EADOError error = OdbcOpeningError(diagnostics);
+    QCOMPARE(error.Kind(), TAdoErrorKind::CannotOpen);
+    QCOMPARE(error.ServerMessage(), message);
+    QVERIFY2(error.Message().contains(words), qPrintable(error.Message()));
+}
+
+void OdbcEngineTest::aSessionOnTheServerHasItsOptions()
+{
+    const QString session = SqlServerSession(2500);
+    QVERIFY(session.endsWith(QStringLiteral("\nSET LOCK_TIMEOUT 2500")));
+    QVERIFY(SqlServerSession(-1).endsWith(QStringLiteral("\nSET LOCK_TIMEOUT 0")));
+    const QStringList lines = session.split(u'\n');
+    for (const QString& line : lines)
+        QVERIFY2(line.startsWith(QStringLiteral("SET ")), qPrintable(line));
 }
 
 void OdbcEngineTest::aWrongConnectionStringIsRefused_data()
