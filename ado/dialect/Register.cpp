@@ -1,6 +1,6 @@
 #include "Collation.h"
-#include "DecimalText.h"
 #include "Dialect.h"
+#include "SqlDecimal.h"
 #include "SqlValue.h"
 
 namespace Dialect {

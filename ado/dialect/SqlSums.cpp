@@ -1,4 +1,4 @@
-#include "DecimalText.h"
+#include "SqlDecimal.h"
 #include "SqlValue.h"
 
 #include <type_traits>
