@@ -167,7 +167,7 @@ int TWorkbench::Start(const TCommandLine& line)
                 "پروندهٔ تنظیمات %1 خوانده نشد و دست‌نخورده ماند؛ برنامه با تنظیمات نخستین باز می‌شود.")
                 .arg(PersianText::Isolated(THostSettings::DefaultFileName())));
     if (tour) {
-        HideSizeHintMessage();
+        HideOffscreenMessages();
         MakeFolder(line.TourFolder);
     }
     TStatementLog log;

@@ -212,7 +212,7 @@ int main(int argc, char** argv)
     const QTemporaryDir runtimeFolder;
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder.path()));
-    HideSizeHintMessage();
+    HideOffscreenMessages();
     QApplication application(argc, argv);
     Look::Install(application, Look::TScheme::Light);
     QCommandLineParser parser;

@@ -7,17 +7,23 @@ namespace {
 
 QtMessageHandler handlerBefore = nullptr;
 
+// What a window that nobody sees cannot do, in the platform's own words.
+bool IsOfNoMatterOffscreen(const QString& message)
+{
+    return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
+           message == QLatin1String("This plugin does not support raise()") ||
+           message == QLatin1String("This plugin does not support grabbing the keyboard");
+}
+
 void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    const bool sizeHints =
-        type == QtWarningMsg && message == QLatin1String("This plugin does not support propagateSizeHints()");
-    if (!sizeHints)
+    if (type != QtWarningMsg || !IsOfNoMatterOffscreen(message))
         handlerBefore(type, context, message);
 }
 
 } // namespace
 
-void HideSizeHintMessage()
+void HideOffscreenMessages()
 {
     if (handlerBefore == nullptr)
         handlerBefore = qInstallMessageHandler(PassOn);

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Keeps one line from the standard error stream, which the off-screen platform prints for every window,
-/// since a window that nobody sees takes no size hints. All other messages go where they went.
-void HideSizeHintMessage();
+/// Keeps from the standard error stream what the off-screen platform complains of for every window: that it
+/// takes no size hints, is not raised and does not grab the keyboard. All other messages go where they went.
+void HideOffscreenMessages();
