@@ -175,7 +175,7 @@ QWidget* TEntityPicker::NewFooter()
         row->addWidget(button);
         return button;
     };
-    addButton(TSmartButton_TRV::btOk, QStringLiteral("انتخاب"))->OnClick = [this](QObject*) { Pick(); };
+    addButton(TSmartButton_TRV::btOk, QStringLiteral("انتخاب"))->OnClick = [this](QObject*) { PickFound(); };
     addButton(TSmartButton_TRV::btCancel, QStringLiteral("انصراف"))->OnClick = [this](QObject*) { reject(); };
     return footer;
 }
@@ -272,13 +272,34 @@ void TEntityPicker::StartReading()
 void TEntityPicker::done(int result)
 {
     SaveState();
+    // A search that still waits for the end of the typing would keep the caller waiting.
+    parts_->Search->doselection = nullptr;
+    parts_->Search->SetRet_press(true);
     QDialog::done(result);
 }
 
+// What was typed counts, even where it is not in force yet; the search ends by picking then.
+void TEntityPicker::PickFound()
+{
+    pending_.clear();
+    if (!parts_->Search->Filter_is_done()) {
+        parts_->Search->SetRet_press(true);
+        return;
+    }
+    parts_->Manager.Flush();
+    if (!parts_->DataSet.IsEmpty())
+        Pick();
+}
+
+// Waits for a row that has not arrived only: a row that was clicked must not give way to those of a search
+// under way.
 void TEntityPicker::Pick()
 {
+    if (code_ != 0 || !isVisible())
+        return;
     const QPointer<TEntityPicker> guard(this);
-    if (code_ != 0 || !parts_->DataSet.WaitForCurrentRow() || !guard)
+    const bool isHere = parts_->DataSet.CurrentKey().isValid() || parts_->DataSet.WaitForCurrentRow();
+    if (!guard || !isHere)
         return;
     code_ = parts_->DataSet.CurrentKey().toInt();
     if (code_ != 0)
@@ -327,7 +348,7 @@ void TEntityPicker::Move(const QKeyEvent& key)
 void TEntityPicker::keyPressEvent(QKeyEvent* event)
 {
     if (IsPickKey(*event))
-        Pick();
+        PickFound();
     else
         QDialog::keyPressEvent(event);
 }

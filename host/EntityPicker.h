@@ -59,6 +59,7 @@ private:
     void StartSearch();
     void RestoreState();
     void SaveState() const;
+    void PickFound();
     void Pick();
     void FinishSearch();
     void Move(const QKeyEvent& key);

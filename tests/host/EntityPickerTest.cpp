@@ -226,19 +226,46 @@ private Q_SLOTS:
 
     void theButtonsPickAndCancel()
     {
-        const auto click = [](TEntityPicker& picker, TSmartButton_TRV::TButtonType type) {
-            const auto buttons = picker.findChildren<TSmartButton_TRV*>();
-            for (TSmartButton_TRV* button : buttons) {
-                if (button->ButtonType() == type)
-                    QTest::mouseClick(button, Qt::LeftButton);
-            }
-        };
-        QCOMPARE(shop_->Select(goods, QStringLiteral("5#LC#"),
-                               [&](TEntityPicker& picker) { click(picker, TSmartButton_TRV::btOk); }),
-                 5);
-        QCOMPARE(shop_->Select(goods, QStringLiteral("5#LC#"),
-                               [&](TEntityPicker& picker) { click(picker, TSmartButton_TRV::btCancel); }),
-                 0);
+        const auto ok = [](TEntityPicker& picker) { Click(picker, TSmartButton_TRV::btOk); };
+        QCOMPARE(shop_->Select(goods, QStringLiteral("5#LC#"), ok), 5);
+        const auto cancel = [](TEntityPicker& picker) { Click(picker, TSmartButton_TRV::btCancel); };
+        QCOMPARE(shop_->Select(goods, QStringLiteral("5#LC#"), cancel), 0);
+    }
+
+    void theButtonRightBehindTheTypingPicksWhatIsFound()
+    {
+        const int expected = FoundAt(0);
+        const int picked = shop_->Select(goods, {}, [](TEntityPicker& picker) {
+            shop_->Type(picker, word);
+            Click(picker, TSmartButton_TRV::btOk);
+            QTRY_VERIFY(picker.Code() != 0);
+        });
+        QCOMPARE(picked, expected);
+    }
+
+    void aDoubleClickRightBehindTheTypingPicksTheRowUnderTheMouse()
+    {
+        int expected = 0;
+        const int picked = shop_->Select(goods, {}, [&expected](TEntityPicker& picker) {
+            const QPoint cell = picker.Grid().visualRect(picker.Grid().model()->index(4, 1)).center();
+            expected = shop_->Codes(picker).at(4).toInt();
+            shop_->Type(picker, word);
+            QTest::mouseClick(picker.Grid().viewport(), Qt::LeftButton, Qt::NoModifier, cell);
+            QTest::mouseDClick(picker.Grid().viewport(), Qt::LeftButton, Qt::NoModifier, cell);
+        });
+        QVERIFY(expected > 0 && expected != FoundAt(0));
+        QCOMPARE(picked, expected);
+    }
+
+    void escapeBehindEnterCancels()
+    {
+        const int picked = shop_->Select(goods, {}, [](TEntityPicker& picker) {
+            shop_->Type(picker, word);
+            shop_->Press(picker, Qt::Key_Return);
+            shop_->Press(picker, Qt::Key_Escape);
+            QTest::qWait(600);
+        });
+        QCOMPARE(picked, 0);
     }
 
     void f10GoesToTheFieldAndAnotherFieldIsSearched()
@@ -274,6 +301,15 @@ private Q_SLOTS:
 private:
     static constexpr TSoftwarePart goods = TSoftwarePart::spGoods;
     static inline const QString word = QStringLiteral("شیر");
+
+    static void Click(TEntityPicker& picker, TSmartButton_TRV::TButtonType type)
+    {
+        const auto buttons = picker.findChildren<TSmartButton_TRV*>();
+        for (TSmartButton_TRV* button : buttons) {
+            if (button->ButtonType() == type)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
 
     // The n-th of the goods that the word finds, counted from 0.
     static int FoundAt(int row)
