@@ -23,6 +23,8 @@ constexpr int PixelsPerDigit = 10;
 
 void TSelect_AccountCode::TotalCode_EDTExit(QObject* /*sender*/)
 {
+    if (IsReporting(TCodeItem::ctTotal))
+        return;
     const QPointer<TSelect_AccountCode> guard(this);
     ClearBelow({TCodeItem::ctAssistant, TCodeItem::ctDetail});
     if (!guard)
@@ -49,6 +51,8 @@ void TSelect_AccountCode::TotalCode_EDTExit(QObject* /*sender*/)
 
 void TSelect_AccountCode::AssistantCode_EDTExit(QObject* /*sender*/)
 {
+    if (IsReporting(TCodeItem::ctAssistant))
+        return;
     const QPointer<TSelect_AccountCode> guard(this);
     ClearBelow({TCodeItem::ctDetail});
     if (!guard)
@@ -64,14 +68,21 @@ void TSelect_AccountCode::AssistantCode_EDTExit(QObject* /*sender*/)
                 return;
             AccountCodeBox::ShowPlaceholder(*DetailCode_EDT, AccountCodeNames::DetailOfUnknown);
             FocusBack(AssistantCode_EDT);
+            if (!guard)
+                return;
+            // Two boxes that are wrong would send the focus to and fro without an end.
+            const TScopedFlag here(this, focusGoesBack_, false);
+            RefreshExpenseCenter();
+            return;
         }
     }
-    if (guard)
-        RefreshExpenseCenter();
+    RefreshExpenseCenter();
 }
 
 void TSelect_AccountCode::DetailCode_EDTExit(QObject* /*sender*/)
 {
+    if (IsReporting(TCodeItem::ctDetail))
+        return;
     const QPointer<TSelect_AccountCode> guard(this);
     SetAllowClear(false);
     if (Showing())
@@ -95,6 +106,8 @@ void TSelect_AccountCode::DetailCode_EDTExit(QObject* /*sender*/)
 
 void TSelect_AccountCode::ExpenseCenterCode_EDTExit(QObject* /*sender*/)
 {
+    if (IsReporting(TCodeItem::ctExpenseCenter))
+        return;
     const QPointer<TSelect_AccountCode> guard(this);
     const QString text = ExpenseCenterCode_EDT->Text();
     if (text.isEmpty() || text == AccountCodeNames::ExpenseCenter) {
@@ -200,18 +213,28 @@ void TSelect_AccountCode::ShowTitle(const QString& title) const
 
 void TSelect_AccountCode::RefreshExpenseCenter()
 {
-    if (FCodeItem.Contains(TCodeItem::ctExpenseCenter) && GetExpCenterCode() != 0)
+    // While levels are emptied, the exit that empties them shows the center in the end.
+    if (!clearingBelow_ && FCodeItem.Contains(TCodeItem::ctExpenseCenter) && GetExpCenterCode() != 0)
         ExpenseCenterCode_EDTExit(nullptr);
 }
 
 void TSelect_AccountCode::ReportUnknown(QStringView subject, TSmartEdit_TRV* box)
 {
+    const TScopedFlag reporting(this, reporting_, true);
     Host().Messages.MsgCodeNotAvailable(subject.toString(), box, nullptr);
+}
+
+// While a message is open nobody leaves a box; the focus only comes and goes with the message's window.
+bool TSelect_AccountCode::IsReporting(TCodeItem level) const
+{
+    if (reporting_)
+        RestorePlaceholder(level);
+    return reporting_;
 }
 
 void TSelect_AccountCode::FocusBack(TSmartEdit_TRV* box) const
 {
-    if (Showing() && CanFocus(box))
+    if (focusGoesBack_ && Showing() && CanFocus(box))
         box->setFocus();
 }
 

@@ -163,6 +163,7 @@ private:
     void ShowTitle(const QString& title) const;
     void RefreshExpenseCenter();
     void ReportUnknown(QStringView subject, TSmartEdit_TRV* box);
+    bool IsReporting(TCodeItem level) const;
     void FocusBack(TSmartEdit_TRV* box) const;
     void RaiseChange();
     void RaiseEvent(const TNotifyEvent& handler, void (TSelect_AccountCode::*signal)());
@@ -185,5 +186,7 @@ private:
 
     QString accountName_;
     bool clearingBelow_ = false; ///< the owner is told once, when all levels are empty
+    bool reporting_ = false;     ///< a message is open
+    bool focusGoesBack_ = true;  ///< to the box of a code that does not exist
     bool advances_ = true;       ///< a box that is filled moves the focus on
 };

@@ -1,9 +1,7 @@
 #include "AccountLine.h"
 #include "TestCase.h"
 
-#include <QDialog>
 #include <QSignalSpy>
-#include <QTimer>
 
 namespace {
 
@@ -175,58 +173,6 @@ private Q_SLOTS:
         QCOMPARE(line.Box(L::D)->Text(), QStringLiteral("000009"));
         QVERIFY(line.Box(L::D)->hasFocus());
         QVERIFY(line.Tables.Statements.isEmpty()); // the expense center is not shown anew
-    }
-
-    void aModalMessageIsShownOnceAndTheFocusComesBack_data()
-    {
-        QTest::addColumn<TCodeItem>("level");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("total") << L::T << "005";
-        QTest::newRow("assistant") << L::A << "005";
-        QTest::newRow("detail") << L::D << "000005";
-        QTest::newRow("expense center") << L::E << "0005";
-    }
-    void aModalMessageIsShownOnceAndTheFocusComesBack()
-    {
-        QFETCH(TCodeItem, level);
-        QFETCH(QString, text);
-        TAccountLine line;
-        line.Frame->SetTotalCode(7);
-        line.Frame->SetAssistantCode(2);
-        line.Frame->SetDetailCode(11);
-        line.Host.Messages.WhileShown = [&line](QWidget* control) {
-            QDialog box(line.Form.get());
-            QTimer::singleShot(30, &box, &QDialog::accept);
-            box.exec();
-            control->setFocus();
-        };
-        QVERIFY(line.Start(level));
-        Typing::Type(line.Box(level), QStringLiteral("5"));
-        line.Leave();
-        QTest::qWait(50);
-        line.Form->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(line.Form.get()));
-        QCOMPARE(line.Messages().size(), 1);
-        QCOMPARE(line.Box(level)->Text(), text);
-        QVERIFY(line.Box(level)->hasFocus());
-    }
-
-    void theFormMayBeClosedWhileTheMessageIsOpen_data()
-    {
-        aModalMessageIsShownOnceAndTheFocusComesBack_data();
-    }
-    void theFormMayBeClosedWhileTheMessageIsOpen()
-    {
-        QFETCH(TCodeItem, level);
-        TAccountLine line;
-        line.Frame->SetTotalCode(7);
-        line.Frame->SetAssistantCode(2);
-        QVERIFY(line.Start(level));
-        const QPointer<TSelect_AccountCode> frame(line.Frame);
-        line.Host.Messages.WhileShown = [frame](QWidget*) { delete frame.data(); };
-        line.Box(level)->SetText(QStringLiteral("5"));
-        frame->RunExit(level, nullptr);
-        QVERIFY(frame.isNull());
     }
 
     void aDetailTellsItsExitWithoutTyping()
@@ -420,26 +366,6 @@ private Q_SLOTS:
         line.Leave();
         QCOMPARE(calls, 1);
         QCOMPARE(line.Box(L::T)->Text(), QStringLiteral("007"));
-    }
-
-    void theOwnersHandlerMayDestroyTheFrame_data()
-    {
-        QTest::addColumn<TCodeItem>("level");
-        QTest::newRow("total") << L::T;
-        QTest::newRow("assistant") << L::A;
-        QTest::newRow("detail") << L::D;
-        QTest::newRow("expense center") << L::E;
-    }
-    void theOwnersHandlerMayDestroyTheFrame()
-    {
-        QFETCH(TCodeItem, level);
-        TAccountLine line;
-        QVERIFY(line.Start(level));
-        const QPointer<TSelect_AccountCode> frame(line.Frame);
-        line.Frame->OnChange = [frame](QObject*) { delete frame.data(); };
-        Typing::Type(line.Box(level), QStringLiteral("42"));
-        frame->RunExit(level, nullptr);
-        QVERIFY(frame.isNull());
     }
 
     void signalsComeWithTheHandlers()
