@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr int fieldWidth = 380;
-constexpr int codeDigits = 6;
+constexpr int cardFieldWidth = 380;
+constexpr int accountDigits = 6;
 
 void ChooseObject(TSmartComboBox_TRV& box, int object)
 {
@@ -43,7 +43,7 @@ void AddField(QFormLayout* form, const QString& caption, QWidget* control)
     label->SetCaption(caption);
     label->SetFocusControl(control);
     control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
-    control->setFixedSize(fieldWidth, Look::ControlHeight);
+    control->setFixedSize(cardFieldWidth, Look::ControlHeight);
     form->addRow(label, control);
 }
 
@@ -110,7 +110,7 @@ void TDetailAccountCard::Lay()
     numberRow->addWidget(uniqueCode_);
     column->addLayout(numberRow);
     column->addWidget(NewButtons());
-    code_->SetMaxLength(codeDigits);
+    code_->SetMaxLength(accountDigits);
     code_->OnKeyPress = [](QObject*, QChar& key) {
         if (key.isPrint() && !key.isDigit())
             key = QChar();

@@ -46,7 +46,7 @@ std::optional<TVoucherFault> CheckAmounts(const TVoucherLine& line)
                      QStringLiteral("یک ردیف یا بدهکار است یا بستانکار؛ یکی از دو مبلغ را پاک کنید."));
     if (!debits && !credits)
         return Fault(TVoucherField::Debit, QStringLiteral("مبلغ بدهکار یا بستانکار ردیف را بنویسید."));
-    if (const auto fault = CheckAmount(TVoucherField::Debit, line.Debit))
+    if (auto fault = CheckAmount(TVoucherField::Debit, line.Debit))
         return fault;
     return CheckAmount(TVoucherField::Credit, line.Credit);
 }
@@ -81,7 +81,7 @@ std::optional<TVoucherFault> CheckAccount(const TAccountCode& account, const TAc
     if (account.Assistant != 0 && !facts.AssistantIsKnown)
         return Fault(TVoucherField::Assistant,
                      QStringLiteral("حساب معین با این کد نیست؛ کد را درست کنید یا با کلید + برگزینید."));
-    if (const auto fault = CheckDetail(account, facts))
+    if (auto fault = CheckDetail(account, facts))
         return fault;
     if (account.ExpenseCenter != 0 && !facts.CenterIsKnown)
         return Fault(
@@ -183,9 +183,9 @@ bool TVoucherDraft::IsChanged() const
 
 std::optional<TVoucherFault> TVoucherDraft::CheckLine(const TVoucherLine& line, const TAccountFacts& facts)
 {
-    if (const auto fault = CheckAccount(line.Account, facts))
+    if (auto fault = CheckAccount(line.Account, facts))
         return fault;
-    if (const auto fault = CheckAmounts(line))
+    if (auto fault = CheckAmounts(line))
         return fault;
     if (line.Description.size() > LongestDescription)
         return Fault(

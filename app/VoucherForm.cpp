@@ -120,6 +120,7 @@ void TVoucherForm::ConnectParts()
 {
     TParts& parts = *parts_;
     parts.Source.SetDataSet(&parts.Lines);
+    parts.Grid->setAccessibleName(QStringLiteral("ردیف‌های سند"));
     parts.Grid->SetColumns(Columns());
     parts.Grid->SetDataSource(&parts.Source);
     parts.Grid->RestoreLayout(host_->Settings().Value(layoutKey).toByteArray());

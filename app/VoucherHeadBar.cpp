@@ -124,6 +124,8 @@ void TVoucherHeadBar::Show(const TVoucherHead& head)
     ShowNumber();
     date_->SetText(head.Date);
     title_->SetText(head.Title);
+    shownDate_ = date_->Text();
+    shownTitle_ = title_->Text();
 }
 
 void TVoucherHeadBar::ShowNumber()
@@ -138,8 +140,10 @@ TVoucherHead TVoucherHeadBar::Head() const
         head.FiscalYear = Year() == nullptr ? 0 : Year()->Code;
     // A day that does not exist goes on as it is typed, so that the check names it.
     const QString date = date_->GetValue();
-    head.Date = date.isEmpty() ? date_->Text() : date;
-    head.Title = title_->Text();
+    if (date_->Text() != shownDate_)
+        head.Date = date.isEmpty() ? date_->Text() : date;
+    if (title_->Text() != shownTitle_)
+        head.Title = title_->Text();
     return head;
 }
 

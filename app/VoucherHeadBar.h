@@ -57,6 +57,8 @@ private:
 
     QVector<TFiscalYear> years_;
     TVoucherHead head_;
+    QString shownDate_; // as the edits spell what was shown, which a saved voucher may spell otherwise
+    QString shownTitle_;
     TSmartComboBox_TRV* year_;
     TSmartEdit_TRV* number_;
     TSmartDateEdit_TRV* date_;

@@ -265,6 +265,23 @@ private Q_SLOTS:
                     .endsWith(QStringLiteral("اصلاح")));
     }
 
+    void aVoucherThatIsOnlyLookedAtCountsAsUnchangedHoweverItIsSpelled()
+    {
+        TypeVoucher(QStringLiteral("5"));
+        shop_->Press(Qt::Key_F2);
+        const int number = form_->Draft().Head.Number;
+        shop_->Connection.Execute(
+            QStringLiteral("UPDATE dbo.Sanad SET Title = N'  شرح با فاصله  ', VoucherDate = "
+                           "N'1403/3/4' WHERE Id = ?"),
+            {form_->Draft().Head.Id});
+        form_->OpenVoucher(number);
+        QVERIFY(!form_->IsChanged());
+        QVERIFY(form_->Save());
+        QCOMPARE(shop_->Text(QStringLiteral("SELECT VoucherDate FROM dbo.Sanad WHERE Id = %1")
+                                 .arg(form_->Draft().Head.Id)),
+                 QStringLiteral("1403/03/04"));
+    }
+
     void anUnknownNumberIsToldAtItsBox()
     {
         shop_->Press(Qt::Key_F3);
