@@ -6,8 +6,6 @@ namespace {
 
 using TForm = TAccountForm<TAccountingCodes_Search_Frame>;
 constexpr TCodeItem T = TCodeItem::ctTotal;
-constexpr TCodeItem A = TCodeItem::ctAssistant;
-constexpr TCodeItem D = TCodeItem::ctDetail;
 constexpr TCodeItem E = TCodeItem::ctExpenseCenter;
 
 QList<TTarvaSearch*> Criteria(const TForm& form)

@@ -3,7 +3,7 @@
 
 namespace {
 
-const QString Unknown = QStringLiteral("MsgCodeNotAvailable(مرکز هزينه اي, ExpenseCenterCode_EDT, -)");
+constexpr QStringView Unknown = u"MsgCodeNotAvailable(مرکز هزينه اي, ExpenseCenterCode_EDT, -)";
 
 QString Label(const QString& account, const QString& title)
 {
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(line.Start(L::E));
         Typing::Type(line.Box(L::E), QStringLiteral("43"));
         line.Leave();
-        QCOMPARE(line.Messages(), QStringList{Unknown});
+        QCOMPARE(line.Messages(), QStringList{Unknown.toString()});
         QCOMPARE(line.Box(L::E)->Text(), QStringLiteral("0043"));
         QVERIFY(line.Box(L::E)->hasFocus());
         QVERIFY(line.Events.isEmpty());
@@ -79,7 +79,7 @@ private Q_SLOTS:
         Typing::Type(line.Box(L::E), typed);
         line.Leave();
         QCOMPARE(line.Box(L::E)->Text(), text);
-        QCOMPARE(line.Messages(), QStringList{Unknown});
+        QCOMPARE(line.Messages(), QStringList{Unknown.toString()});
         QVERIFY(line.Tables.Statements.isEmpty());
         QVERIFY(line.Box(L::E)->hasFocus());
     }
@@ -105,7 +105,7 @@ private Q_SLOTS:
         Typing::Type(line.Box(L::E), QStringLiteral("0"));
         line.Leave();
         QCOMPARE(line.Tables.Statements, QStringList{"SELECT dbo.GetExpCenterName(0000) AS Title"});
-        QCOMPARE(line.Messages(), QStringList{Unknown});
+        QCOMPARE(line.Messages(), QStringList{Unknown.toString()});
     }
 
     void theOwnersCodeIsWrittenAsItIsAndPaddedByTheExit()

@@ -2,9 +2,11 @@
 #include "Look.h"
 #include "TestCase.h"
 
+#include <QClipboard>
+
 namespace {
 
-const QString Grey = QStringLiteral("#a0a0a4");
+constexpr QStringView Grey = u"#a0a0a4";
 
 QColor TextColor(const QWidget* widget)
 {
@@ -60,7 +62,7 @@ private Q_SLOTS:
         const TAccountLine line;
         QCOMPARE(line.Texts(), Placeholders());
         for (const TCodeItem level : {L::T, L::A, L::D, L::E}) {
-            QCOMPARE(TextColor(line.Box(level)).name(), Grey);
+            QCOMPARE(TextColor(line.Box(level)).name(), Grey.toString());
             QCOMPARE(line.Box(level)->font().pointSize(), 10);
         }
         QCOMPARE(line.Name(), QString());
@@ -263,7 +265,7 @@ private Q_SLOTS:
         Finish();
         QVERIFY(ofCode >= 4.5);
         QVERIFY(ofPlaceholder >= 4.5);
-        QCOMPARE(placeholder.name(), Grey);
+        QCOMPARE(placeholder.name(), Grey.toString());
         QCOMPARE(TextColor(line.Box(L::T)), QColor(Qt::black));
     }
 

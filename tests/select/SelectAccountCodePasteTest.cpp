@@ -3,6 +3,8 @@
 #include "RandomTexts.h"
 #include "TestCase.h"
 
+#include <QClipboard>
+#include <QMimeData>
 #include <QRegularExpression>
 
 namespace {

@@ -76,7 +76,7 @@ private Q_SLOTS:
         line.Frame->SetDetailCode(11);
         QVERIFY(line.Start());
         Pick(line, {90, 0, 0});
-        QCOMPARE(line.Texts().first(), QStringLiteral("090"));
+        QCOMPARE(line.Texts().constFirst(), QStringLiteral("090"));
         QCOMPARE(line.Frame->GetAssistantCode(), 0);
         QCOMPARE(line.Frame->GetDetailCode(), 0);
         QVERIFY(line.Box(L::A)->hasFocus()); // a total that fills its box moves on
@@ -113,7 +113,6 @@ private Q_SLOTS:
         QFETCH(int, levels);
         QFETCH(QStringList, texts);
         TAccountLine line(TCodeItems::FromBits(static_cast<unsigned>(levels)));
-        const QStringList known = line.Host.Accounting.Names.keys();
         for (const QString& total : {QString(), QStringLiteral("7")}) {
             for (const QString& assistant : {QString(), QStringLiteral("2")}) {
                 for (const QString& detail : {QString(), QStringLiteral("11")})
@@ -205,7 +204,7 @@ private Q_SLOTS:
         QVERIFY(line.Start(L::E));
         line.Host.Pickers.Picked = 42;
         Typing::Type(line.Box(L::E), QStringLiteral("+"));
-        QCOMPARE(line.Host.Log.Lines().first(), QStringLiteral("Select_Entity(115, , 0)"));
+        QCOMPARE(line.Host.Log.Lines().constFirst(), QStringLiteral("Select_Entity(115, , 0)"));
         QCOMPARE(line.Box(L::E)->Text(), QStringLiteral("0042"));
         QVERIFY(line.Name().contains(QStringLiteral("[کارگاه]")));
         QCOMPARE(line.Events, QStringList{"change"});
