@@ -174,7 +174,7 @@ void TAccountDetailPane::ShowNothing(const QString& reason)
 void TAccountDetailPane::ShowKind(TFloatingAccountsType kind, const QString& kindName, int code)
 {
     choosing_ = false;
-    if (kind == kind_)
+    if (kind == kind_ && parts_->DataSet.Active())
         return;
     kind_ = kind;
     searched_.clear();

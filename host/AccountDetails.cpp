@@ -29,7 +29,7 @@ QString TypedCode(const QString& typed)
 {
     const QString digits = PersianText::AsciiDigits(typed).trimmed();
     const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    constexpr int mostDigits = std::numeric_limits<int>::digits10;
+    constexpr int mostDigits = std::numeric_limits<int>::digits10 + 1;
     const bool isCode = digits.size() <= mostDigits && std::all_of(digits.begin(), digits.end(), isDigit);
     return isCode ? digits : QString();
 }

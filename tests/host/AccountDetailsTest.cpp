@@ -29,6 +29,7 @@ private Q_SLOTS:
         chart_ = std::make_unique<TChartFixture>();
         chart_->AddDetail(1, 7000, QStringLiteral("شمارهٔ ۰۱۲"), 1007000);
         chart_->AddDetail(1, 1234567, QStringLiteral("کد بلند"), 1008000);
+        chart_->AddDetail(1, 2000000000, QStringLiteral("بلندترین کد"), 1009000);
         chart_->AddDetail(1, 7001, QStringLiteral("کنارگذاشته ۰۱۲"), 1007001, false);
         chart_->AddDetail(1, 7002, QStringLiteral("بی کد یکتا ۰۱۲"), 0);
     }
@@ -67,8 +68,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         for (const char* typed :
-             {"1",   "12", "012", "000012", "0",     "0000", "7",           "7000", "1234567", "۱۲", "١٢",
-              "رضا", "ي",  "كد",  "بلند",   "شماره", "x",    "99999999999", "%",    "_",       "[",  "'"})
+             {"1",       "12",         "012",         "000012", "0",   "0000", "7",  "7000",
+              "1234567", "2000000000", "۱۲",          "١٢",     "رضا", "ي",    "كد", "بلند",
+              "شماره",   "x",          "99999999999", "%",      "_",   "[",    "'"})
             QTest::newRow(typed) << QString::fromUtf8(typed);
     }
 
