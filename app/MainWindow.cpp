@@ -9,6 +9,7 @@
 #include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
+#include "VoucherForm.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -201,12 +202,20 @@ void TMainWindow::OpenPageAt(qsizetype place)
     if (pages_.at(place) == nullptr) {
         pages_[place] = description.Create(*host_, stack_);
         stack_->addWidget(pages_.at(place));
+        connect(pages_.at(place), &TPage::voucherWanted, this, &TMainWindow::OpenVoucher);
     }
     stack_->setCurrentWidget(pages_.at(place));
     pageActions_.at(place)->setChecked(true);
     setWindowTitle(
         QStringLiteral("%1 — %2").arg(description.Title, QGuiApplication::applicationDisplayName()));
     pages_.at(place)->Enter();
+}
+
+void TMainWindow::OpenVoucher(int fiscalYear, int number)
+{
+    auto* form = qobject_cast<TVoucherForm*>(OpenPage(QStringLiteral("Voucher")));
+    if (form != nullptr)
+        form->OpenVoucherOf(fiscalYear, number);
 }
 
 TPage* TMainWindow::CurrentPage() const

@@ -43,6 +43,7 @@ private:
     void AddMenus();
     void AddPageActions();
     void OpenPageAt(qsizetype place);
+    void OpenVoucher(int fiscalYear, int number);
     void AddViewMenu();
     void AddHelpMenu();
     void AddSchemes(QMenu* menu);

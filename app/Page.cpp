@@ -2,6 +2,7 @@
 
 #include "DetailAccountForm.h"
 #include "ListForm.h"
+#include "ReportForm.h"
 #include "VoucherForm.h"
 
 TPage::~TPage() = default;
@@ -28,5 +29,6 @@ QVector<TPageDescription> WorkbenchPages()
         ListPage(PersonsList()),
         FormPage<TVoucherForm>(QStringLiteral("Voucher"), QStringLiteral("صدور سند")),
         FormPage<TDetailAccountForm>(QStringLiteral("DetailAccounts"), QStringLiteral("حساب تفصیلی")),
+        FormPage<TReportForm>(QStringLiteral("VoucherLines"), QStringLiteral("گزارش اسناد")),
     };
 }

@@ -37,6 +37,10 @@ public:
     virtual void Reconnect() {}
     /// The keys that work on this page.
     virtual QVector<TKeyHelp> Keys() const = 0;
+
+Q_SIGNALS:
+    /// The user wants to see a voucher; the window opens it.
+    void voucherWanted(int fiscalYear, int number);
 };
 
 /// A page as menu and navigation know it.

@@ -257,9 +257,19 @@ void TVoucherForm::ChooseYear()
 
 void TVoucherForm::OpenVoucher(int number)
 {
+    if (parts_->Head->Year() != nullptr && MayDiscard())
+        LoadVoucher(number);
+}
+
+void TVoucherForm::OpenVoucherOf(int fiscalYear, int number)
+{
+    if (MayDiscard() && parts_->Head->ChooseYear(fiscalYear))
+        LoadVoucher(number);
+}
+
+void TVoucherForm::LoadVoucher(int number)
+{
     const TFiscalYear* year = parts_->Head->Year();
-    if (year == nullptr || !MayDiscard())
-        return;
     if (!parts_->Store.Find(year->Code, number, parts_->Draft)) {
         parts_->Head->FocusNumber();
         parts_->Head->Number().ShowError(QStringLiteral("سندی با این شماره در %1 نیست.").arg(year->Title));

@@ -40,6 +40,8 @@ public:
     void NewVoucher();
     /// Shows a saved voucher of the chosen year, after the user has been asked about unsaved changes.
     void OpenVoucher(int number);
+    /// The same for a voucher of any year, which becomes the chosen one.
+    void OpenVoucherOf(int fiscalYear, int number);
     /// F2: saves; false where that was refused and told at its control.
     bool Save();
     /// What the user has typed is not all saved.
@@ -50,6 +52,7 @@ private:
     void ConnectParts();
     void ConnectKeys();
     void StartNew();
+    void LoadVoucher(int number);
     void ShowVoucher(const QString& sentence);
     void ShowLines(int row);
     QString StateSentence() const;

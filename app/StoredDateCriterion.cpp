@@ -1,0 +1,50 @@
+#include "StoredDateCriterion.h"
+
+#include "DateBound.h"
+#include "DateText.h"
+#include "SmartFaDate.h"
+
+namespace {
+
+// A year from here on was meant in the Gregorian calendar: the solar one reaches it in seven centuries.
+constexpr int FirstGregorianYear = 1700;
+
+} // namespace
+
+TStoredDateCriterion::TStoredDateCriterion(const TTarvaSearch& frame, QObject* parent)
+    : TTarvaSearch(parent), frame_(&frame)
+{
+    setObjectName(frame.objectName() + QStringLiteral("_Stored"));
+    SetSearchTypes(frame.SearchTypes());
+    for (int index = 0; index < frame.SearchItems.Count(); ++index)
+        SearchItems.Add(frame.SearchItems.GetItem(index));
+    connect(frame_, &TTarvaSearch::activeChanged, this, &TStoredDateCriterion::Follow);
+    connect(frame_, &TTarvaSearch::reverstChanged, this, &TStoredDateCriterion::Follow);
+    connect(frame_, &TTarvaSearch::changed, this, &TStoredDateCriterion::Follow);
+    connect(frame_, &TTarvaSearch::itemIndexChanged, this, &TStoredDateCriterion::Follow);
+    Follow();
+}
+
+TStoredDateCriterion::~TStoredDateCriterion() = default;
+
+QString TStoredDateCriterion::StoredForm(const QString& date)
+{
+    if (DateBound::IsOpen(date))
+        return date;
+    const auto numbers = DateText::Read(date);
+    if (!numbers)
+        return date;
+    if (numbers->Year < FirstGregorianYear)
+        return DateText::Write(*numbers);
+    const TFaDate day = TFaDate::CreateByGregorianDate(date);
+    return day.IsValid() ? day.ToDateString() : date;
+}
+
+void TStoredDateCriterion::Follow()
+{
+    SetItemIndex(frame_->ItemIndex());
+    SetValue1(StoredForm(frame_->Value1().toString()));
+    SetValue2(StoredForm(frame_->Value2().toString()));
+    SetReverst(frame_->Reverst());
+    SetActive(frame_->Active());
+}

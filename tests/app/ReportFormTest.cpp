@@ -1,0 +1,233 @@
+#include "ReportFixture.h"
+
+#include "ADVSearch_UNT.h"
+#include "DateRange_Display_UNT.h"
+#include "MainWindow.h"
+#include "Range_Date_Search.h"
+#include "Range_Digit_Search.h"
+#include "Range_String_Search.h"
+#include "ReportText.h"
+#include "Select_Entity_UNT.h"
+#include "SelectEntity_Search_UNT.h"
+#include "SmartButtonEdit_TRV.h"
+#include "SmartCheckBox_TRV.h"
+#include "SmartComboBox_TRV.h"
+#include "SmartDateEdit_TRV.h"
+#include "SmartEdit_TRV.h"
+#include "SmartMaskEdit_TRV.h"
+#include "Tab_Search_UNT.h"
+#include "TabControl.h"
+#include "VoucherForm.h"
+
+class ReportFormTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { shop_ = std::make_unique<TReportFixture>(); }
+    void cleanupTestCase() { shop_.reset(); }
+    void init()
+    {
+        shop_->Settings.SetValue(QStringLiteral("Reports/VoucherLines/Filters"), QString());
+        filters_ = &shop_->OpenReport().Filters();
+    }
+    void cleanup()
+    {
+        shop_->Connection.OnWillExecute = nullptr;
+        shop_->Form.reset();
+    }
+
+    void theSwitchShowsAndHidesTheFilters()
+    {
+        QVERIFY(!filters_->AdvancedIsShown());
+        shop_->Press(Qt::Key_F10, Qt::ControlModifier);
+        QVERIFY(filters_->AdvancedIsShown());
+        QVERIFY(filters_->Date->RangeDate_CHK->hasFocus());
+        shop_->Press(Qt::Key_F10, Qt::ControlModifier);
+        QVERIFY(filters_->AdvancedIsShown());
+        filters_->Advanced->ADVSearch_CHK->setFocus();
+        shop_->Press(Qt::Key_Space);
+        QVERIFY(!filters_->AdvancedIsShown());
+    }
+
+    void thePeriodIsChosenByKeyboard()
+    {
+        shop_->Press(Qt::Key_F10);
+        QVERIFY(filters_->Period->RangeDate_CMB->hasFocus());
+        const QString all = shop_->Words();
+        shop_->Press(Qt::Key_Up); // the week
+        shop_->Settle();
+        const QString week = shop_->Words();
+        shop_->Press(Qt::Key_Up); // the month
+        shop_->Settle();
+        const QString month = shop_->Words();
+        QVERIFY(week != all && month != all && week != month);
+        shop_->Press(Qt::Key_Down);
+        shop_->Settle();
+        QCOMPARE(shop_->Words(), week);
+        shop_->Press(Qt::Key_Down);
+        shop_->ExpectAll();
+    }
+
+    void thePeriodCoversTheSameDaysInBothCalendars()
+    {
+        filters_->Period->RangeDate_CMB->setFocus();
+        shop_->Press(Qt::Key_Home); // the last thirty days
+        const QString solar = shop_->Report->Manager().Condition();
+        QVERIFY2(solar.startsWith(QStringLiteral("[VoucherDate] >= N'14")), qPrintable(solar));
+        shop_->Settings.SetGregorian(true);
+        filters_->Period->SetRangeValue();
+        const QString gregorian = shop_->Report->Manager().Condition();
+        shop_->Settings.SetGregorian(false);
+        QCOMPARE(gregorian, solar);
+    }
+
+    void theFiltersAreKept()
+    {
+        const QString from = shop_->Lines.at(shop_->Lines.size() / 2).Date;
+        const int person = Person();
+        filters_->ShowAdvanced(true);
+        Toggle(filters_->Date->RangeDate_CHK);
+        TypeInto(filters_->Date->RangeDate_From_EDT, from);
+        Toggle(filters_->Digit->RangeDigit_CHK);
+        TypeInto(filters_->Digit->RangeDigit_From_EDT, QStringLiteral("3"));
+        Toggle(filters_->Digit->RangeDigit_Reverst_CHK);
+        Toggle(filters_->Entity->SelectEntity_CHK);
+        TypeInto(filters_->Entity->TSelect_Entity_Frame1->Code_EDT, QString::number(person));
+        Toggle(filters_->Entity->SelectEntity_Reverst_CHK);
+        filters_->Tabs->Search_TBC->setFocus();
+        shop_->Press(Qt::Key_Left);
+        shop_->Settle();
+        const QString condition = shop_->Report->Manager().Condition();
+        const QString words = shop_->Words();
+        QVERIFY(condition.count(QStringLiteral(" AND ")) >= 3);
+        filters_ = &shop_->Reopen().Filters();
+        QCOMPARE(shop_->Report->Manager().Condition(), condition);
+        QCOMPARE(shop_->Words(), words);
+        QCOMPARE(filters_->Date->RangeDate_From_EDT->Text(), from);
+        QCOMPARE(filters_->Tabs->Search_TBC->TabIndex(), 1);
+    }
+
+    void spoiltSettingsAreLeftOut_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::newRow("no JSON") << QStringLiteral("{\"date\":");
+        QTest::newRow("other kinds") << QStringLiteral("{\"date\":7,\"period\":\"x\",\"tab\":99,\"number\":"
+                                                       "{\"field\":50,\"values\":[1,2,3]}}");
+        QTest::newRow("hostile") << QStringLiteral(
+            "{\"code\":{\"on\":true,\"field\":1,\"values\":[\"'; DELETE FROM dbo.Sanad; --\",\"\"]}}");
+    }
+    void spoiltSettingsAreLeftOut()
+    {
+        QFETCH(QString, state);
+        shop_->Form.reset();
+        shop_->Settings.SetValue(QStringLiteral("Reports/VoucherLines/Filters"), state);
+        shop_->OpenReport();
+        QVERIFY(shop_->Report->DataSet().CountIsExact());
+        QCOMPARE(shop_->Text(QStringLiteral("SELECT COUNT(*) FROM dbo.Sanad_Detail")),
+                 QString::number(shop_->Lines.size()));
+    }
+
+    void hostileTextStaysAText()
+    {
+        filters_->ShowAdvanced(true);
+        Toggle(filters_->Code->RangeString_CHK);
+        shop_->Press(Qt::Key_Down); // the field without a length
+        TypeInto(filters_->Code->RangeString_From_EDT, QStringLiteral("'; DELETE FROM dbo.Sanad_Detail; --"));
+        shop_->Report->Grid().setFocus();
+        shop_->Settle();
+        QVERIFY(shop_->Report->Manager().Condition().contains(QStringLiteral("N'''; DELETE")));
+        QCOMPARE(shop_->Text(QStringLiteral("SELECT COUNT(*) FROM dbo.Sanad_Detail")),
+                 QString::number(shop_->Lines.size()));
+    }
+
+    void f5ReadsWhatOthersHaveWritten()
+    {
+        const QString before = shop_->Report->Totals().DebitText();
+        TADOQuery query;
+        query.SetConnection(&shop_->Connection);
+        const QString change = QStringLiteral("UPDATE dbo.Sanad_Detail SET Bed = Bed %1 0.25 WHERE Id = 1");
+        query.SQL.SetText(change.arg(u'+'));
+        query.ExecSQL();
+        shop_->Press(Qt::Key_F5);
+        shop_->Settle();
+        const QString after = shop_->Report->Totals().DebitText();
+        query.SQL.SetText(change.arg(u'-'));
+        query.ExecSQL();
+        QCOMPARE(TReportFixture::Digits(after), TReportFixture::Digits(before) + QStringLiteral(".25"));
+    }
+
+    void onlyTheNewestQuestionIsAnswered()
+    {
+        filters_->ShowAdvanced(true);
+        Toggle(filters_->Digit->RangeDigit_CHK);
+        for (const int number : {1, 2, 3, 4, 5}) {
+            filters_->Digit->SetSearchValue1(number);
+            shop_->Report->Manager().Flush();
+        }
+        shop_->Expect([](const TPlainLine& line) { return line.Number >= 5; });
+    }
+
+    void enterOpensTheVoucherOfTheLine()
+    {
+        shop_->Form.reset();
+        TMainWindow window(shop_->Host, QStringLiteral("shop.db"));
+        window.show();
+        shop_->Activate(&window);
+        auto* report = qobject_cast<TReportForm*>(window.OpenPage(QStringLiteral("VoucherLines")));
+        QVERIFY(report != nullptr);
+        QVERIFY(report->DataSet().WaitForFirstPage());
+        report->Grid().setFocus();
+        report->DataSet().SetRecNo(5);
+        const TPlainLine& line = shop_->Lines.at(4);
+        QTest::keyClick(&report->Grid(), Qt::Key_Return);
+        auto* voucher = qobject_cast<TVoucherForm*>(window.CurrentPage());
+        QVERIFY(voucher != nullptr);
+        QCOMPARE(voucher->Draft().Head.FiscalYear, line.FiscalYear);
+        QCOMPARE(voucher->Draft().Head.Number, line.Number);
+    }
+
+    void theWordsHaveTheDatesOfTheHostsCalendar()
+    {
+        QCOMPARE(ReportText::Date(QStringLiteral("1403/01/01"), false), QStringLiteral("1403/01/01"));
+        QCOMPARE(ReportText::Date(QStringLiteral("1403/01/01"), true), QStringLiteral("2024/03/20"));
+        QCOMPARE(ReportText::Date(QStringLiteral("2024-03-20T10:11:12"), false),
+                 QStringLiteral("1403/01/01 10:11"));
+        QCOMPARE(ReportText::Date(QStringLiteral("2024/03/20-08:00"), true),
+                 QStringLiteral("2024/03/20 08:00"));
+        QCOMPARE(ReportText::Date(QStringLiteral("=1+1"), true), QStringLiteral("=1+1"));
+    }
+
+private:
+    int Person() const
+    {
+        for (const TPlainLine& line : shop_->Lines) {
+            if (line.DetailType == 1 && line.Tafzili != 0)
+                return line.Tafzili;
+        }
+        return 0;
+    }
+    void Toggle(QWidget* box) const
+    {
+        box->setFocus();
+        QVERIFY(box->hasFocus());
+        shop_->Press(Qt::Key_Space);
+    }
+    void TypeInto(QWidget* edit, const QString& text) const
+    {
+        edit->setFocus();
+        QVERIFY(edit->hasFocus());
+        shop_->Press(Qt::Key_A, Qt::ControlModifier);
+        shop_->Type(text);
+    }
+
+    std::unique_ptr<TReportFixture> shop_;
+    TReportFilterPanel* filters_ = nullptr;
+};
+
+int main(int argc, char** argv)
+{
+    return RunFormTest<ReportFormTest>(argc, argv);
+}
+
+#include "ReportFormTest.moc"
