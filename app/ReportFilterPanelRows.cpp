@@ -27,6 +27,8 @@ constexpr TCodeItem Levels[] = {TCodeItem::ctTotal, TCodeItem::ctAssistant, TCod
 constexpr TCodeItems AllLevels{TCodeItem::ctTotal, TCodeItem::ctAssistant, TCodeItem::ctDetail,
                                TCodeItem::ctExpenseCenter};
 
+constexpr int LongestText = 100;
+
 QStringList CodesOf(const TSelect_AccountCode& selector)
 {
     QStringList codes;
@@ -136,6 +138,14 @@ void TReportFilterPanel::AddCodeRow()
     row.Fields = Code->RangeString_CMB;
     row.Reverse = Code->RangeString_Reverst_CHK;
     row.Init = [this] { Code->init(); };
+    // The frame leaves its edits as short as the field before needed them.
+    connect(Code->TarvaSearch_Range_String, &TTarvaSearch::itemIndexChanged, this, [this] {
+        const TSearchItem* item = Code->TarvaSearch_Range_String->CurrentItem();
+        if (item == nullptr || item->MaxLength > 0)
+            return;
+        Code->RangeString_From_EDT->SetMaxLength(LongestText);
+        Code->RangeString_To_EDT->SetMaxLength(LongestText);
+    });
     row.SetValues = [this](const QStringList& values) {
         Code->RangeString_From_EDT->SetText(values.at(0));
         Code->RangeString_To_EDT->SetText(values.at(1));

@@ -136,7 +136,8 @@ private Q_SLOTS:
         TypeInto(filters_->Code->RangeString_From_EDT, QStringLiteral("'; DELETE FROM dbo.Sanad_Detail; --"));
         shop_->Report->Grid().setFocus();
         shop_->Settle();
-        QVERIFY(shop_->Report->Manager().Condition().contains(QStringLiteral("N'''; DELETE")));
+        const QString condition = shop_->Report->Manager().Condition();
+        QVERIFY2(condition.contains(QStringLiteral("N'''; DELETE")), qPrintable(condition));
         QCOMPARE(shop_->Text(QStringLiteral("SELECT COUNT(*) FROM dbo.Sanad_Detail")),
                  QString::number(shop_->Lines.size()));
     }
@@ -147,12 +148,12 @@ private Q_SLOTS:
         TADOQuery query;
         query.SetConnection(&shop_->Connection);
         const QString change = QStringLiteral("UPDATE dbo.Sanad_Detail SET Bed = Bed %1 0.25 WHERE Id = 1");
-        query.SQL.SetText(change.arg(u'+'));
+        query.SQL.SetText(change.arg(QChar(u'+')));
         query.ExecSQL();
         shop_->Press(Qt::Key_F5);
         shop_->Settle();
         const QString after = shop_->Report->Totals().DebitText();
-        query.SQL.SetText(change.arg(u'-'));
+        query.SQL.SetText(change.arg(QChar(u'-')));
         query.ExecSQL();
         QCOMPARE(TReportFixture::Digits(after), TReportFixture::Digits(before) + QStringLiteral(".25"));
     }
