@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int DaysOfWeek = 7;
 constexpr int MonthsOfYear = 12;
 
 /// One sign for a month, two for a year; what was lies to the right.
@@ -151,9 +150,9 @@ QDate TCalendarPopup::Reached(const QKeyEvent* event) const
     case Qt::Key_Left:
         return date.addDays(1);
     case Qt::Key_Up:
-        return date.addDays(-DaysOfWeek);
+        return date.addDays(-TMonthPage::DaysOfWeek);
     case Qt::Key_Down:
-        return date.addDays(DaysOfWeek);
+        return date.addDays(TMonthPage::DaysOfWeek);
     case Qt::Key_PageUp:
         return calendar_.AddMonths(date, -months);
     case Qt::Key_PageDown:

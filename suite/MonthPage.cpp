@@ -8,19 +8,18 @@
 
 namespace {
 
-constexpr int DaysOfWeek = 7;
 constexpr int Weeks = 6;
 constexpr QSize Cell(9 * Look::Unit, 8 * Look::Unit);
 
 /// 0 for a Saturday.
 int ColumnOf(const QDate& date)
 {
-    return (date.dayOfWeek() + 1) % DaysOfWeek;
+    return (date.dayOfWeek() + 1) % TMonthPage::DaysOfWeek;
 }
 
 bool IsHoliday(int column)
 {
-    return column == DaysOfWeek - 1;
+    return column == TMonthPage::DaysOfWeek - 1;
 }
 
 } // namespace

@@ -13,6 +13,8 @@ class SUITE_EXPORT TMonthPage : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr int DaysOfWeek = 7;
+
     TMonthPage(TCalendarKind calendar, const QDate& today, QWidget* parent);
     ~TMonthPage() override;
 

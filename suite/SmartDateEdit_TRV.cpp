@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QChar Separator = u'/';
+constexpr QChar DateSeparator = u'/';
 constexpr int MonthsOfYear = 12;
 
 enum TSectionIndex { YearSection, MonthSection, DaySection };
@@ -33,7 +33,7 @@ bool IsBound(const QString& text)
     return text == LowestBound() || text == HighestBound();
 }
 
-QList<TSectionText::TSection> Sections()
+QList<TSectionText::TSection> DateSections()
 {
     return {{4, 0, 9999, {}, true},
             {2, 1, MonthsOfYear, QStringLiteral("ماه از 1 تا 12 است؛ ماه را درست بنویسید.")},
@@ -80,7 +80,7 @@ QIcon CalendarIcon(const QColor& color)
 
 } // namespace
 
-TSmartDateEdit_TRV::TSmartDateEdit_TRV(QWidget* parent) : TSectionEdit(Sections(), Separator, parent)
+TSmartDateEdit_TRV::TSmartDateEdit_TRV(QWidget* parent) : TSectionEdit(DateSections(), DateSeparator, parent)
 {
     Typed().SetCompletion([this](qsizetype section, const QString& digits) {
         return section == YearSection ? CompletedYear(digits) : digits.rightJustified(2, u'0');

@@ -9,12 +9,12 @@
 
 namespace {
 
-constexpr QChar Separator = u':';
+constexpr QChar TimeSeparator = u':';
 constexpr int HoursOfDay = 24;
 constexpr int MinutesOfHour = 60;
 constexpr int MinutesOfDay = HoursOfDay * MinutesOfHour;
 
-QList<TSectionText::TSection> Sections()
+QList<TSectionText::TSection> TimeSections()
 {
     return {{2, 0, HoursOfDay - 1, QStringLiteral("ساعت از 0 تا 23 است؛ ساعت را درست بنویسید.")},
             {2, 0, MinutesOfHour - 1, QStringLiteral("دقیقه از 0 تا 59 است؛ دقیقه را درست بنویسید.")}};
@@ -32,7 +32,7 @@ QString TextOf(const QTime& time)
 
 } // namespace
 
-TSmartTime_TRV::TSmartTime_TRV(QWidget* parent) : TSectionEdit(Sections(), Separator, parent)
+TSmartTime_TRV::TSmartTime_TRV(QWidget* parent) : TSectionEdit(TimeSections(), TimeSeparator, parent)
 {
 }
 

@@ -10,7 +10,7 @@ namespace Dialect {
 namespace {
 
 /// The second value takes the type of the first, as the server has it.
-TPiece IsNull(const TFunctionCall& call)
+TPiece ReplaceNull(const TFunctionCall& call)
 {
     const TPiece& value = call.At(0);
     const TPiece& substitute = call.At(1);
@@ -131,7 +131,7 @@ TPiece DataLength(const TFunctionCall& call)
 constexpr int MostValueArguments = 100;
 
 constexpr std::array ValueRules{
-    TFunctionRule{"ISNULL", 2, 2, IsNull},
+    TFunctionRule{"ISNULL", 2, 2, ReplaceNull},
     TFunctionRule{"COALESCE", 2, MostValueArguments, Coalesce},
     TFunctionRule{"NULLIF", 2, 2, NullIf},
     TFunctionRule{"ABS", 1, 1, Abs},
