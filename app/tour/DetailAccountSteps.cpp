@@ -13,40 +13,40 @@ namespace {
 constexpr int pettyCash = 7;
 constexpr int persons = 1;
 
-TDetailAccountForm& Form(TTourPlayer& player)
+TDetailAccountForm& Accounts(TTourPlayer& player)
 {
     return *qobject_cast<TDetailAccountForm*>(player.Window().CurrentPage());
 }
 
-void WaitForList(TTourPlayer& player)
+void WaitForAccounts(TTourPlayer& player)
 {
-    TListForm& list = Form(player).List();
+    TListForm& list = Accounts(player).List();
     player.Check(list.DataSet().WaitForFirstPage(), QStringLiteral("پاسخ بانک اطلاعاتی نرسید"));
     player.WaitUntil([&list] { return list.DataSet().CountIsExact(); },
                      QStringLiteral("شمار ردیف‌ها نرسید"));
 }
 
-void OpenForm(TTourPlayer& player)
+void OpenAccounts(TTourPlayer& player)
 {
     player.Press(Qt::Key_4, Qt::ControlModifier);
     const bool open = qobject_cast<TDetailAccountForm*>(player.Window().CurrentPage()) != nullptr;
     if (!player.Check(open, QStringLiteral("فرم حساب تفصیلی باز نشد")))
         player.Window().OpenPage(QStringLiteral("DetailAccounts"));
-    WaitForList(player);
-    player.Check(Form(player).List().DataSet().RecordCount() > 0, QStringLiteral("فهرست اشخاص خالی است"));
+    WaitForAccounts(player);
+    player.Check(Accounts(player).List().DataSet().RecordCount() > 0, QStringLiteral("فهرست اشخاص خالی است"));
     player.Screenshot(QStringLiteral("detail-accounts"));
     player.Press(Qt::Key_F3);
-    player.Check(Form(player).KindBox().hasFocus(), QStringLiteral("F3 به نوع حساب نرفت"));
-    for (int presses = 0; presses < Form(player).KindBox().Count() && Form(player).Kind() != pettyCash;
-         ++presses)
+    player.Check(Accounts(player).KindBox().hasFocus(), QStringLiteral("F3 به نوع حساب نرفت"));
+    for (int presses = 0;
+         presses < Accounts(player).KindBox().Count() && Accounts(player).Kind() != pettyCash; ++presses)
         player.Press(Qt::Key_Down);
-    WaitForList(player);
-    player.Check(Form(player).Kind() == pettyCash, QStringLiteral("نوع حساب عوض نشد"));
+    WaitForAccounts(player);
+    player.Check(Accounts(player).Kind() == pettyCash, QStringLiteral("نوع حساب عوض نشد"));
 }
 
 void CreateAccount(TTourPlayer& player)
 {
-    TDetailAccountForm& form = Form(player);
+    TDetailAccountForm& form = Accounts(player);
     const int before = form.List().DataSet().RecordCount();
     player.Press(Qt::Key_N, Qt::ControlModifier);
     if (!player.Check(form.Card() != nullptr, QStringLiteral("کارت حساب تازه باز نشد")))
@@ -62,7 +62,7 @@ void CreateAccount(TTourPlayer& player)
     player.Screenshot(QStringLiteral("detail-account-typed"));
     player.Press(Qt::Key_F2);
     player.WaitUntil([&form] { return form.Card() == nullptr; }, QStringLiteral("حساب ذخیره نشد"));
-    WaitForList(player);
+    WaitForAccounts(player);
     player.Check(form.List().DataSet().RecordCount() == before + 1,
                  QStringLiteral("حساب تازه در فهرست نیست"));
     player.Screenshot(QStringLiteral("detail-account-saved"));
@@ -71,9 +71,9 @@ void CreateAccount(TTourPlayer& player)
 // Some account's number is used in posted data; which one, the data decide.
 void ShowLockedNumber(TTourPlayer& player)
 {
-    TDetailAccountForm& form = Form(player);
+    TDetailAccountForm& form = Accounts(player);
     form.ChooseKind(persons);
-    WaitForList(player);
+    WaitForAccounts(player);
     constexpr int mostAccounts = 30;
     bool locked = false;
     for (int row = 1; row <= mostAccounts && !locked; ++row) {
@@ -95,7 +95,7 @@ void ShowLockedNumber(TTourPlayer& player)
 QVector<TTourStep> DetailAccountSteps()
 {
     return {
-        {u"باز کردن حساب‌های تفصیلی", OpenForm},
+        {u"باز کردن حساب‌های تفصیلی", OpenAccounts},
         {u"ساختن حساب تفصیلی با کد یکتا", CreateAccount},
         {u"کد یکتایی که به کار رفته است", ShowLockedNumber},
     };

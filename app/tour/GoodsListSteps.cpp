@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr QLatin1String name("Name");
+constexpr QLatin1String goodsName("Name");
 
 void OpenGoods(TTourPlayer& player)
 {
@@ -34,7 +34,7 @@ void MoveInGrid(TTourPlayer& player)
     player.Press(Qt::Key_Down);
     player.Check(list.DataSet().RecNo() == before + 2, QStringLiteral("ردیف جاری دو ردیف پایین نرفت"));
     player.Press(Qt::Key_End, Qt::ControlModifier);
-    player.WaitUntil([&list] { return list.DataSet().FieldByName(name)->Value().isValid(); },
+    player.WaitUntil([&list] { return list.DataSet().FieldByName(goodsName)->Value().isValid(); },
                      QStringLiteral("ردیف پایانی نرسید"));
     player.Check(list.DataSet().RecNo() == list.DataSet().RecordCount(),
                  QStringLiteral("به پایان فهرست نرفت"));
@@ -45,16 +45,16 @@ void MoveInGrid(TTourPlayer& player)
 void ReadCard(TTourPlayer& player)
 {
     TListForm& list = player.List();
-    const QString first = TourRows::CurrentText(list, name);
+    const QString first = TourRows::CurrentText(list, goodsName);
     player.Press(Qt::Key_Return);
     if (!player.WaitUntil([&list] { return list.Card() != nullptr; }, QStringLiteral("کارت باز نشد")))
         return;
-    player.Check(list.Card()->FieldText(name) == first,
+    player.Check(list.Card()->FieldText(goodsName) == first,
                  QStringLiteral("کارت ردیف دیگری را نشان می‌دهد"));
     player.Screenshot(QStringLiteral("goods-card"));
     player.Press(Qt::Key_PageDown);
     player.Check(list.DataSet().RecNo() == 2, QStringLiteral("کارت به رکورد بعدی نرفت"));
-    player.Check(list.Card()->FieldText(name) == TourRows::CurrentText(list, name),
+    player.Check(list.Card()->FieldText(goodsName) == TourRows::CurrentText(list, goodsName),
                  QStringLiteral("کارت رکورد بعدی را نشان نمی‌دهد"));
     player.Press(Qt::Key_Escape);
     player.WaitUntil([&list] { return list.Card() == nullptr; }, QStringLiteral("کارت بسته نشد"));

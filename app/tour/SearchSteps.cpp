@@ -12,12 +12,13 @@
 
 namespace {
 
-constexpr QLatin1String name("Name");
+constexpr QLatin1String searchedName("Name");
 
 // A piece of a real name, so that the tour plays on any data.
 QString PieceOfName(TListForm& list, int row)
 {
-    const QStringList words = TourRows::FirstTexts(list, name).value(row).split(u' ', Qt::SkipEmptyParts);
+    const QStringList words =
+        TourRows::FirstTexts(list, searchedName).value(row).split(u' ', Qt::SkipEmptyParts);
     return words.value(0).left(5);
 }
 
@@ -33,7 +34,7 @@ void SearchByName(TTourPlayer& player)
     player.Type(piece);
     player.Wait(400);
     player.WaitForAnswer();
-    player.Check(TourRows::EachContains(list, name, piece),
+    player.Check(TourRows::EachContains(list, searchedName, piece),
                  QStringLiteral("ردیف‌ها با متن جستجو جور نیستند"));
     player.Check(list.DataSet().RecordCount() < all, QStringLiteral("فهرست کوتاه‌تر نشد"));
     player.Check(list.Footer().ConditionInWords().contains(piece),
@@ -50,7 +51,7 @@ void ReverseSearch(TTourPlayer& player)
     player.Check(list.SearchFrame().Search_Reverst_CHK->hasFocus(), QStringLiteral("Tab به «نباشد» نرفت"));
     player.Press(Qt::Key_Space);
     player.WaitForAnswer();
-    player.Check(TourRows::NoneContains(list, name, piece), QStringLiteral("جستجو وارونه نشد"));
+    player.Check(TourRows::NoneContains(list, searchedName, piece), QStringLiteral("جستجو وارونه نشد"));
     player.Screenshot(QStringLiteral("search-reversed"));
     player.Press(Qt::Key_Escape);
     player.WaitForAnswer();
@@ -126,7 +127,7 @@ void TypeInGrid(TTourPlayer& player)
                  QStringLiteral("همهٔ حرف‌ها به جستجو نرسید"));
     player.Wait(400);
     player.WaitForAnswer();
-    player.Check(TourRows::EachContains(list, name, piece),
+    player.Check(TourRows::EachContains(list, searchedName, piece),
                  QStringLiteral("ردیف‌ها با متن جستجو جور نیستند"));
     player.Press(Qt::Key_Escape);
     player.WaitForAnswer();

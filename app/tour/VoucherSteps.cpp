@@ -13,26 +13,26 @@
 
 namespace {
 
-TVoucherForm& Form(TTourPlayer& player)
+TVoucherForm& Voucher(TTourPlayer& player)
 {
     return *qobject_cast<TVoucherForm*>(player.Window().CurrentPage());
 }
 
 TSelect_AccountCode& Selector(TTourPlayer& player)
 {
-    return Form(player).Band().Selector();
+    return Voucher(player).Band().Selector();
 }
 
-void OpenForm(TTourPlayer& player)
+void OpenVoucher(TTourPlayer& player)
 {
     player.Press(Qt::Key_3, Qt::ControlModifier);
     const bool open = qobject_cast<TVoucherForm*>(player.Window().CurrentPage()) != nullptr;
     if (!player.Check(open, QStringLiteral("فرم صدور سند باز نشد")))
         player.Window().OpenPage(QStringLiteral("Voucher"));
-    player.Check(Form(player).HeadBar().Date().hasFocus(), QStringLiteral("فوکوس در تاریخ نیست"));
+    player.Check(Voucher(player).HeadBar().Date().hasFocus(), QStringLiteral("فوکوس در تاریخ نیست"));
     player.Screenshot(QStringLiteral("voucher-empty"));
     player.Press(Qt::Key_Return);
-    player.Check(Form(player).HeadBar().Title().hasFocus(), QStringLiteral("Enter به شرح سند نرفت"));
+    player.Check(Voucher(player).HeadBar().Title().hasFocus(), QStringLiteral("Enter به شرح سند نرفت"));
     player.Type(QStringLiteral("خرید ملزومات اداری"));
     player.Press(Qt::Key_Return);
     player.Check(Selector(player).TotalCode_EDT->hasFocus(), QStringLiteral("Enter به کد کل نرفت"));
@@ -88,7 +88,7 @@ void PickExpenseCenter(TTourPlayer& player)
     player.Check(selector.Name_LBL->Caption().contains(QStringLiteral("[")),
                  QStringLiteral("نام مرکز هزینه نوشته نشد"));
     player.Press(Qt::Key_Return);
-    player.Check(Form(player).Band().Debit().hasFocus(), QStringLiteral("Enter به بدهکار نرفت"));
+    player.Check(Voucher(player).Band().Debit().hasFocus(), QStringLiteral("Enter به بدهکار نرفت"));
 }
 
 void PutLine(TTourPlayer& player)
@@ -98,7 +98,7 @@ void PutLine(TTourPlayer& player)
     player.Type(QStringLiteral("کاغذ و لوازم تحریر"));
     player.Screenshot(QStringLiteral("voucher-line-typed"));
     player.Press(Qt::Key_Return);
-    TVoucherForm& form = Form(player);
+    TVoucherForm& form = Voucher(player);
     player.Check(form.Draft().Count() == 1, QStringLiteral("ردیف به سند نرفت"));
     player.Check(Selector(player).TotalCode_EDT->hasFocus(), QStringLiteral("فوکوس به کد کل برنگشت"));
     player.Press(Qt::Key_F2);
@@ -110,7 +110,7 @@ void PutLine(TTourPlayer& player)
 void PickAccount(TTourPlayer& player)
 {
     TSelect_AccountCode& selector = Selector(player);
-    Form(player).Band().FocusTotal();
+    Voucher(player).Band().FocusTotal();
     player.WhenDialogOpens([&player] {
         player.Type(QStringLiteral("صندوق ریالی"));
         player.Wait(500);
@@ -132,7 +132,7 @@ void PickAccount(TTourPlayer& player)
 
 void BalanceAndSave(TTourPlayer& player)
 {
-    TVoucherForm& form = Form(player);
+    TVoucherForm& form = Voucher(player);
     form.Band().Credit().setFocus();
     player.Type(QStringLiteral("1250000"));
     player.Press(Qt::Key_Return);
@@ -148,7 +148,7 @@ void BalanceAndSave(TTourPlayer& player)
 
 void CorrectLine(TTourPlayer& player)
 {
-    TVoucherForm& form = Form(player);
+    TVoucherForm& form = Voucher(player);
     player.Press(Qt::Key_F6);
     player.Check(form.Grid().hasFocus(), QStringLiteral("F6 به ردیف‌ها نرفت"));
     player.Press(Qt::Key_Home);
@@ -165,7 +165,7 @@ void CorrectLine(TTourPlayer& player)
 
 void ReadConfirmedVoucher(TTourPlayer& player)
 {
-    TVoucherForm& form = Form(player);
+    TVoucherForm& form = Voucher(player);
     player.Press(Qt::Key_F3);
     player.Type(QStringLiteral("1"));
     player.Press(Qt::Key_Return);
@@ -182,7 +182,7 @@ void ReadConfirmedVoucher(TTourPlayer& player)
 QVector<TTourStep> VoucherSteps()
 {
     return {
-        {u"باز کردن صدور سند", OpenForm},
+        {u"باز کردن صدور سند", OpenVoucher},
         {u"کدی که نیست", TypeUnknownCode},
         {u"نوشتن کد حساب در چهار سطح", TypeAccount},
         {u"برگزیدن مرکز هزینه با +", PickExpenseCenter},
