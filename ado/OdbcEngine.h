@@ -8,7 +8,7 @@
 #include <mutex>
 
 /// One connection through the driver manager: unixODBC here, the system's own on Windows.
-class TOdbcEngine : public IEngine
+class TOdbcEngine final : public IEngine
 {
 public:
     TOdbcEngine(const QString& connectionString, const TEngineOptions& options);

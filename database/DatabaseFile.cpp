@@ -1,7 +1,7 @@
 #include "DatabaseFile.h"
 
 #include "ADOConnection.h"
-#include "AdoError.h"
+#include "DatabaseAnswer.h"
 #include "DatabaseFunctions.h"
 #include "DatabaseSchema.h"
 #include "FileCreation.h"
@@ -78,12 +78,6 @@ int SchemaVersion(TADOConnection& connection)
     const std::unique_ptr<IEngineRows> rows =
         connection.Run(QStringLiteral("SELECT Version FROM dbo.SchemaInfo"));
     return rows->Next() ? static_cast<int>(rows->Int64(0)) : 0;
-}
-
-bool IsAnswerOfTheDatabase(const EADOError& error)
-{
-    return error.Kind() != TAdoErrorKind::ConnectionLost && error.Kind() != TAdoErrorKind::Cancelled &&
-           error.Kind() != TAdoErrorKind::Busy;
 }
 
 bool HasTables(TADOConnection& connection)

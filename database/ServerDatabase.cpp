@@ -1,6 +1,7 @@
 #include "ServerDatabase.h"
 
 #include "ADOConnection.h"
+#include "DatabaseAnswer.h"
 #include "DatabaseSchema.h"
 
 namespace {
@@ -8,12 +9,6 @@ namespace {
 constexpr int PermissionDenied = 229;
 constexpr int PersianCodePage = 1256;
 constexpr int Utf8CodePage = 65001;
-
-bool IsAnswerOfTheServer(const EADOError& error)
-{
-    return error.Kind() != TAdoErrorKind::ConnectionLost && error.Kind() != TAdoErrorKind::Cancelled &&
-           error.Kind() != TAdoErrorKind::Busy;
-}
 
 QString ScriptIsMissing(const QString& script)
 {
@@ -29,7 +24,7 @@ qint64 Answer(TADOConnection& connection, const QString& statement, const QStrin
         const std::unique_ptr<IEngineRows> rows = connection.Run(statement);
         return rows->Next() ? rows->Int64(0) : 0;
     } catch (const EADOError& error) {
-        if (!IsAnswerOfTheServer(error))
+        if (!IsAnswerOfTheDatabase(error))
             throw;
         const QString message =
             error.Code() == PermissionDenied
@@ -81,7 +76,7 @@ QString ServerDatabase::CollationWarning(TADOConnection& connection)
                    "بدل می‌شود. پایگاه داده را با کولیشن Persian_100_CI_AS بسازید.")
             .arg(name);
     } catch (const EADOError& error) {
-        if (!IsAnswerOfTheServer(error))
+        if (!IsAnswerOfTheDatabase(error))
             throw;
         return {};
     }
