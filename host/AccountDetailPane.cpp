@@ -2,10 +2,10 @@
 
 #include "AccountDetails.h"
 #include "AccountLevels.h"
-#include "ADOQuery.h"
 #include "DisplayText.h"
 #include "HostApplication.h"
 #include "Look.h"
+#include "QueryOpening.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
@@ -222,9 +222,7 @@ void TAccountDetailPane::Search()
 int TAccountDetailPane::Ask(const QString& statement) const
 {
     TADOQuery query;
-    query.SetConnection(parts_->Connection);
-    query.SQL.SetText(statement);
-    query.Open();
+    OpenQuery(query, *parts_->Connection, statement);
     return query.Field(0)->AsInteger();
 }
 

@@ -87,9 +87,9 @@ int AccountDetails::CodeDigits(TFloatingAccountsType kind)
 QString AccountDetails::Condition(TFloatingAccountsType kind, const QString& typed)
 {
     // An account that has not got its unique code yet has the code 0.
-    const QString list = kind == TFloatingAccountsType::fatUnique
-                             ? QStringLiteral("UniqueCode > 0 AND Active = 1")
-                             : QStringLiteral("[Type] = %1 AND Active = 1").arg(static_cast<int>(kind));
+    QString list = kind == TFloatingAccountsType::fatUnique
+                       ? QStringLiteral("UniqueCode > 0 AND Active = 1")
+                       : QStringLiteral("[Type] = %1 AND Active = 1").arg(static_cast<int>(kind));
     const QString name = NameCondition(typed.trimmed());
     if (name.isEmpty())
         return list;

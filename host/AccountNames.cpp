@@ -1,7 +1,7 @@
 #include "AccountNames.h"
 
 #include "AccountLevels.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 namespace {
 
@@ -24,13 +24,6 @@ QString DetailStatement(TFloatingAccountsType kind, int code)
     return QStringLiteral("SELECT Name FROM dbo.AccDetails WHERE [Type] = %1 AND Code = %2")
         .arg(static_cast<int>(kind))
         .arg(code);
-}
-
-void Open(TADOQuery& query, TADOConnection& connection, const QString& statement)
-{
-    query.SetConnection(&connection);
-    query.SQL.SetText(statement);
-    query.Open();
 }
 
 } // namespace
@@ -59,7 +52,7 @@ QString TAccountNames::Of(THesabType kind) const
 std::optional<TAccountNames> ReadAccountNames(TADOConnection& connection, const TAccountCodes& codes)
 {
     TADOQuery chart;
-    Open(chart, connection, TotalStatement(codes));
+    OpenQuery(chart, connection, TotalStatement(codes));
     if (chart.IsEmpty())
         return std::nullopt;
     if (codes.Assistant != 0 && chart.FieldByName(QStringLiteral("AssistantName"))->IsNull())
@@ -73,7 +66,7 @@ std::optional<TAccountNames> ReadAccountNames(TADOConnection& connection, const 
     if (kind == TFloatingAccountsType::fatNone)
         return std::nullopt;
     TADOQuery details;
-    Open(details, connection, DetailStatement(kind, codes.Detail));
+    OpenQuery(details, connection, DetailStatement(kind, codes.Detail));
     if (details.IsEmpty())
         return std::nullopt;
     names.Detail = details.Field(0)->AsString();

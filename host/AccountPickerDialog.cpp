@@ -5,10 +5,10 @@
 #include "AccountDetails.h"
 #include "AccountLevels.h"
 #include "AccountTreeView.h"
-#include "ADOQuery.h"
 #include "HostSettingsFile.h"
 #include "Look.h"
 #include "PersianText.h"
+#include "QueryOpening.h"
 #include "SmartButton_TRV.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
@@ -87,9 +87,7 @@ TAccountPickerDialog::~TAccountPickerDialog()
 void TAccountPickerDialog::ReadKinds(TADOConnection& connection)
 {
     TADOQuery kinds;
-    kinds.SetConnection(&connection);
-    kinds.SQL.SetText(QStringLiteral("SELECT Code, Name FROM dbo.AccDetailTypes"));
-    kinds.Open();
+    OpenQuery(kinds, connection, QStringLiteral("SELECT Code, Name FROM dbo.AccDetailTypes"));
     for (int row = 0; row < kinds.RecordCount(); ++row)
         kindNames_.insert(kinds.ValueAt(row, 0).toInt(), kinds.ValueAt(row, 1).toString());
 }
@@ -173,7 +171,7 @@ void TAccountPickerDialog::Connect()
     });
 }
 
-void TAccountPickerDialog::Open()
+void TAccountPickerDialog::Begin()
 {
     chart_->Show(FirstPlace());
     if (const int place = chart_->Current(); place >= 0 && tree_.At(place).Level == TAccountNode::Total)

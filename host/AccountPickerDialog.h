@@ -42,7 +42,7 @@ public:
     ~TAccountPickerDialog() override;
 
     /// Goes to the account to begin with and starts to read. Throws EADOError.
-    void Open();
+    void Begin();
     /// What was picked; all 0 until the dialog was accepted.
     THCSelectedCode Picked() const { return picked_; }
     /// What Enter would pick now, in words.

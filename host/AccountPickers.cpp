@@ -28,7 +28,7 @@ THCSelectedCode TAccountPickers::Pick(const TAccountPicking& picking)
     auto dialog = std::make_unique<TAccountPickerDialog>(*connection_, *settings_, picking,
                                                          QApplication::activeWindow());
     const QPointer<TAccountPickerDialog> living(dialog.get());
-    dialog->Open();
+    dialog->Begin();
     dialog->exec();
     if (living == nullptr) {
         static_cast<void>(dialog.release());

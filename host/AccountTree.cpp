@@ -2,7 +2,7 @@
 
 #include "AccountLevels.h"
 #include "AccountMatch.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 #include <algorithm>
 #include <limits>
@@ -29,13 +29,6 @@ QString ScopeCondition(const TAccountScope& scope)
     return parts.isEmpty() ? QString() : QLatin1String("WHERE ") + parts.join(QLatin1String(" AND ")) + u' ';
 }
 
-void Open(TADOQuery& query, TADOConnection& connection, const QString& statement)
-{
-    query.SetConnection(&connection);
-    query.SQL.SetText(statement);
-    query.Open();
-}
-
 } // namespace
 
 void TAccountTree::Read(TADOConnection& connection, const TAccountScope& scope)
@@ -56,10 +49,11 @@ void TAccountTree::Clear()
 void TAccountTree::ReadTotals(TADOConnection& connection, const TAccountScope& scope)
 {
     TADOQuery query;
-    Open(query, connection,
-         QStringLiteral("SELECT g.Code AS GroupCode, g.Name AS GroupName, t.Code, t.Name, t.DetailType "
-                        "FROM dbo.AccGroups AS g INNER JOIN dbo.AccTotals AS t ON t.GroupCode = g.Code ") +
-             ScopeCondition(scope) + QLatin1String("ORDER BY g.Code, t.Code"));
+    OpenQuery(
+        query, connection,
+        QStringLiteral("SELECT g.Code AS GroupCode, g.Name AS GroupName, t.Code, t.Name, t.DetailType "
+                       "FROM dbo.AccGroups AS g INNER JOIN dbo.AccTotals AS t ON t.GroupCode = g.Code ") +
+            ScopeCondition(scope) + QLatin1String("ORDER BY g.Code, t.Code"));
     int group = -1;
     for (int row = 0; row < query.RecordCount(); ++row) {
         const int groupCode = query.ValueAt(row, 0).toInt();
@@ -75,11 +69,11 @@ void TAccountTree::ReadTotals(TADOConnection& connection, const TAccountScope& s
 void TAccountTree::AddAssistants(TADOConnection& connection, const TAccountScope& scope)
 {
     TADOQuery query;
-    Open(query, connection,
-         QStringLiteral("SELECT a.TotalCode, a.Code, a.Name FROM dbo.AccAssistants AS a "
-                        "INNER JOIN dbo.AccTotals AS t ON t.Code = a.TotalCode "
-                        "INNER JOIN dbo.AccGroups AS g ON g.Code = t.GroupCode ") +
-             ScopeCondition(scope) + QLatin1String("ORDER BY a.TotalCode, a.Code"));
+    OpenQuery(query, connection,
+              QStringLiteral("SELECT a.TotalCode, a.Code, a.Name FROM dbo.AccAssistants AS a "
+                             "INNER JOIN dbo.AccTotals AS t ON t.Code = a.TotalCode "
+                             "INNER JOIN dbo.AccGroups AS g ON g.Code = t.GroupCode ") +
+                  ScopeCondition(scope) + QLatin1String("ORDER BY a.TotalCode, a.Code"));
     QHash<int, QVector<int>> rowsOfTotal;
     for (int row = 0; row < query.RecordCount(); ++row)
         rowsOfTotal[query.ValueAt(row, 0).toInt()].append(row);
