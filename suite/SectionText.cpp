@@ -124,6 +124,17 @@ void TSectionText::OpenNext(TState& state) const
 {
     ++state.section;
     state.offset = 0;
+    state.opened = qMax(state.opened, state.section);
+}
+
+/// After something was deleted: no separators behind the last digit and the caret.
+void TSectionText::CloseEmpty(TState& state) const
+{
+    state.opened = state.section;
+    for (qsizetype section = state.section; section < sections_.size(); ++section) {
+        if (!state.digits.at(section).isEmpty())
+            state.opened = section;
+    }
 }
 
 bool TSectionText::TypeSeparator()
@@ -165,7 +176,6 @@ bool TSectionText::Settle()
     for (next.section = 0; next.section < sections_.size(); ++next.section)
         Complete(next);
     refusal_.clear();
-    next.section = now_.section;
     Place(next, Join(next).size());
     return Join(next) != Join(now_) && Take(next);
 }
@@ -183,6 +193,7 @@ bool TSectionText::DeleteBackward()
     }
     if (next.offset > 0)
         next.digits[next.section].remove(--next.offset, 1);
+    CloseEmpty(next);
     return Take(next);
 }
 
@@ -197,6 +208,7 @@ bool TSectionText::DeleteForward()
         OpenNext(next);
     }
     next.digits[next.section].remove(next.offset, 1);
+    CloseEmpty(next);
     return Take(next);
 }
 
@@ -223,6 +235,7 @@ TSectionText::TState TSectionText::WithoutSelection() const
         Place(at, from);
         next.section = at.section;
         next.offset = qMin(at.offset, next.digits.at(at.section).size());
+        CloseEmpty(next);
     }
     return next;
 }
@@ -297,20 +310,21 @@ TSectionText::TState TSectionText::Parsed(const QString& text) const
         state.foreign = ascii;
         return state;
     }
+    state.opened = parts.size() - 1;
     Place(state, Join(state).size());
     return state;
 }
 
-/// As far as something is typed, or as the caret has gone.
 QString TSectionText::Join(const TState& state) const
 {
-    qsizetype last = state.section;
+    qsizetype last = state.opened;
+    bool nothing = true;
     for (qsizetype section = 0; section < sections_.size(); ++section) {
-        if (!state.digits.at(section).isEmpty())
-            last = qMax(last, section);
+        if (state.digits.at(section).isEmpty())
+            continue;
+        nothing = false;
+        last = qMax(last, section);
     }
-    const bool nothing = std::all_of(state.digits.begin(), state.digits.end(),
-                                     [](const QString& digits) { return digits.isEmpty(); });
     return nothing ? QString() : state.digits.mid(0, last + 1).join(separator_);
 }
 

@@ -70,6 +70,7 @@ private:
         QStringList digits;
         qsizetype section = 0; // of the caret
         qsizetype offset = 0;
+        qsizetype opened = 0; // the last section that a separator leads to
         QString foreign;
     };
 
@@ -84,6 +85,7 @@ private:
     bool TakeSection(TState& state, const QString& digits, qsizetype offset);
     bool Complete(TState& state);
     void OpenNext(TState& state) const;
+    void CloseEmpty(TState& state) const;
     bool IsWithinLimits(qsizetype section, const QString& digits) const;
     bool Take(const TState& next);
     void MoveTo(const TState& state);

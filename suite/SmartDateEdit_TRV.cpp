@@ -198,7 +198,7 @@ QString TSmartDateEdit_TRV::ProblemOf(const QString& text) const
 
 QString TSmartDateEdit_TRV::Pasted(const QString& text) const
 {
-    const QString converted = Converted(text);
+    QString converted = Converted(text);
     if (IsBound(converted))
         return converted;
     const std::optional<TDateNumbers> date = DateText::Read(converted);

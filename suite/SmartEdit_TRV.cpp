@@ -175,6 +175,7 @@ void TSmartEdit_TRV::SetText(const QString& text)
 
 void TSmartEdit_TRV::Clear()
 {
+    d->delay.stop();
     d->SetText(d->IsNumber() ? QStringLiteral("0") : QString());
 }
 

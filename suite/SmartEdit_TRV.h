@@ -77,7 +77,7 @@ public:
     /// Shows a text, of any length; a number edit groups it, rounds it to its precision and takes what is no
     /// number as 0. Raises OnChange when the text differs; OnEditValueChange is for what the user changes.
     void SetText(const QString& text);
-    /// Empties a text edit; a number edit shows "0".
+    /// Empties a text edit; a number edit shows "0". What was typed just before is not announced any more.
     virtual void Clear();
     /// The value of a number edit, 0 where there is none; the text of a text edit read as a number.
     long double GetValue() const;

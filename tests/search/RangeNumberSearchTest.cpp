@@ -67,6 +67,7 @@ private Q_SLOTS:
     void costBoundsAreFloatingPointNumbers();
     void anUpperCostBoundOfZeroStaysZero();
     void clearEndsActiveWithTheBoxUnticked();
+    void clearForgetsWhatWasTypedJustBefore();
     void choosingAFieldSetsTheItem();
     void tabFollowsTheReadingOrder();
     void theControlsStandFromRightToLeft();
@@ -286,6 +287,17 @@ void RangeNumberSearchTest::clearEndsActiveWithTheBoxUnticked()
     QCOMPARE(filter.Criterion().Value1(), QVariant(QString()));
     QCOMPARE(filter.Criterion().Value2(), QVariant(QString()));
     QCOMPARE(filter.Criterion().Value2().typeId(), QMetaType::QString);
+}
+
+void RangeNumberSearchTest::clearForgetsWhatWasTypedJustBefore()
+{
+    const TCostFilter filter;
+    QVERIFY(filter.Start());
+    TCostFilter::Enter(filter.Frame->RangeCost_To_EDT, QStringLiteral("5"));
+    filter.Frame->Clear();
+    QTest::qWait(400);
+    QCOMPARE(filter.Criterion().Value1(), QVariant(QString()));
+    QCOMPARE(filter.Criterion().Value2(), QVariant(QString()));
 }
 
 void RangeNumberSearchTest::choosingAFieldSetsTheItem()

@@ -1,5 +1,9 @@
 #include "Balloon.h"
 #include "DateForm.h"
+#include "SmartFaDate.h"
+
+#include <QRandomGenerator>
+#include <QRegularExpression>
 
 class SmartDateEditTypingTest : public QObject
 {
@@ -26,6 +30,7 @@ private Q_SLOTS:
     void cuttingTakesTheSelectionAlong();
     void aReadOnlyEditTakesNothing();
     void charactersOfAnInputMethodAreTyped();
+    void hostileKeysLeaveADateOrABeginningOfOne();
 };
 
 void SmartDateEditTypingTest::typingCompletesTheText_data()
@@ -342,6 +347,29 @@ void SmartDateEditTypingTest::charactersOfAnInputMethodAreTyped()
     event.setCommitString(QStringLiteral("۱۴۰۳۰۷۰۲"));
     QApplication::sendEvent(form.Edit, &event);
     QCOMPARE(form.Edit->Text(), QStringLiteral("1403/07/02"));
+}
+
+void SmartDateEditTypingTest::hostileKeysLeaveADateOrABeginningOfOne()
+{
+    static const QRegularExpression shape(QStringLiteral("^(\\d{0,4}(/\\d{0,2}(/\\d{0,2})?)?)?$"));
+    const QString signs = QStringLiteral("0123456789۰۹٣/-+. <>{}<tف'ب\u200F%");
+    QRandomGenerator random(1403);
+    TDateForm form;
+    QVERIFY(form.Show());
+    for (int step = 0; step < 4000; ++step) {
+        if (random.bounded(20) == 0)
+            form.Edit->setSelection(random.bounded(8), random.bounded(8));
+        form.Type(QString(signs.at(random.bounded(static_cast<int>(signs.size())))));
+        QVERIFY2(shape.match(form.Edit->Text()).hasMatch(), qPrintable(form.Edit->Text()));
+        QCOMPARE(form.Edit->text(), form.Edit->Text());
+        const QString value = form.Edit->GetValue();
+        QVERIFY2(value.isEmpty() || TFaDate::CreateByPersianDate(value).IsValid() ||
+                     value == QStringLiteral("0000/00/00") || value == QStringLiteral("9999/99/99"),
+                 qPrintable(value));
+    }
+    for (int step = 0; step < 5000; ++step)
+        form.Press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.Edit->Text(), QString());
 }
 
 QTEST_MAIN(SmartDateEditTypingTest)
