@@ -3,13 +3,13 @@
 #include "EntityTypes.h"
 #include "HostExport.h"
 
-#include <compare>
 #include <map>
 #include <optional>
 #include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <tuple>
 
 class ISettings;
 class TADOConnection;
@@ -68,7 +68,10 @@ private:
         int Part = 0;
         QString Code;
         bool IsCode() const { return !Code.isEmpty(); }
-        std::strong_ordering operator<=>(const TKey&) const = default;
+        bool operator<(const TKey& other) const
+        {
+            return std::tie(Part, Code) < std::tie(other.Part, other.Code);
+        }
     };
 
     static TKey KeyOf(const QString& code, TSoftwarePart part);

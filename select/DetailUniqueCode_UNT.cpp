@@ -188,7 +188,7 @@ bool TDetailUniqueCode_FRME::Refuse(const TOnInvalideProc& OnInvalid, const std:
     return false;
 }
 
-void TDetailUniqueCode_FRME::SaveDetailUniqueCode(int detailCode)
+void TDetailUniqueCode_FRME::SaveDetailUniqueCode(int detailCode) const
 {
     TADOCommand* const command = Host().DM.SharedCommand();
     command->CommandText = DetailUniqueCode::Save(DetailType, detailCode, GetUniqueCodeValue());
@@ -207,7 +207,7 @@ void TDetailUniqueCode_FRME::UniqueCode_EDTEditValueChange()
         TellInUse();
 }
 
-void TDetailUniqueCode_FRME::UniqueCode_EDTExit()
+void TDetailUniqueCode_FRME::UniqueCode_EDTExit() const
 {
     UniqueCode_EDT->SetText(Completed(UniqueCode_EDT->Text()));
 }

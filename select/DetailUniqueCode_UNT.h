@@ -41,7 +41,7 @@ public:
     /// into the edit.
     bool IsValidated(const TOnInvalideProc& OnInvalid = {});
     /// Writes the number to the account of DetailType and `detailCode`, which must be there already.
-    void SaveDetailUniqueCode(int detailCode);
+    void SaveDetailUniqueCode(int detailCode) const;
     /// Releases the number; does nothing where that has been done.
     void RemoveFromCodeLock();
 
@@ -54,7 +54,7 @@ public:
 private:
     void BindHandlers();
     void UniqueCode_EDTEditValueChange();
-    void UniqueCode_EDTExit();
+    void UniqueCode_EDTExit() const;
 
     bool TakeProposal();
     bool MoveLock();
