@@ -335,7 +335,7 @@ void TSelect_AccountCode::Code_EDTChange(QObject* sender) const
         PostTabStroke();
 }
 
-// Only the press is sent, and wherever the focus is: intended, the application's forms count on it.
+// Only the press is sent, and wherever the focus is, which is intended.
 void TSelect_AccountCode::ExpenseCenterCode_EDTPropertiesChange() const
 {
     const QString text = ExpenseCenterCode_EDT->Text();
