@@ -38,6 +38,10 @@ TFiscalYear Year(bool closed = false)
 
 } // namespace
 
+Q_DECLARE_METATYPE(TAccountCode)
+Q_DECLARE_METATYPE(TAccountFacts)
+Q_DECLARE_METATYPE(TVoucherHead)
+
 class VoucherDraftTest : public QObject
 {
     Q_OBJECT
@@ -275,10 +279,6 @@ private Q_SLOTS:
         QCOMPARE(CompletedDate(typed, gregorian), completed);
     }
 };
-
-Q_DECLARE_METATYPE(TAccountCode)
-Q_DECLARE_METATYPE(TAccountFacts)
-Q_DECLARE_METATYPE(TVoucherHead)
 
 QTEST_GUILESS_MAIN(VoucherDraftTest)
 #include "VoucherDraftTest.moc"
