@@ -15,11 +15,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("part");
         QTest::addColumn<QString>("table");
-        QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("all");
         for (const TEntityTable& table : EntityTables::All())
             QTest::addRow("kind %d", table.EntityType)
-                << table.SoftwarePart << table.Table << table.Fields.section(u';', 0, 0)
+                << table.SoftwarePart << table.Table
                 << (table.EntityType == static_cast<int>(TEntityType::etAllPersonals));
     }
 
@@ -27,7 +26,6 @@ private Q_SLOTS:
     {
         QFETCH(int, part);
         QFETCH(QString, table);
-        QFETCH(QString, name);
         QFETCH(bool, all);
         const int last = LastCode(part, table);
         const QString argument = QStringLiteral("%1#LC#").arg(last);
