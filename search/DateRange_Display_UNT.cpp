@@ -83,7 +83,7 @@ void TDateRange_Display_FRAM::SetRangeValue()
     }
 }
 
-void TDateRange_Display_FRAM::SetBounds(const QString& from, const QString& to)
+void TDateRange_Display_FRAM::SetBounds(const QString& from, const QString& to) const
 {
     const QPointer<TTarvaSearch> criterion(Tarva_DisplayRange);
     criterion->SetValue2(to);

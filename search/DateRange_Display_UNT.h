@@ -46,5 +46,5 @@ protected:
 
 private:
     static TDatePeriods Periods();
-    void SetBounds(const QString& from, const QString& to);
+    void SetBounds(const QString& from, const QString& to) const;
 };

@@ -74,7 +74,7 @@ void TRange_Cost_Search_Frame::Clear()
         criterion->SetActive(true);
 }
 
-void TRange_Cost_Search_Frame::SetBounds(const QVariant& from, const QVariant& to)
+void TRange_Cost_Search_Frame::SetBounds(const QVariant& from, const QVariant& to) const
 {
     const QPointer<TTarvaSearch> criterion(TarvaSearch_Range_Cost);
     criterion->SetValue1(from);

@@ -46,7 +46,7 @@ private:
     void RangeCost_Reverst_CHKClick();
     void TarvaSearch_Range_CostChangeItemIndex();
     void Enable(bool enabled);
-    void SetBounds(const QVariant& from, const QVariant& to);
+    void SetBounds(const QVariant& from, const QVariant& to) const;
 
     TFilterLine line_;
 };
