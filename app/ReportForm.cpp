@@ -1,7 +1,9 @@
 #include "ReportForm.h"
 
 #include "Balloon.h"
+#include "DateRange_Display_UNT.h"
 #include "DisplayText.h"
+#include "GregorianDateDelegate.h"
 #include "HostApplication.h"
 #include "ListFooter.h"
 #include "Look.h"
@@ -15,6 +17,7 @@
 #include "TarvaSearchManager.h"
 #include "VoucherReport.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -23,6 +26,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace {
@@ -136,11 +140,24 @@ void TReportForm::ConnectData()
     parts.Grid->SetColumns(VoucherReport::Columns());
     parts.Grid->SetDataSource(&parts.Source);
     parts.Grid->installEventFilter(this);
+    ShowDatesOfHost();
     parts.Grid->OnDblClick = [this](QObject* /*Sender*/) { OpenVoucher(); };
     parts.Filters->AddTo(parts.Manager);
     parts.Manager.SetDataSet(&parts.DataSet);
     connect(&parts.Manager, &TTarvaSearchManager::rebuilt, this, &TReportForm::ShowCondition);
     connect(&parts.DataSet, &TPagedDataSet::failed, this, &TReportForm::ReportFailure);
+}
+
+void TReportForm::ShowDatesOfHost()
+{
+    if (!IsGregorian())
+        return;
+    auto* delegate = new TGregorianDateDelegate(parts_->Grid);
+    const QVector<TGridColumn> columns = VoucherReport::Columns();
+    for (int column = 0; column < columns.size(); ++column) {
+        if (columns.at(column).Kind == TGridColumn::ckDate)
+            parts_->Grid->setItemDelegateForColumn(column, delegate);
+    }
 }
 
 void TReportForm::ConnectSums()
@@ -207,6 +224,8 @@ void TReportForm::Enter()
 void TReportForm::Refresh()
 {
     TParts& parts = *parts_;
+    // A period counts from today, which may be another day by now.
+    parts.Filters->Period->SetRangeValue();
     parts.Manager.Flush();
     if (parts.DataSet.Active())
         parts.DataSet.Refresh();
@@ -317,9 +336,10 @@ void TReportForm::SaveCsv()
 
 void TReportForm::SaveAs(TReportExport::TFormat format)
 {
-    const QString suffix =
-        format == TReportExport::TFormat::Pdf ? QStringLiteral("pdf") : QStringLiteral("csv");
-    QString fileName = AskFileName(QStringLiteral("report.") + suffix,
+    const bool isPdf = format == TReportExport::TFormat::Pdf;
+    const QString suffix = isPdf ? QStringLiteral("pdf") : QStringLiteral("csv");
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    QString fileName = AskFileName(folder.filePath(QStringLiteral("report.") + suffix),
                                    QStringLiteral("%1 (*.%2)").arg(suffix.toUpper(), suffix));
     if (fileName.isEmpty())
         return;

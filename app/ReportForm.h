@@ -56,6 +56,7 @@ private:
     void Lay();
     QWidget* NewFooter();
     void ConnectData();
+    void ShowDatesOfHost();
     void ConnectSums();
     void ConnectExport();
     void ConnectKeys();

@@ -22,6 +22,12 @@ QString StatementOf(const TReportQuestion& question)
     return text + key + direction;
 }
 
+QString CellText(const QVariant& value, const TGridColumn& column, bool gregorian)
+{
+    const QString text = ReportText::Cell(value, column.Kind, gregorian);
+    return text.isEmpty() ? text : text.rightJustified(column.Digits, u'0');
+}
+
 } // namespace
 
 TReportTable TReportTable::Read(TADOConnection& connection, const TReportQuestion& question)
@@ -33,8 +39,7 @@ TReportTable TReportTable::Read(TADOConnection& connection, const TReportQuestio
         while (rows->Next()) {
             QStringList cells;
             for (int column = 0; column < question.Columns.size(); ++column)
-                cells.append(ReportText::Cell(rows->Value(column), question.Columns.at(column).Kind,
-                                              question.Gregorian));
+                cells.append(CellText(rows->Value(column), question.Columns.at(column), question.Gregorian));
             table.Rows.append(cells);
         }
     }

@@ -16,7 +16,8 @@ QString DetailOf(const QString& condition, const QString& name)
 
 QString KindIs(TFloatingAccountsType kind)
 {
-    return QStringLiteral("t.DetailType = %1").arg(static_cast<int>(kind));
+    // 128 more says that a detail account must be given.
+    return QStringLiteral("t.DetailType % 128 = ") + QString::number(static_cast<int>(kind));
 }
 
 /// Of accounts with details of both kinds, assistant 1 has incomes and the others have costs.

@@ -9,7 +9,7 @@ int PlayTour(TMainWindow& window, const QString& folder)
 {
     TTourPlayer player(window, folder);
     const QVector<TTourStep> steps = GoodsListSteps() + SearchSteps() + SortingSteps() + PersonsListSteps() +
-                                     VoucherSteps() + DetailAccountSteps() + WindowSteps();
+                                     VoucherSteps() + DetailAccountSteps() + ReportSteps() + WindowSteps();
     for (const TTourStep& step : steps) {
         player.BeginStep(QString::fromUtf16(step.Name));
         step.Play(player);

@@ -19,4 +19,5 @@ QVector<TTourStep> SortingSteps();
 QVector<TTourStep> PersonsListSteps();
 QVector<TTourStep> VoucherSteps();
 QVector<TTourStep> DetailAccountSteps();
+QVector<TTourStep> ReportSteps();
 QVector<TTourStep> WindowSteps();

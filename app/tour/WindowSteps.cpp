@@ -71,6 +71,9 @@ void ShowForms(TTourPlayer& player, const QString& scheme)
     player.Wait(200);
     player.Screenshot(QStringLiteral("detail-account-new") + scheme);
     player.Press(Qt::Key_Escape);
+    player.Press(Qt::Key_5, Qt::ControlModifier);
+    player.Wait(300);
+    player.Screenshot(QStringLiteral("report-filters") + scheme);
     player.Press(Qt::Key_1, Qt::ControlModifier);
 }
 

@@ -170,6 +170,7 @@ private Q_SLOTS:
     void aRangeOfBanksIsBounded()
     {
         const int code = FirstOf(Banks).Tafzili;
+        QCOMPARE(FirstOf(Banks).KolName, QStringLiteral("موجودی نزد بانک‌ها"));
         SwitchOn(filters_->Entities->SelectEntity_CHK);
         Choose(filters_->Entities->SelectEntity_CMB, 1);
         TypeInto(filters_->Entities->Select_Entity_Frame1->Code_EDT, QString::number(code));

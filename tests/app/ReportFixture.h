@@ -138,7 +138,7 @@ private:
             line.RowNo = next().toInt();
             line.Kol = next().toInt();
             line.KolName = next().toString();
-            line.DetailType = next().toInt();
+            line.DetailType = next().toInt() % 128; // the kind, be a detail mandatory or not
             line.Moin = next().toInt();
             line.Tafzili = next().toInt();
             line.Tafsili2 = next().toInt();

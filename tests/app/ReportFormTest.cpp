@@ -1,12 +1,17 @@
 #include "ReportFixture.h"
 
+#include "AccountingCodes_Search_UNT.h"
 #include "ADVSearch_UNT.h"
 #include "DateRange_Display_UNT.h"
 #include "MainWindow.h"
+#include "Range_AccCodes_Search_UNT.h"
+#include "Range_Cost_Search.h"
 #include "Range_Date_Search.h"
 #include "Range_Digit_Search.h"
+#include "Range_SelectEntity_Search_UNT.h"
 #include "Range_String_Search.h"
 #include "ReportText.h"
+#include "Select_AccountCode_UNT.h"
 #include "Select_Entity_UNT.h"
 #include "SelectEntity_Search_UNT.h"
 #include "SmartButtonEdit_TRV.h"
@@ -106,6 +111,50 @@ private Q_SLOTS:
         QCOMPARE(shop_->Words(), words);
         QCOMPARE(filters_->Date->RangeDate_From_EDT->Text(), from);
         QCOMPARE(filters_->Tabs->Search_TBC->TabIndex(), 1);
+    }
+
+    void codesAndAmountsAreKeptToo()
+    {
+        filters_->ShowAdvanced(true);
+        Toggle(filters_->Account->AccCodes_CHK);
+        TypeInto(filters_->Account->Select_AccountCode1->TotalCode_EDT, QStringLiteral("104"));
+        Toggle(filters_->Accounts->AccCodes_CHK);
+        TypeInto(filters_->Accounts->Select_AccountCode1->TotalCode_EDT, QStringLiteral("101"));
+        Toggle(filters_->Code->RangeString_CHK);
+        TypeInto(filters_->Code->RangeString_From_EDT, QStringLiteral("12345"));
+        Toggle(filters_->Cost->RangeCost_CHK);
+        TypeInto(filters_->Cost->RangeCost_To_EDT, QStringLiteral("123456789"));
+        Toggle(filters_->Entities->SelectEntity_CHK);
+        TypeInto(filters_->Entities->Select_Entity_Frame1->Code_EDT, QString::number(Person()));
+        shop_->Report->Grid().setFocus();
+        shop_->Settle();
+        const QString condition = shop_->Report->Manager().Condition();
+        for (const char* piece :
+             {"[kol] = 104", "[kol] >= 101", "N'012345'", "[Bed] <= 123456789", "[PersonCode] >= "})
+            QVERIFY2(condition.contains(QLatin1String(piece)), qPrintable(condition));
+        shop_->Reopen();
+        QCOMPARE(shop_->Report->Manager().Condition(), condition);
+    }
+
+    void theHostsCalendarIsShown()
+    {
+        shop_->Form.reset();
+        shop_->Settings.SetGregorian(true);
+        filters_ = &shop_->OpenReport().Filters();
+        filters_->ShowAdvanced(true);
+        Toggle(filters_->Date->RangeDate_CHK);
+        TypeInto(filters_->Date->RangeDate_From_EDT, QStringLiteral("1402/02/01"));
+        shop_->Settle();
+        const QString words = shop_->Words();
+        const QImage gregorian = shop_->Report->Grid().viewport()->grab().toImage();
+        shop_->Settings.SetGregorian(false);
+        QVERIFY2(words.contains(QStringLiteral("۲۰۲۳/۰۴/۲۱")), qPrintable(words));
+        QVERIFY(shop_->Report->Manager().Condition().contains(QStringLiteral("N'1402/02/01'")));
+        filters_ = &shop_->Reopen().Filters();
+        QVERIFY2(shop_->Words().contains(QStringLiteral("۱۴۰۲/۰۲/۰۱")), qPrintable(shop_->Words()));
+        filters_->ShowAdvanced(true);
+        shop_->Settle();
+        QVERIFY(shop_->Report->Grid().viewport()->grab().toImage() != gregorian);
     }
 
     void spoiltSettingsAreLeftOut_data()
