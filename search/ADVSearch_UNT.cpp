@@ -44,7 +44,7 @@ TADVSearch_Fram::TADVSearch_Fram(QWidget* owner) : TFrame(owner)
 
 TADVSearch_Fram::~TADVSearch_Fram() = default;
 
-void TADVSearch_Fram::ADVSearch_BTNClick(QObject* /*Sender*/)
+void TADVSearch_Fram::ADVSearch_BTNClick(QObject* /*Sender*/) const
 {
     ADVSearch_CHK->SetChecked(true);
 }
@@ -53,7 +53,7 @@ void TADVSearch_Fram::ADVSearch_CHKClick(QObject* /*Sender*/)
 {
 }
 
-void TADVSearch_Fram::ShowGlyph()
+void TADVSearch_Fram::ShowGlyph() const
 {
     ADVSearch_BTN->setIcon(Glass(ADVSearch_BTN->palette().color(QPalette::ButtonText)));
 }

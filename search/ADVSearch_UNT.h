@@ -18,7 +18,7 @@ public:
     ~TADVSearch_Fram() override;
 
     /// Ticks the check box.
-    void ADVSearch_BTNClick(QObject* Sender);
+    void ADVSearch_BTNClick(QObject* Sender) const;
     /// Does nothing; owners that want to know put a handler of their own in its place.
     void ADVSearch_CHKClick(QObject* Sender);
     /// Keeps the owner's handler, which the frame itself never calls.
@@ -33,7 +33,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void ShowGlyph();
+    void ShowGlyph() const;
 
     TNotifyEvent FBTN_Click;
 };

@@ -107,23 +107,23 @@ void TRange_Cost_Search_Frame::RangeCost_CHKClick()
         criterion->SetActive(checked);
 }
 
-void TRange_Cost_Search_Frame::RangeCost_CMBPropertiesChange()
+void TRange_Cost_Search_Frame::RangeCost_CMBPropertiesChange() const
 {
     TarvaSearch_Range_Cost->SetItemIndex(RangeCost_CMB->ItemIndex());
 }
 
-void TRange_Cost_Search_Frame::RangeCost_From_EDTEditValueChange()
+void TRange_Cost_Search_Frame::RangeCost_From_EDTEditValueChange() const
 {
     TarvaSearch_Range_Cost->SetValue1(static_cast<double>(RangeCost_From_EDT->GetValue()));
 }
 
 /// An upper bound of 0 stays 0, other than with whole numbers.
-void TRange_Cost_Search_Frame::RangeCost_To_EDTEditValueChange()
+void TRange_Cost_Search_Frame::RangeCost_To_EDTEditValueChange() const
 {
     TarvaSearch_Range_Cost->SetValue2(static_cast<double>(RangeCost_To_EDT->GetValue()));
 }
 
-void TRange_Cost_Search_Frame::RangeCost_Reverst_CHKClick()
+void TRange_Cost_Search_Frame::RangeCost_Reverst_CHKClick() const
 {
     TarvaSearch_Range_Cost->SetReverst(RangeCost_Reverst_CHK->Checked());
 }

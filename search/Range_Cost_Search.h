@@ -40,10 +40,10 @@ private:
     void BindHandlers();
 
     void RangeCost_CHKClick();
-    void RangeCost_CMBPropertiesChange();
-    void RangeCost_From_EDTEditValueChange();
-    void RangeCost_To_EDTEditValueChange();
-    void RangeCost_Reverst_CHKClick();
+    void RangeCost_CMBPropertiesChange() const;
+    void RangeCost_From_EDTEditValueChange() const;
+    void RangeCost_To_EDTEditValueChange() const;
+    void RangeCost_Reverst_CHKClick() const;
     void TarvaSearch_Range_CostChangeItemIndex();
     void Enable(bool enabled);
     void SetBounds(const QVariant& from, const QVariant& to) const;

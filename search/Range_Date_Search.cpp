@@ -91,12 +91,12 @@ QString TRange_Date_Search_Frame::GetToDate() const
     return HasTime() ? RangeTime_To_EDT->GetText() + QStringLiteral(" - ") + date : date;
 }
 
-void TRange_Date_Search_Frame::SetFromDate(const QString& date)
+void TRange_Date_Search_Frame::SetFromDate(const QString& date) const
 {
     SetDate(*RangeDate_From_EDT, date);
 }
 
-void TRange_Date_Search_Frame::SetToDate(const QString& date)
+void TRange_Date_Search_Frame::SetToDate(const QString& date) const
 {
     SetDate(*RangeDate_To_EDT, date);
 }
@@ -136,7 +136,7 @@ void TRange_Date_Search_Frame::Enable(bool enabled)
         edit->SetEnabled(enabled);
 }
 
-void TRange_Date_Search_Frame::ShowTimes(bool shown)
+void TRange_Date_Search_Frame::ShowTimes(bool shown) const
 {
     RangeTime_From_EDT->setVisible(shown);
     RangeTime_To_EDT->setVisible(shown);
@@ -190,7 +190,7 @@ void TRange_Date_Search_Frame::RangeDate_To_EDTEditValueChange()
     WriteValues();
 }
 
-void TRange_Date_Search_Frame::RangeDate_Reverst_CHKClick()
+void TRange_Date_Search_Frame::RangeDate_Reverst_CHKClick() const
 {
     TarvaSearch_Range_Date->SetReverst(RangeDate_Reverst_CHK->Checked());
 }

@@ -29,8 +29,8 @@ public:
     /// GetFromDate; that is intended.
     QString GetToDate() const;
     /// Shows a date and hands it to the criterion at once; an empty text empties the edit.
-    void SetFromDate(const QString& date);
-    void SetToDate(const QString& date);
+    void SetFromDate(const QString& date) const;
+    void SetToDate(const QString& date) const;
 
     TSmartFlowPanel_TRV* Range_Date_Search_FPNL = nullptr;
     TSmartCheckBox_TRV* RangeDate_CHK = nullptr;
@@ -53,12 +53,12 @@ private:
     void RangeDate_CMBPropertiesChange();
     void RangeDate_From_EDTEditValueChange();
     void RangeDate_To_EDTEditValueChange();
-    void RangeDate_Reverst_CHKClick();
+    void RangeDate_Reverst_CHKClick() const;
     void TarvaSearch_Range_DateChangeItemIndex();
 
     bool HasTime() const;
     void Enable(bool enabled);
-    void ShowTimes(bool shown);
+    void ShowTimes(bool shown) const;
     void FocusFirst();
     QString Bound(const TSmartDateEdit_TRV& date, const TSmartTime_TRV& time) const;
     void WriteValues();

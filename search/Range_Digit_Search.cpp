@@ -73,7 +73,7 @@ bool TRange_Digit_Search_Frame::GetActive() const
     return RangeDigit_CHK->Checked();
 }
 
-void TRange_Digit_Search_Frame::SetActive(bool active)
+void TRange_Digit_Search_Frame::SetActive(bool active) const
 {
     RangeDigit_CHK->SetChecked(active);
 }
@@ -88,13 +88,13 @@ QVariant TRange_Digit_Search_Frame::GetSearchValue2() const
     return qint64(TarvaSearch_Range_Digit->GetValue2AsInt());
 }
 
-void TRange_Digit_Search_Frame::SetSearchValue1(const QVariant& value)
+void TRange_Digit_Search_Frame::SetSearchValue1(const QVariant& value) const
 {
     RangeDigit_From_EDT->SetText(ValueText(value));
     TarvaSearch_Range_Digit->SetValue1(value);
 }
 
-void TRange_Digit_Search_Frame::SetSearchValue2(const QVariant& value)
+void TRange_Digit_Search_Frame::SetSearchValue2(const QVariant& value) const
 {
     RangeDigit_To_EDT->SetText(ValueText(value));
     TarvaSearch_Range_Digit->SetValue2(value);
@@ -125,24 +125,24 @@ void TRange_Digit_Search_Frame::RangeDigit_CHKClick()
         criterion->SetActive(checked);
 }
 
-void TRange_Digit_Search_Frame::RangeDigit_CMBPropertiesChange()
+void TRange_Digit_Search_Frame::RangeDigit_CMBPropertiesChange() const
 {
     TarvaSearch_Range_Digit->SetItemIndex(RangeDigit_CMB->ItemIndex());
 }
 
-void TRange_Digit_Search_Frame::RangeDigit_From_EDTEditValueChange()
+void TRange_Digit_Search_Frame::RangeDigit_From_EDTEditValueChange() const
 {
     TarvaSearch_Range_Digit->SetValue1(RangeDigit_From_EDT->Text());
 }
 
-void TRange_Digit_Search_Frame::RangeDigit_To_EDTEditValueChange()
+void TRange_Digit_Search_Frame::RangeDigit_To_EDTEditValueChange() const
 {
     const bool isGiven = RangeDigit_To_EDT->GetValue() != 0.0L;
     TarvaSearch_Range_Digit->SetValue2(isGiven ? QVariant(RangeDigit_To_EDT->Text())
                                                : QVariant(NoUpperBound));
 }
 
-void TRange_Digit_Search_Frame::RangeDigit_Reverst_CHKClick()
+void TRange_Digit_Search_Frame::RangeDigit_Reverst_CHKClick() const
 {
     TarvaSearch_Range_Digit->SetReverst(RangeDigit_Reverst_CHK->Checked());
 }
@@ -152,7 +152,7 @@ void TRange_Digit_Search_Frame::TarvaSearch_Range_DigitChangeItemIndex()
     line_.ShowReverse(TarvaSearch_Range_Digit->CurrentItem());
 }
 
-void TRange_Digit_Search_Frame::FrameClick()
+void TRange_Digit_Search_Frame::FrameClick() const
 {
     TarvaSearch_Range_Digit->SetActive(RangeDigit_CHK->Checked());
 }

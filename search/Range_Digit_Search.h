@@ -21,15 +21,15 @@ public:
     void init();
     /// The state of the check box.
     bool GetActive() const;
-    void SetActive(bool active);
+    void SetActive(bool active) const;
     /// The criterion's bounds as 64-bit integers; 0 where there is none.
     QVariant GetSearchValue1() const;
     QVariant GetSearchValue2() const;
     /// Shows a value in the from or to edit and hands it to the criterion.
-    void SetSearchValue1(const QVariant& value);
-    void SetSearchValue2(const QVariant& value);
+    void SetSearchValue1(const QVariant& value) const;
+    void SetSearchValue2(const QVariant& value) const;
     /// The click on the frame itself.
-    void FrameClick();
+    void FrameClick() const;
     /// Does nothing; forms of owners refer to it.
     void Reverst_Digit_CHKClick();
 
@@ -52,10 +52,10 @@ private:
     void BindHandlers();
 
     void RangeDigit_CHKClick();
-    void RangeDigit_CMBPropertiesChange();
-    void RangeDigit_From_EDTEditValueChange();
-    void RangeDigit_To_EDTEditValueChange();
-    void RangeDigit_Reverst_CHKClick();
+    void RangeDigit_CMBPropertiesChange() const;
+    void RangeDigit_From_EDTEditValueChange() const;
+    void RangeDigit_To_EDTEditValueChange() const;
+    void RangeDigit_Reverst_CHKClick() const;
     void TarvaSearch_Range_DigitChangeItemIndex();
     void Enable(bool enabled);
 

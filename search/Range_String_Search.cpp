@@ -139,7 +139,7 @@ void TRange_String_Search_Frame::RangeString_To_EDTExit()
     TarvaSearch_Range_String->SetValue2(RangeString_To_EDT->Text());
 }
 
-void TRange_String_Search_Frame::RangeString_Reverst_CHKClick()
+void TRange_String_Search_Frame::RangeString_Reverst_CHKClick() const
 {
     TarvaSearch_Range_String->SetReverst(RangeString_Reverst_CHK->Checked());
 }
@@ -149,7 +149,7 @@ void TRange_String_Search_Frame::TarvaSearch_Range_StringChangeItemIndex()
     line_.ShowReverse(TarvaSearch_Range_String->CurrentItem());
 }
 
-void TRange_String_Search_Frame::FrameClick()
+void TRange_String_Search_Frame::FrameClick() const
 {
     TarvaSearch_Range_String->SetActive(RangeString_CHK->Checked());
 }

@@ -24,7 +24,7 @@ public:
     /// Fills the frame from values that were kept.
     void initControl(bool active, int itemIndex, const QString& fromCode, const QString& toCode);
     /// The click on the frame itself.
-    void FrameClick();
+    void FrameClick() const;
     /// Does nothing; forms of owners refer to it.
     void Reverst_String_CHKClick();
 
@@ -50,7 +50,7 @@ private:
     void RangeString_CMBPropertiesChange();
     void RangeString_From_EDTExit();
     void RangeString_To_EDTExit();
-    void RangeString_Reverst_CHKClick();
+    void RangeString_Reverst_CHKClick() const;
     void TarvaSearch_Range_StringChangeItemIndex();
 
     int CodeLength() const;

@@ -43,7 +43,7 @@ void TTab_Search_Frame::init()
     Host().CommonLibrary.SetWinControlRightAlign(Search_TBC);
 }
 
-void TTab_Search_Frame::Search_TBCChange(QObject* /*Sender*/)
+void TTab_Search_Frame::Search_TBCChange(QObject* /*Sender*/) const
 {
     const QPointer<TTarvaSearch> criterion(TarvaSearch_Tab);
     criterion->SetItemIndex(Search_TBC->TabIndex());

@@ -21,7 +21,7 @@ public:
     void init();
     void Loaded() override;
     /// The choice of a tab.
-    void Search_TBCChange(QObject* Sender);
+    void Search_TBCChange(QObject* Sender) const;
 
     TTabControl* Search_TBC = nullptr;
     TTarvaSearch* TarvaSearch_Tab = nullptr;
