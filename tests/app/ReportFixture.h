@@ -37,7 +37,10 @@ class TReportFixture : public TFormFixture
 public:
     using TPredicate = std::function<bool(const TPlainLine& line)>;
 
-    TReportFixture() { ReadLines(); }
+    explicit TReportFixture(const TSampleSize& size = TSampleSize::Small()) : TFormFixture(size)
+    {
+        ReadLines();
+    }
 
     TReportForm& OpenReport()
     {
