@@ -126,7 +126,7 @@ void TReportFilterPanel::StartPeriod()
     Period->init();
 }
 
-void TReportFilterPanel::StartTabs()
+void TReportFilterPanel::StartTabs() const
 {
     Tabs->TarvaSearch_Tab->SearchItems.Clear();
     ReportItems::AddStates(Tabs->TarvaSearch_Tab->SearchItems);
@@ -134,13 +134,13 @@ void TReportFilterPanel::StartTabs()
     ChooseTab(0);
 }
 
-void TReportFilterPanel::ChoosePeriod(int index)
+void TReportFilterPanel::ChoosePeriod(int index) const
 {
     Period->RangeDate_CMB->SetItemIndex(index);
     Period->RangeDate_CMBChange(Period->RangeDate_CMB);
 }
 
-void TReportFilterPanel::ChooseTab(int index)
+void TReportFilterPanel::ChooseTab(int index) const
 {
     Tabs->Search_TBC->SetTabIndex(index);
     Tabs->Search_TBCChange(Tabs->Search_TBC);
@@ -164,9 +164,9 @@ QVector<const TTarvaSearch*> TReportFilterPanel::DateCriteria() const
     return {storedPeriod_, storedDate_, Time->TarvaSearch_Range_Date};
 }
 
-void TReportFilterPanel::Clear()
+void TReportFilterPanel::Clear() const
 {
-    for (const TReportFilterRow& row : qAsConst(rows_))
+    for (const TReportFilterRow& row : rows_)
         row.Clear();
     ChoosePeriod(everything);
     ChooseTab(0);
@@ -183,13 +183,13 @@ QJsonObject TReportFilterPanel::State() const
     return state;
 }
 
-void TReportFilterPanel::Restore(const QJsonObject& state)
+void TReportFilterPanel::Restore(const QJsonObject& state) const
 {
     const int period = state.value(periodKey).toInt(everything);
     ChoosePeriod(period >= 0 && period <= everything ? period : everything);
     const int tab = state.value(tabKey).toInt();
     ChooseTab(tab >= 0 && tab < Tabs->Search_TBC->TabCount() ? tab : 0);
-    for (const TReportFilterRow& row : qAsConst(rows_))
+    for (const TReportFilterRow& row : rows_)
         row.Restore(state.value(row.Key).toObject());
     Advanced->ADVSearch_CHK->SetChecked(state.value(advancedKey).toBool());
 }
@@ -207,7 +207,7 @@ bool TReportFilterPanel::AdvancedIsShown() const
     return !lines_->isHidden();
 }
 
-void TReportFilterPanel::FocusPeriod()
+void TReportFilterPanel::FocusPeriod() const
 {
     Period->RangeDate_CMB->setFocus(Qt::ShortcutFocusReason);
 }

@@ -37,13 +37,13 @@ public:
     void AddTo(TTarvaSearchManager& manager) const;
     /// The criteria whose bounds are dates, as they stand in the condition.
     QVector<const TTarvaSearch*> DateCriteria() const;
-    void Clear();
+    void Clear() const;
     QJsonObject State() const;
-    void Restore(const QJsonObject& state);
+    void Restore(const QJsonObject& state) const;
 
     void ShowAdvanced(bool shown);
     bool AdvancedIsShown() const;
-    void FocusPeriod();
+    void FocusPeriod() const;
 
     TDateRange_Display_FRAM* Period = nullptr;
     TADVSearch_Fram* Advanced = nullptr;
@@ -70,9 +70,9 @@ private:
     void AddEntityRows();
     void LineUp() const;
     void StartPeriod();
-    void StartTabs();
-    void ChoosePeriod(int index);
-    void ChooseTab(int index);
+    void StartTabs() const;
+    void ChoosePeriod(int index) const;
+    void ChooseTab(int index) const;
 
     QScrollArea* lines_ = nullptr;
     TStoredDateCriterion* storedDate_ = nullptr;

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr QLatin1String onKey("on");
+constexpr QLatin1String isOnKey("on");
 constexpr QLatin1String fieldKey("field");
 constexpr QLatin1String notKey("not");
 constexpr QLatin1String valuesKey("values");
@@ -27,7 +27,7 @@ void TReportFilterRow::Clear() const
 QJsonObject TReportFilterRow::State() const
 {
     QJsonObject state;
-    state.insert(onKey, Switch->Checked());
+    state.insert(isOnKey, Switch->Checked());
     state.insert(notKey, Reverse->Checked());
     state.insert(fieldKey, Fields == nullptr ? 0 : Fields->ItemIndex());
     state.insert(valuesKey, QJsonArray::fromStringList(Values()));
@@ -47,5 +47,5 @@ void TReportFilterRow::Restore(const QJsonObject& state) const
     if (values.size() == Values().size())
         SetValues(values);
     Reverse->SetChecked(state.value(notKey).toBool());
-    Switch->SetChecked(state.value(onKey).toBool());
+    Switch->SetChecked(state.value(isOnKey).toBool());
 }

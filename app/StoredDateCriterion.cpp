@@ -1,15 +1,6 @@
 #include "StoredDateCriterion.h"
 
-#include "DateBound.h"
-#include "DateText.h"
-#include "SmartFaDate.h"
-
-namespace {
-
-// A year from here on was meant in the Gregorian calendar: the solar one reaches it in seven centuries.
-constexpr int FirstGregorianYear = 1700;
-
-} // namespace
+#include "ReportText.h"
 
 TStoredDateCriterion::TStoredDateCriterion(const TTarvaSearch& frame, QObject* parent)
     : TTarvaSearch(parent), frame_(&frame)
@@ -29,15 +20,7 @@ TStoredDateCriterion::~TStoredDateCriterion() = default;
 
 QString TStoredDateCriterion::StoredForm(const QString& date)
 {
-    if (DateBound::IsOpen(date))
-        return date;
-    const auto numbers = DateText::Read(date);
-    if (!numbers)
-        return date;
-    if (numbers->Year < FirstGregorianYear)
-        return DateText::Write(*numbers);
-    const TFaDate day = TFaDate::CreateByGregorianDate(date);
-    return day.IsValid() ? day.ToDateString() : date;
+    return ReportText::Date(date, false);
 }
 
 void TStoredDateCriterion::Follow()

@@ -55,6 +55,27 @@ private Q_SLOTS:
         QVERIFY(!filters_->AdvancedIsShown());
     }
 
+    void eachFilterHasALetterOfItsOwn()
+    {
+        filters_->ShowAdvanced(true);
+        const QVector<QPair<char16_t, TSmartCheckBox_TRV*>> letters{
+            {u'ت', filters_->Date->RangeDate_CHK},       {u'ث', filters_->Time->RangeDate_CHK},
+            {u'غ', filters_->Cost->RangeCost_CHK},       {u'ش', filters_->Digit->RangeDigit_CHK},
+            {u'ک', filters_->Code->RangeString_CHK},     {u'ح', filters_->Account->AccCodes_CHK},
+            {u'ب', filters_->Accounts->AccCodes_CHK},    {u'ل', filters_->Entity->SelectEntity_CHK},
+            {u'ی', filters_->Entities->SelectEntity_CHK}};
+        for (const auto& [letter, box] : letters) {
+            PressLetter(letter);
+            QVERIFY2(box->Checked(), qPrintable(QString(QChar(letter))));
+        }
+        for (const auto& [letter, box] : letters) {
+            PressLetter(letter);
+            QVERIFY2(!box->Checked(), qPrintable(QString(QChar(letter))));
+        }
+        PressLetter(u'س');
+        QVERIFY(filters_->Advanced->ADVSearch_CHK->Checked());
+    }
+
     void thePeriodIsChosenByKeyboard()
     {
         shop_->Press(Qt::Key_F10);
@@ -256,6 +277,12 @@ private:
                 return line.Tafzili;
         }
         return 0;
+    }
+    void PressLetter(char16_t letter) const
+    {
+        QTest::sendKeyEvent(QTest::Click, shop_->Focus(), static_cast<Qt::Key>(letter),
+                            QString(QChar(letter)), Qt::AltModifier);
+        QCoreApplication::processEvents();
     }
     void Toggle(QWidget* box) const
     {
