@@ -42,7 +42,8 @@ void TReportFilterRow::Restore(const QJsonObject& state) const
         Fields->OnChange(Fields);
     }
     QStringList values;
-    for (const QJsonValue value : state.value(valuesKey).toArray())
+    const QJsonArray kept = state.value(valuesKey).toArray();
+    for (const auto& value : kept)
         values.append(value.toString().left(longestValue));
     if (values.size() == Values().size())
         SetValues(values);
