@@ -30,6 +30,10 @@ else()
   target_compile_options(baseframe_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
     -Wconversion -Wno-sign-conversion -Wformat=2 -Werror)
+  if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    # Sources that are compiled together are included, which makes what is private to one of them look shared.
+    target_compile_options(baseframe_options INTERFACE -Wno-subobject-linkage)
+  endif()
   # Programs too, so that they share the libraries' precompiled headers.
   target_compile_options(baseframe_options INTERFACE -fPIC)
 endif()

@@ -122,10 +122,7 @@ bool TDetailUniqueCode_FRME::TakeProposal()
 {
     fUDetailCode = TOpenQuery(DetailUniqueCode::NextFree(DetailType)).FirstNumber();
     const QString code = QString::number(fUDetailCode);
-    if (!hold_.Take(DetailType, code) && TUniqueCodeHold::IsHeldByAnother(DetailType, code))
-        return false;
-    // Between the proposal and the hold another user may have taken, saved and released the number.
-    return !IsUsedByAccount(fUDetailCode);
+    return hold_.Take(DetailType, code) || !TUniqueCodeHold::IsHeldByAnother(DetailType, code);
 }
 
 void TDetailUniqueCode_FRME::FillUniqueCode(int detailCode)

@@ -33,21 +33,21 @@ void OpenVoucher(TTourPlayer& player)
     player.Screenshot(QStringLiteral("voucher-empty"));
     player.Press(Qt::Key_Return);
     player.Check(Voucher(player).HeadBar().Title().hasFocus(), QStringLiteral("Enter به شرح سند نرفت"));
-    player.Type(QStringLiteral("خرید ملزومات اداری"));
+    player.Type(QStringLiteral("تعمیر سقف فروشگاه"));
     player.Press(Qt::Key_Return);
     player.Check(Selector(player).TotalCode_EDT->hasFocus(), QStringLiteral("Enter به کد کل نرفت"));
 }
 
 void TypeUnknownCode(TTourPlayer& player)
 {
-    player.Type(QStringLiteral("7"));
+    player.Type(QStringLiteral("9"));
     player.WhenDialogOpens([&player] {
         player.Screenshot(QStringLiteral("voucher-unknown-code"));
         player.Press(Qt::Key_Return);
     });
     player.Press(Qt::Key_Tab);
     player.CheckDialogCame(QStringLiteral("پیام کد نادرست نیامد"));
-    player.Check(Selector(player).TotalCode_EDT->Text() == QLatin1String("007"),
+    player.Check(Selector(player).TotalCode_EDT->Text() == QLatin1String("009"),
                  QStringLiteral("کد با صفر پر نشد"));
     player.WaitUntil([&player] { return player.Window().focusWidget() == Selector(player).TotalCode_EDT; },
                      QStringLiteral("فوکوس به کد کل برنگشت"));
@@ -57,17 +57,23 @@ void TypeAccount(TTourPlayer& player)
 {
     TSelect_AccountCode& selector = Selector(player);
     player.Press(Qt::Key_A, Qt::ControlModifier);
-    player.Type(QStringLiteral("802"));
-    player.Check(selector.AssistantCode_EDT->hasFocus(), QStringLiteral("کد پر شده به معین نرفت"));
+    player.Type(QStringLiteral("7"));
+    player.Press(Qt::Key_Tab);
+    player.Check(selector.TotalCode_EDT->Text() == QLatin1String("007"),
+                 QStringLiteral("کد کل با صفر پر نشد"));
+    player.Check(selector.Name_LBL->Caption().contains(QStringLiteral("تعمیر")),
+                 QStringLiteral("نام حساب کل نوشته نشد"));
+    player.Check(selector.AssistantCode_EDT->hasFocus(), QStringLiteral("Tab به معین نرفت"));
+    player.Screenshot(QStringLiteral("voucher-total-found"));
     player.Type(QStringLiteral("1"));
     player.Press(Qt::Key_Tab);
     player.Check(selector.AssistantCode_EDT->Text() == QLatin1String("001"),
                  QStringLiteral("کد معین با صفر پر نشد"));
-    player.Type(QStringLiteral("7"));
+    player.Type(QStringLiteral("10"));
     player.Press(Qt::Key_Tab);
-    player.Check(selector.DetailCode_EDT->Text() == QLatin1String("000007"),
+    player.Check(selector.DetailCode_EDT->Text() == QLatin1String("000010"),
                  QStringLiteral("کد تفصیلی با صفر پر نشد"));
-    player.Check(selector.Name_LBL->Caption().contains(QStringLiteral("ملزومات")),
+    player.Check(selector.Name_LBL->Caption().contains(QStringLiteral("تعمیر و نگهداری")),
                  QStringLiteral("نام حساب نوشته نشد"));
     player.Check(selector.ExpenseCenterCode_EDT->hasFocus(), QStringLiteral("به مرکز هزینه نرفت"));
     player.Screenshot(QStringLiteral("voucher-account-found"));
@@ -95,7 +101,7 @@ void PutLine(TTourPlayer& player)
 {
     player.Type(QStringLiteral("1250000"));
     player.Press(Qt::Key_Return);
-    player.Type(QStringLiteral("کاغذ و لوازم تحریر"));
+    player.Type(QStringLiteral("دستمزد و مصالح"));
     player.Screenshot(QStringLiteral("voucher-line-typed"));
     player.Press(Qt::Key_Return);
     TVoucherForm& form = Voucher(player);
@@ -153,7 +159,7 @@ void CorrectLine(TTourPlayer& player)
     player.Check(form.Grid().hasFocus(), QStringLiteral("F6 به ردیف‌ها نرفت"));
     player.Press(Qt::Key_Home);
     player.Press(Qt::Key_Return);
-    player.Check(Selector(player).GetTotalCode() == 802, QStringLiteral("ردیف برای اصلاح باز نشد"));
+    player.Check(Selector(player).GetTotalCode() == 7, QStringLiteral("ردیف برای اصلاح باز نشد"));
     player.Screenshot(QStringLiteral("voucher-line-corrected"));
     player.Press(Qt::Key_Escape);
     player.Press(Qt::Key_F6);

@@ -110,11 +110,11 @@ private Q_SLOTS:
     {
         TSelect_AccountCode& selector = form_->Band().Selector();
         form_->Band().FocusTotal();
-        shop_->TypeAndEnter(QStringLiteral("7"));
+        shop_->TypeAndEnter(QStringLiteral("9"));
         QCOMPARE(shop_->Told.size(), 1);
         QVERIFY2(shop_->Told.constFirst().contains(QStringLiteral("حسابي")),
                  qPrintable(shop_->Told.constFirst()));
-        QCOMPARE(selector.TotalCode_EDT->Text(), QStringLiteral("007"));
+        QCOMPARE(selector.TotalCode_EDT->Text(), QStringLiteral("009"));
         QCOMPARE(shop_->Focus(), selector.TotalCode_EDT);
     }
 

@@ -25,19 +25,35 @@ void Show(int number)
     std::fflush(stdout);
 }
 
-/// What the form of a detail account does from opening to closing. Ends the program where a number that is
-/// held is no longer free when it is saved.
+/// Between the proposal of a number and the hold on it another program had the time to save the number.
+struct TAlreadySaved
+{
+};
+
+/// What the form of a detail account does from opening to closing. Throws TAlreadySaved, of which no message
+/// box tells because nobody is there to close it.
 int CreateAccount(TADOConnection& connection, int account)
 {
     TDetailUniqueCode_FRME frame;
     frame.DetailType = kind;
     frame.InitUniqueCode();
-    if (!frame.IsValidated([] { std::_Exit(EXIT_FAILURE); }))
+    if (!frame.IsValidated([] { throw TAlreadySaved(); }))
         return 0;
     connection.Execute(QStringLiteral("INSERT INTO dbo.AccDetails ([Type], Code, Name) VALUES (?, ?, N'-')"),
                        {static_cast<int>(kind), account});
     frame.SaveDetailUniqueCode(account);
     return frame.GetUniqueCodeValue();
+}
+
+int CreateAccountWithAnyNumber(TADOConnection& connection, int account)
+{
+    for (;;) {
+        try {
+            return CreateAccount(connection, account);
+        } catch (const TAlreadySaved&) {
+            std::fprintf(stderr, "account %d asks for another number\n", account);
+        }
+    }
 }
 
 } // namespace
@@ -59,7 +75,7 @@ int main(int argumentCount, char** arguments)
 
     if (options.at(1) == QStringLiteral("create")) {
         for (int i = 0; i < number; ++i)
-            Show(CreateAccount(connection, firstAccount + user * accountsPerUser + i));
+            Show(CreateAccountWithAnyNumber(connection, firstAccount + user * accountsPerUser + i));
         return EXIT_SUCCESS;
     }
     settings.SetIniOptions({number});

@@ -45,13 +45,15 @@ private Q_SLOTS:
         QCOMPARE(form.Host.CommonLibrary.Held, QStringList{QStringLiteral("1270001:1000009")});
     }
 
-    void aProposalThatAnotherHasSavedMeanwhileIsFollowedByTheNext()
+    void aProposalThatAnotherHasSavedMeanwhileIsRefusedBeforeItIsSaved()
     {
         TUniqueCodeForm form;
-        form.Database.Proposals = {qint64(1000006), qint64(1000007)};
+        form.Database.Proposals = {qint64(1000006)};
         form.Frame->InitUniqueCode();
-        QCOMPARE(form.Text(), QStringLiteral("01000007"));
-        QCOMPARE(form.Host.CommonLibrary.Held, QStringList{QStringLiteral("1270001:1000007")});
+        QCOMPARE(form.Statements(), QStringList{QStringLiteral("SELECT dbo.GetUinqueCode_FNC(1)")});
+        QCOMPARE(form.Text(), QStringLiteral("01000006"));
+        QVERIFY(!form.Frame->IsValidated());
+        QCOMPARE(form.Host.Log.CountOf(QStringLiteral("MsgRepeatedCode")), 1);
     }
 
     void proposalsThatAreAlwaysGoneEndWithAMessageAndNoNumber()
