@@ -267,7 +267,7 @@ private:
         else if (how == u"no title")
             draft.Head.Title.clear();
         else if (how == u"unknown total")
-            second.Account.Total = 7;
+            second.Account.Total = 9;
         else if (how == u"unknown assistant")
             second.Account.Assistant = 99;
         else if (how == u"missing detail")
