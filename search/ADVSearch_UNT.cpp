@@ -61,6 +61,7 @@ void TADVSearch_Fram::ShowGlyph() const
 void TADVSearch_Fram::changeEvent(QEvent* event)
 {
     TFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && ADVSearch_BTN)
-        ShowGlyph();
+    // Later, because the button gets its palette after the frame.
+    if (event->type() == QEvent::PaletteChange)
+        QMetaObject::invokeMethod(this, &TADVSearch_Fram::ShowGlyph, Qt::QueuedConnection);
 }

@@ -10,9 +10,7 @@ QtMessageHandler handlerBefore = nullptr;
 // What a window that nobody sees cannot do, in the platform's own words.
 bool IsOfNoMatterOffscreen(const QString& message)
 {
-    return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
-           message == QLatin1String("This plugin does not support raise()") ||
-           message == QLatin1String("This plugin does not support grabbing the keyboard");
+    return message.startsWith(QLatin1String("This plugin does not support "));
 }
 
 void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& message)
