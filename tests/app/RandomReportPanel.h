@@ -36,6 +36,7 @@ public:
         : panel_(&panel), rows_(&rows), names_(&names), clock_(&clock)
     {
         for (const TReportRow& row : rows) {
+            all_.push_back(&row);
             if (row.Center != 0)
                 centers_.push_back(&row);
             for (size_t kind = 0; kind < EntityCount; ++kind) {
@@ -49,9 +50,8 @@ public:
     void Fill()
     {
         panel_->Clear();
-        fitting_.clear();
-        for (const TReportRow& row : *rows_)
-            fitting_.push_back(&row);
+        fitting_ = all_;
+        wanted_ = &Any(*rows_);
         filled_ = 0;
         Perhaps(3, &TRandomReportPanel::FillPeriod);
         Perhaps(3, &TRandomReportPanel::FillDate);
@@ -75,7 +75,9 @@ private:
     {
         return items.at(static_cast<size_t>(random_.bounded(static_cast<int>(items.size()))));
     }
-    const TReportRow& AnyRow() { return Any(*rows_); }
+    /// Every other time the line that the whole panel is after, so that filters which hold together find
+    /// something.
+    const TReportRow& AnyRow() { return Chance(2) ? *wanted_ : Any(*rows_); }
 
     void Perhaps(int outOf, void (TRandomReportPanel::*fill)())
     {
@@ -90,9 +92,15 @@ private:
     }
     bool Turn(TSmartCheckBox_TRV* box)
     {
-        const bool reversed = Chance(3);
+        const bool reversed = Chance(4);
         box->SetChecked(reversed);
         return reversed;
+    }
+    /// Most ranges begin before they end; `open` stands for no upper bound.
+    template <typename TValue> void Order(TValue& from, TValue& to, TValue open)
+    {
+        if (to != open && to < from && !Chance(8))
+            std::swap(from, to);
     }
     static QString DateText(int date)
     {
@@ -127,8 +135,9 @@ private:
     void FillDate()
     {
         TRange_Date_Search_Frame& frame = *panel_->Date;
-        const int from = Chance(4) ? 0 : AnyRow().Date;
-        const int to = from == 0 || Chance(2) ? AnyRow().Date : 99999999;
+        int from = Chance(4) ? 0 : AnyRow().Date;
+        int to = from == 0 || Chance(2) ? AnyRow().Date : 99999999;
+        Order(from, to, 99999999);
         frame.RangeDate_CHK->SetChecked(true);
         frame.SetFromDate(from == 0 ? QString() : DateText(from));
         frame.SetToDate(to == 99999999 ? QString() : DateText(to));
@@ -138,24 +147,20 @@ private:
     void FillTime()
     {
         TRange_Date_Search_Frame& frame = *panel_->Time;
-        const auto write = [](const TReportRow& row, TSmartTime_TRV& time) {
-            const QString minute = QString::number(row.Minute);
+        constexpr qint64 Open = std::numeric_limits<qint64>::max();
+        const auto write = [](qint64 moment, TSmartTime_TRV& time) {
+            const QString minute = QString::number(moment);
             time.SetText(minute.mid(8, 2) + u':' + minute.mid(10, 2));
             const QDate day = QDate::fromString(minute.left(8), QStringLiteral("yyyyMMdd"));
             return TFaDate::CreateByGregorianDate(day).ToDateString();
         };
-        qint64 from = 0;
-        qint64 to = std::numeric_limits<qint64>::max();
-        if (Chance(2)) {
-            const TReportRow& row = AnyRow();
-            from = row.Minute;
-            frame.SetFromDate(write(row, *frame.RangeTime_From_EDT));
-        }
-        if (from == 0 || Chance(2)) {
-            const TReportRow& row = AnyRow();
-            to = row.Minute;
-            frame.SetToDate(write(row, *frame.RangeTime_To_EDT));
-        }
+        qint64 from = Chance(2) ? AnyRow().Minute : 0;
+        qint64 to = from == 0 || Chance(2) ? AnyRow().Minute : Open;
+        Order(from, to, Open);
+        if (from != 0)
+            frame.SetFromDate(write(from, *frame.RangeTime_From_EDT));
+        if (to != Open)
+            frame.SetToDate(write(to, *frame.RangeTime_To_EDT));
         frame.RangeDate_CHK->SetChecked(true);
         Keep([=](const TReportRow& row) { return row.Minute >= from && row.Minute <= to; },
              Turn(frame.RangeDate_Reverst_CHK));
@@ -165,8 +170,9 @@ private:
         TRange_Cost_Search_Frame& frame = *panel_->Cost;
         const bool credit = Chance(2);
         const auto amount = [credit](const TReportRow& row) { return credit ? row.Credit : row.Debit; };
-        const qint64 from = amount(AnyRow()) / TReportRow::PartsOfUnit;
-        const qint64 to = from == 0 || Chance(2) ? amount(AnyRow()) / TReportRow::PartsOfUnit : 0;
+        qint64 from = amount(AnyRow()) / TReportRow::PartsOfUnit;
+        qint64 to = from == 0 || Chance(2) ? amount(AnyRow()) / TReportRow::PartsOfUnit : 0;
+        Order(from, to, qint64{0});
         frame.RangeCost_CMB->SetItemIndex(credit ? 1 : 0);
         frame.RangeCost_From_EDT->SetText(QString::number(from));
         frame.RangeCost_To_EDT->SetText(QString::number(to));
@@ -189,8 +195,9 @@ private:
         TRange_Digit_Search_Frame& frame = *panel_->Digit;
         const int index = random_.bounded(3);
         const auto field = Fields[index];
-        const int from = AnyRow().*field;
-        const int to = Chance(2) ? AnyRow().*field : 0;
+        int from = AnyRow().*field;
+        int to = Chance(2) ? AnyRow().*field : 0;
+        Order(from, to, 0);
         frame.RangeDigit_CMB->SetItemIndex(index);
         frame.RangeDigit_From_EDT->SetText(QString::number(from));
         frame.RangeDigit_To_EDT->SetText(QString::number(to));
@@ -205,8 +212,9 @@ private:
         const auto key = [byName](const TReportRow& row) {
             return byName ? row.NameRank : row.Total * 1000 + row.Assistant;
         };
-        const int from = key(AnyRow());
-        const int to = Chance(3) ? -1 : key(AnyRow());
+        int from = key(AnyRow());
+        int to = Chance(3) ? -1 : key(AnyRow());
+        Order(from, to, -1);
         const auto text = [this, byName](int value) {
             return value < 0 ? QString() : byName ? names_->at(value) : QString::number(value);
         };
@@ -284,10 +292,21 @@ private:
     /// A kind of which there are lines.
     size_t AnyKind()
     {
+        if (Chance(2)) {
+            const auto& codes = wanted_->Entities;
+            const auto code = std::find_if(codes.begin(), codes.end(), [](int each) { return each > 0; });
+            if (code != codes.end())
+                return static_cast<size_t>(code - codes.begin());
+        }
         size_t kind = EntityCount;
         while (kind == EntityCount || entities_.at(kind).empty())
             kind = static_cast<size_t>(random_.bounded(static_cast<int>(EntityCount)));
         return kind;
+    }
+    int AnyCode(size_t kind)
+    {
+        const int code = AnyRow().Entities.at(kind);
+        return code > 0 ? code : Any(entities_.at(kind));
     }
     static void Choose(TSmartComboBox_TRV* box, size_t index)
     {
@@ -298,7 +317,7 @@ private:
     {
         TSelectEntity_Search_Frame& frame = *panel_->Entity;
         const size_t kind = AnyKind();
-        const int code = Any(entities_.at(kind));
+        const int code = AnyCode(kind);
         frame.SelectEntity_CHK->SetChecked(true);
         Choose(frame.SelectEntity_CMB, kind);
         TSmartButtonEdit_TRV* box = frame.TSelect_Entity_Frame1->Code_EDT;
@@ -311,8 +330,9 @@ private:
     {
         TRange_SelectEntity_Search_Frame& frame = *panel_->Entities;
         const size_t kind = AnyKind();
-        const int from = Chance(4) ? 0 : Any(entities_.at(kind));
-        const int to = from == 0 || Chance(2) ? Any(entities_.at(kind)) : 0;
+        int from = Chance(4) ? 0 : AnyCode(kind);
+        int to = from == 0 || Chance(2) ? AnyCode(kind) : 0;
+        Order(from, to, 0);
         frame.SetActive(true);
         Choose(frame.SelectEntity_CMB, kind);
         if (from != 0)
@@ -341,8 +361,10 @@ private:
     const std::vector<TReportRow>* rows_;
     const QStringList* names_;
     TMovableClock* clock_;
+    std::vector<const TReportRow*> all_;
     std::vector<const TReportRow*> centers_;
     std::array<std::vector<int>, EntityCount> entities_;
     std::vector<const TReportRow*> fitting_;
+    const TReportRow* wanted_ = nullptr;
     int filled_ = 0;
 };

@@ -54,7 +54,7 @@ private Q_SLOTS:
         }
         QCOMPARE(shop_->Told, QStringList());
         // The panels are no trivial ones.
-        QVERIFY2(narrowed > panels / 4, qPrintable(QString::number(narrowed)));
+        QVERIFY2(narrowed > panels / 3, qPrintable(QString::number(narrowed)));
     }
 
 private:
