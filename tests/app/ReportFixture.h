@@ -116,12 +116,10 @@ public:
         return digits;
     }
 
-    QVector<TPlainLine> Lines;
-    TReportForm* Report = nullptr;
-
-private:
+    /// Reads the lines anew, after they have been changed.
     void ReadLines()
     {
+        Lines.clear();
         TADOQuery query;
         query.SetConnection(&Connection);
         query.SQL.SetText(QStringLiteral(
@@ -152,4 +150,7 @@ private:
             Lines.append(line);
         }
     }
+
+    QVector<TPlainLine> Lines;
+    TReportForm* Report = nullptr;
 };

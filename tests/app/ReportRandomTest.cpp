@@ -16,6 +16,7 @@ private Q_SLOTS:
         size.VouchersPerYear = VouchersPerYear;
         size.FiscalYears = 4;
         shop_ = std::make_unique<TReportFixture>(size);
+        WriteFractions();
         MoveClock();
         panel_ = std::make_unique<TReportFilterPanel>();
         panel_->AddTo(manager_);
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void everyPanelFindsTheLinesThatFit()
     {
         QVERIFY(rows_.size() >= FewestRows);
+        QVERIFY(std::any_of(rows_.begin(), rows_.end(),
+                            [](const TReportRow& row) { return row.Debit == 123456789012345678; }));
         bool isNumber = false;
         const int asked = qEnvironmentVariableIntValue("BASEFRAME_REPORT_PANELS", &isNumber);
         const int panels = isNumber && asked > 0 ? asked : Panels;
@@ -62,6 +65,22 @@ private:
     static constexpr size_t FewestRows = 50000;
     static constexpr int Panels = 2000;
 
+    /// Amounts next to whole numbers, with more digits than a double has.
+    void WriteFractions()
+    {
+        const QString update =
+            QStringLiteral("UPDATE dbo.Sanad_Detail SET %1 = ? WHERE %1 > 0 AND Id % 40 = %2");
+        const QStringList amounts = {QStringLiteral("12345678901234.5678"), QStringLiteral("5000000.0001"),
+                                     QStringLiteral("4999999.9999")};
+        for (int place = 0; place < amounts.size(); ++place) {
+            for (const QString& column : {QStringLiteral("Bed"), QStringLiteral("Bes")})
+                shop_->Connection.Execute(QString(update)
+                                              .replace(QStringLiteral("%1"), column)
+                                              .replace(QStringLiteral("%2"), QString::number(place)),
+                                          {amounts.at(place)});
+        }
+        shop_->ReadLines();
+    }
     /// The periods of the panel count from the day of the test's own clock.
     void MoveClock()
     {
