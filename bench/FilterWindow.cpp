@@ -2,7 +2,6 @@
 
 #include "SmartDBGrid_TRV.h"
 
-#include <QEvent>
 #include <QVBoxLayout>
 
 TFilterWindow::TFilterWindow(TDataSource& source)
@@ -20,13 +19,4 @@ TFilterWindow::TFilterWindow(TDataSource& source)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(grid);
     resize(1024, 700);
-}
-
-bool TFilterWindow::event(QEvent* event)
-{
-    const bool handled = QWidget::event(event);
-    // The window's backing store has been painted and handed to the screen.
-    if (event->type() == QEvent::UpdateRequest && OnPainted)
-        OnPainted();
-    return handled;
 }

@@ -1,19 +1,13 @@
 #pragma once
 
 #include "DataSource.h"
+#include "PaintedWindow.h"
 
-#include <functional>
-#include <QWidget>
-
-/// A window with nothing but the grid of a data source; tells when its contents have reached the screen.
-class TFilterWindow : public QWidget
+/// A window with nothing but the grid of a data source.
+class TFilterWindow : public TPaintedWindow
 {
     Q_OBJECT
 
 public:
     explicit TFilterWindow(TDataSource& source);
-    std::function<void()> OnPainted;
-
-protected:
-    bool event(QEvent* event) override;
 };

@@ -4,9 +4,23 @@
 #include <cstdio>
 #include <ctime>
 #include <functional>
+#include <QElapsedTimer>
 #include <QtGlobal>
 #include <string>
 #include <vector>
+
+/// Of at least one value.
+inline double Median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+inline double Milliseconds(const QElapsedTimer& timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
 
 /// One way of doing the work that a comparison measures.
 struct TContender

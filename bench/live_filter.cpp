@@ -4,6 +4,7 @@
 #include "DataSource.h"
 #include "FilterWindow.h"
 #include "Look.h"
+#include "Measure.h"
 #include "OffscreenMessages.h"
 #include "PagedDataSet.h"
 #include "ProcessMemory.h"
@@ -11,7 +12,6 @@
 #include "SampleData.h"
 #include "TarvaSearchManager.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <QApplication>
 #include <QCommandLineParser>
@@ -33,18 +33,6 @@ struct TTimes
 {
     std::vector<double> Raw, Answered, Painted; ///< milliseconds
 };
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-double Milliseconds(const QElapsedTimer& timer)
-{
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
 
 void Report(const TCase& filter, const TTimes& times, int rows)
 {
