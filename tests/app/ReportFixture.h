@@ -15,6 +15,7 @@
 /// A line as a test sees it: read by a statement of its own, without the report's source.
 struct TPlainLine
 {
+    int Id = 0;
     int FiscalYear = 0;
     int Number = 0;
     QString Date;
@@ -115,16 +116,14 @@ public:
         return digits;
     }
 
-    QVector<TPlainLine> Lines;
-    TReportForm* Report = nullptr;
-
-private:
+    /// Reads the lines anew, after they have been changed.
     void ReadLines()
     {
+        Lines.clear();
         TADOQuery query;
         query.SetConnection(&Connection);
         query.SQL.SetText(QStringLiteral(
-            "SELECT s.FiscalYear, s.Number, s.VoucherDate, s.RegisteredAt, s.Confirmed, d.RowNo, d.Kol, "
+            "SELECT d.Id, s.FiscalYear, s.Number, s.VoucherDate, s.RegisteredAt, s.Confirmed, d.RowNo, d.Kol, "
             "t.Name, t.DetailType, d.Moin, d.Tafzili, d.Tafsili2, d.Bed, d.Bes FROM dbo.Sanad_Detail AS d "
             "INNER JOIN dbo.Sanad AS s ON s.Id = d.SanadId INNER JOIN dbo.AccTotals AS t ON t.Code = d.Kol "
             "ORDER BY d.Id"));
@@ -133,6 +132,7 @@ private:
             int column = 0;
             const auto next = [&query, row, &column] { return query.ValueAt(row, column++); };
             TPlainLine line;
+            line.Id = next().toInt();
             line.FiscalYear = next().toInt();
             line.Number = next().toInt();
             line.Date = next().toString();
@@ -150,4 +150,7 @@ private:
             Lines.append(line);
         }
     }
+
+    QVector<TPlainLine> Lines;
+    TReportForm* Report = nullptr;
 };
