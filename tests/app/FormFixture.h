@@ -1,29 +1,20 @@
 #pragma once
 
 #include "ADOQuery.h"
-#include "DatabaseFile.h"
-#include "HostApplication.h"
-#include "Look.h"
 #include "MessageDialog.h"
 #include "Page.h"
-#include "ReferenceHost.h"
+#include "ShopFixture.h"
 
 #include <memory>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
-/// A sample database in a file, a host over it with a user signed in, and a form that he has before him.
-class TFormFixture
+/// A shop with a user signed in, and a form that he has before him.
+class TFormFixture : public TShopFixture
 {
 public:
-    explicit TFormFixture(const TSampleSize& size = TSampleSize::Small())
+    explicit TFormFixture(const TSampleSize& size = TSampleSize::Small()) : TShopFixture(size)
     {
-        TDatabaseOptions options;
-        options.Size = size;
-        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("shop.db")),
-                     options);
         Settings.SetUserInfo({1, QStringLiteral("مدیر")});
         Messages.setInterval(10);
         QObject::connect(&Messages, &QTimer::timeout, [this] { AnswerMessage(); });
@@ -41,21 +32,6 @@ public:
         Activate(Form.get());
         Form->Enter();
         return opened;
-    }
-
-    static void Activate(QWidget* window)
-    {
-        QVERIFY(QTest::qWaitForWindowExposed(window));
-        constexpr int Attempts = 20;
-        constexpr int SettlingTime = 50;
-        for (int attempt = 0; attempt < Attempts; ++attempt) {
-            window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(window));
-            QTest::qWait(SettlingTime);
-            if (QApplication::activeWindow() == window)
-                return;
-        }
-        QFAIL("the window does not stay active");
     }
 
     /// The control that has the keyboard. Without a window manager nobody gives it back after a message box.
@@ -98,10 +74,6 @@ public:
     QStringList Answers;
     QStringList Told; ///< the texts of the message boxes that have come
 
-    QTemporaryDir Folder;
-    TADOConnection Connection;
-    THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
-    TReferenceHost Host{Connection, Settings};
     std::unique_ptr<TPage> Form;
     QTimer Messages;
 
@@ -123,15 +95,3 @@ private:
         box->reject();
     }
 };
-
-/// Runs a test under the application object of the host. What is thrown out of an event is a failure of the
-/// test that the test itself may expect.
-template <typename TTest> int RunFormTest(int argumentCount, char** arguments)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    THostApplication application(argumentCount, arguments);
-    Look::Install(application, Look::TScheme::Light);
-    TTest test;
-    return QTest::qExec(&test, argumentCount, arguments);
-}

@@ -33,6 +33,6 @@ private Q_SLOTS:
 
 int main(int argc, char** argv)
 {
-    return RunListTest<LargeListTest>(argc, argv);
+    return RunFormTest<LargeListTest>(argc, argv);
 }
 #include "LargeListTest.moc"

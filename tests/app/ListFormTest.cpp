@@ -210,6 +210,6 @@ private:
 
 int main(int argc, char** argv)
 {
-    return RunListTest<ListFormTest>(argc, argv);
+    return RunFormTest<ListFormTest>(argc, argv);
 }
 #include "ListFormTest.moc"
