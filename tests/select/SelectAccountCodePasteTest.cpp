@@ -187,7 +187,7 @@ private Q_SLOTS:
             QVERIFY2(box->HasError() == (digits.size() < text.size()), qPrintable(text));
             line.Frame->refresh();
         }
-        const QRegularExpression digitsOnly(QStringLiteral(
+        static const QRegularExpression digitsOnly(QStringLiteral(
             R"(^(SELECT DetailType FROM AccTotals WHERE Code=\d+|SELECT dbo\.GetExpCenterName\(\d+\) AS Title)$)"));
         QVERIFY(line.Tables.Statements.size() > 100);
         for (const QString& statement : std::as_const(line.Tables.Statements))
