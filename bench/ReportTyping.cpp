@@ -136,13 +136,14 @@ TReportMoments TReportTyping::Apply(const TTypedFilter& filter)
         if (moment == 0)
             moment = Milliseconds(timer);
     };
-    QObject watch;
-    QObject::connect(&form_->Manager(), &TTarvaSearchManager::conditionChanged, &watch,
-                     [&] { note(moments.Asked); });
-    QObject::connect(&form_->DataSet(), &TDataSet::dataChanged, &watch, [&] {
+    const auto noteQuestion = [&] { note(moments.Asked); };
+    const auto noteAnswer = [&] {
         if (moments.Asked > 0)
             note(moments.Answered);
-    });
+    };
+    QObject watch; // ends before what the two write to
+    QObject::connect(&form_->Manager(), &TTarvaSearchManager::conditionChanged, &watch, noteQuestion);
+    QObject::connect(&form_->DataSet(), &TDataSet::dataChanged, &watch, noteAnswer);
     window_.OnPainted = [&] {
         if (moments.Answered > 0)
             note(moments.Painted);
@@ -168,12 +169,13 @@ TTypingResult TReportTyping::TypeOn(const TTypedFilter& filter, const QVector<Qt
     TTypingResult result;
     QElapsedTimer sinceQuestion;
     bool pending = false;
-    QObject watch;
-    QObject::connect(&form_->Manager(), &TTarvaSearchManager::conditionChanged, &watch, [&] {
+    const auto noteQuestion = [&] {
         ++result.Questions;
         pending = true;
         sinceQuestion.start();
-    });
+    };
+    QObject watch; // ends before what is written to
+    QObject::connect(&form_->Manager(), &TTarvaSearchManager::conditionChanged, &watch, noteQuestion);
     window_.OnPainted = [&] {
         if (!pending || !TotalsAreShown())
             return;
