@@ -80,14 +80,18 @@ QVariant UniqueCode(IFunctionContext& context, const QVariantList& arguments)
     return code <= last ? code : SmallestFreeCode(context, locked, first, last);
 }
 
-/// UNION drops what is already there, so a cycle in damaged data comes to an end.
+/// UNION drops what is already there, so a cycle in damaged data comes to an end. The range finds the nodes
+/// by their index: those of one parent, or all of the top level, whose parent is 0 or less.
 constexpr char Descendants[] =
     "WITH RECURSIVE found (id) AS ("
-    "SELECT id FROM category WHERE (?1 > 0 AND parent_code = ?1) OR (?1 = 0 AND parent_code <= 0) "
+    "SELECT id FROM category "
+    "WHERE ?1 >= 0 AND parent_code BETWEEN CASE WHEN ?1 = 0 THEN -2147483648 ELSE ?1 END AND ?1 "
     "UNION SELECT c.id FROM category AS c INNER JOIN found ON c.parent_code = found.id) "
     "SELECT id FROM found ORDER BY id";
-constexpr char Children[] = "SELECT id FROM category WHERE (?1 > 0 AND parent_code = ?1) "
-                            "OR (?1 = 0 AND parent_code <= 0) ORDER BY id";
+constexpr char Children[] =
+    "SELECT id FROM category "
+    "WHERE ?1 >= 0 AND parent_code BETWEEN CASE WHEN ?1 = 0 THEN -2147483648 ELSE ?1 END AND ?1 "
+    "ORDER BY id";
 
 QVariant CategorySubNodes(IFunctionContext& context, const QVariantList& arguments)
 {

@@ -1,7 +1,7 @@
 #include "GoodsMaker.h"
 
-#include "CategoryTree.h"
 #include "PersianSpelling.h"
+#include "SampleCategories.h"
 #include "SampleRandom.h"
 #include "Vocabulary.h"
 
@@ -70,7 +70,7 @@ QString SampleTags(TSampleRandom& random, int firstTag, int tagCount)
     return result;
 }
 
-TGoodsMaker::TGoodsMaker(const TCategoryTree& categories)
+TGoodsMaker::TGoodsMaker(const TSampleCategories& categories)
     : brands_(Vocabulary::Lines(QStringLiteral("brands.txt")))
 {
     for (const QStringList& row : Vocabulary::Rows(QStringLiteral("goods.txt"))) {

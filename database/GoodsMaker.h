@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QVector>
 
-class TCategoryTree;
+class TSampleCategories;
 class TSampleRandom;
 
 /// One goods item.
@@ -24,7 +24,7 @@ struct TGoods
 class TGoodsMaker
 {
 public:
-    explicit TGoodsMaker(const TCategoryTree& categories);
+    explicit TGoodsMaker(const TSampleCategories& categories);
 
     TGoods Make(int code) const;
     /// Parts of the item that others need alone.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CategoryTree.h"
+#include "SampleCategories.h"
 #include "SampleData.h"
 
 #include <QElapsedTimer>
@@ -33,7 +33,7 @@ struct TSampleContext
     TADOConnection& Connection;
     const TSampleSize& Size;
     TSampleProgress& Progress;
-    const TCategoryTree& Categories;
+    const TSampleCategories& Categories;
 };
 
 /// The parts of the sample data, each with its own tables. They run in this order.

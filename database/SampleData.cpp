@@ -101,7 +101,7 @@ void CreateSampleDatabase(TADOConnection& connection, const TSampleSize& size,
                           const TProgressHandler& progress)
 {
     const TSampleSize bounded = Bounded(size);
-    const TCategoryTree categories;
+    const TSampleCategories categories;
     TSampleProgress meter(progress, StepCount(bounded));
     TSampleContext context{connection, bounded, meter, categories};
 

@@ -30,7 +30,7 @@ struct TPerson
 class TPersonMaker
 {
 public:
-    explicit TPersonMaker(const TCategoryTree& categories);
+    explicit TPersonMaker(const TSampleCategories& categories);
 
     TPerson Make(int code) const;
 
@@ -55,7 +55,7 @@ private:
     QVector<int> categories_;
 };
 
-TPersonMaker::TPersonMaker(const TCategoryTree& categories)
+TPersonMaker::TPersonMaker(const TSampleCategories& categories)
     : categories_(categories.LeavesUnder(QStringLiteral("اشخاص")))
 {
 }

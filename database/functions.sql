@@ -58,7 +58,8 @@ AS
 BEGIN
   DECLARE @Found TABLE (id int NOT NULL PRIMARY KEY)
   INSERT INTO @Found (id)
-  SELECT id FROM dbo.category WHERE (@Id > 0 AND parent_code = @Id) OR (@Id = 0 AND parent_code <= 0)
+  SELECT id FROM dbo.category
+  WHERE @Id >= 0 AND parent_code BETWEEN CASE WHEN @Id = 0 THEN -2147483648 ELSE @Id END AND @Id
   DECLARE @Added int = @@ROWCOUNT
   WHILE @AllLevels = 1 AND @Added > 0
   BEGIN

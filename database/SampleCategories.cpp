@@ -1,10 +1,10 @@
-#include "CategoryTree.h"
+#include "SampleCategories.h"
 
 #include "Vocabulary.h"
 
 #include <QSet>
 
-TCategoryTree::TCategoryTree()
+TSampleCategories::TSampleCategories()
 {
     QVector<TCategory> path;
     for (const QString& line : Vocabulary::Lines(QStringLiteral("categories.txt"))) {
@@ -23,7 +23,7 @@ TCategoryTree::TCategoryTree()
     }
 }
 
-QVector<int> TCategoryTree::LeavesUnder(const QString& topLevel) const
+QVector<int> TSampleCategories::LeavesUnder(const QString& topLevel) const
 {
     const QString prefix = u',' + QString::number(IdOf(topLevel)) + u',';
     QSet<int> parents;
@@ -37,7 +37,7 @@ QVector<int> TCategoryTree::LeavesUnder(const QString& topLevel) const
     return result;
 }
 
-QString TCategoryTree::SecondLevelName(int id) const
+QString TSampleCategories::SecondLevelName(int id) const
 {
     const int secondLevel = nodes_.at(id - 1).Path.section(u',', 2, 2).toInt();
     return nodes_.at(secondLevel - 1).Name;

@@ -14,10 +14,10 @@ struct TCategory
 };
 
 /// The sample categories.
-class TCategoryTree
+class TSampleCategories
 {
 public:
-    TCategoryTree();
+    TSampleCategories();
 
     const QVector<TCategory>& Nodes() const { return nodes_; }
     /// The first category of the name; 0 where there is none.
