@@ -1,0 +1,244 @@
+#include "TagStore.h"
+
+#include "ADOQuery.h"
+
+#include <algorithm>
+#include <QSet>
+
+namespace {
+
+constexpr char16_t withColor[] = u"inner join colors on TagS.color_code = colors.code";
+
+QString WithColor()
+{
+    return QString::fromUtf16(withColor);
+}
+
+/// In single quotes, with inner ones doubled.
+QString Quoted(const QString& text)
+{
+    return u'\'' + QString(text).replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
+QString Checked(const QString& code)
+{
+    if (!TagCodes::IsCode(code)) {
+        throw EADOError(
+            TAdoErrorKind::WrongState,
+            QStringLiteral(
+                "«%1» کد برچسب نیست؛ کد برچسب تنها از رقم ساخته می‌شود.")
+                .arg(code));
+    }
+    return code;
+}
+
+/// The value of a column `tags` with the code behind the others.
+QString Appended(const QString& code)
+{
+    return Quoted(u',' + code + u',') + QStringLiteral(" else tags+") + Quoted(code + u',') +
+           QStringLiteral(" end)");
+}
+
+QString Membership(const QString& code)
+{
+    return Quoted(QStringLiteral("%,") + code + QStringLiteral(",%"));
+}
+
+/// Cuts the texts before each comma.
+QStringList CutAtCommas(const QString& text, qsizetype begin)
+{
+    QStringList result;
+    for (qsizetype comma = text.indexOf(u',', begin); comma >= 0; comma = text.indexOf(u',', begin)) {
+        result.append(text.mid(begin, comma - begin));
+        begin = comma + 1;
+    }
+    return result;
+}
+
+QStringList CodesOf(const QString& tags)
+{
+    QStringList codes = TagCodes::Split(tags);
+    codes.removeIf([](const QString& code) { return !TagCodes::IsCode(code); });
+    return codes;
+}
+
+} // namespace
+
+QString TTaggedRecords::Unwrapped(const QString& keyList)
+{
+    return keyList.mid(1, std::max<qsizetype>(keyList.size() - 2, 0));
+}
+
+QString TagStatements::AllTags()
+{
+    return QStringLiteral(
+               "SELECT TagS.Code AS ID,TagS.Name,cl_code,Colors.code,[h-img] as image FROM TagS ") +
+           WithColor();
+}
+
+QString TagStatements::TagsOfForm()
+{
+    return QStringLiteral("SELECT TagS.Code AS ID,TagS.Name,Colors.code,[h-img] as image FROM TagS ") +
+           WithColor();
+}
+
+QString TagStatements::Suggestions(const QStringList& excluded, const QString& typed)
+{
+    std::for_each(excluded.begin(), excluded.end(), Checked);
+    const QString codes = excluded.isEmpty() ? QStringLiteral("-1") : excluded.join(u',');
+    return QStringLiteral(
+               "SELECT TagS.Code AS ID,TagS.Name,[h-img] as image,Colors.code,colors.cl_code FROM TagS ") +
+           WithColor() + QStringLiteral(" where tags.code not in (") + codes +
+           QStringLiteral(") and TagS.name like ") + Quoted(typed + u'%');
+}
+
+QString TagStatements::TagByName(const QString& name)
+{
+    return QStringLiteral("select * from tags where name=") + Quoted(name);
+}
+
+QString TagStatements::TagByCode(const QString& code)
+{
+    return QStringLiteral(
+               "select tags.code,colors.code as Color_code,TagS.Name  from TagS inner join colors on "
+               "tags.color_code = colors.code where tags.code=") +
+           Checked(code);
+}
+
+QString TagStatements::NewTag(const QString& code)
+{
+    return QStringLiteral("SELECT TagS.Code AS ID,TagS.Name,Colors.code FROM TagS ") + WithColor() +
+           QStringLiteral(" where tags.code=") + Checked(code);
+}
+
+QString TagStatements::AddShown(const TTaggedRecords& records, const QString& code)
+{
+    return QStringLiteral("update ") + records.TableName +
+           QStringLiteral(" set tags =(case when tags is null then ") + Appended(Checked(code)) +
+           QStringLiteral(" where ") + records.KeyField + QStringLiteral(" in(") + records.Keys +
+           QStringLiteral(") and (tags not like ") + Membership(code) + QStringLiteral(" OR TAGS IS NULL)");
+}
+
+QString TagStatements::AddUnshown(const TTaggedRecords& records, const QString& code)
+{
+    return QStringLiteral("update ") + records.TableName +
+           QStringLiteral(" set Tags =(case when tags is null then ") + Appended(Checked(code)) +
+           QStringLiteral(" where (TagS not like ") + Membership(code) +
+           QStringLiteral(" or tags is null) and (") + records.KeyField + QStringLiteral(" in (") +
+           records.Keys + QStringLiteral("))");
+}
+
+QString TagStatements::Remove(const TTaggedRecords& records, const QString& code)
+{
+    return QStringLiteral("update ") + records.TableName + QStringLiteral(" set tags = REPLACE(tags,") +
+           Quoted(u',' + Checked(code) + u',') + u',' + Quoted(QStringLiteral(",")) +
+           QStringLiteral(") where ") + records.KeyField + QStringLiteral(" in(") + records.Keys +
+           QStringLiteral(") ");
+}
+
+QString TagStatements::ClearEmptied(const TTaggedRecords& records)
+{
+    return QStringLiteral("update ") + records.TableName + QStringLiteral(" set tags = NULL where ") +
+           records.KeyField + QStringLiteral(" in(") + records.Keys + QStringLiteral(") and tags=") +
+           Quoted(QStringLiteral(","));
+}
+
+QString TagStatements::StrongPictures()
+{
+    return QStringLiteral("select code,[h-img] from colors");
+}
+
+QString TagStatements::LightPictures()
+{
+    return QStringLiteral("select code,[l-img] from colors");
+}
+
+QString TagStatements::TagWithPicture(const QString& name)
+{
+    return QStringLiteral("select tags.code,TagS.color_code,TagS.Name,[H-img] from TagS ") + WithColor() +
+           QStringLiteral(" where tags.name =") + Quoted(name);
+}
+
+QString TagStatements::PicturesOfTags()
+{
+    return QStringLiteral("select TagS.color_code,TagS.Name,[H-img] from TagS ") + WithColor() + u' ';
+}
+
+QString TagStatements::MenuOfTags()
+{
+    return QStringLiteral("select tags.code,TagS.color_code,TagS.Name,[H-img] from TagS ") + WithColor() +
+           u' ';
+}
+
+QString TagStatements::MenuOfTagsAtButton()
+{
+    return QStringLiteral(
+        " select tags.code,TagS.color_code,TagS.Name,[H-img] from TagS inner  join colors on "
+        "TagS.color_code = colors.code ");
+}
+
+QString TagStatements::CountOfTags()
+{
+    return QStringLiteral("select count(code) from tags");
+}
+
+bool TagCodes::IsCode(const QString& text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar character) {
+        return character >= u'0' && character <= u'9';
+    });
+}
+
+QStringList TagCodes::Split(const QString& tags)
+{
+    QStringList codes = CutAtCommas(tags.trimmed(), 1);
+    codes.sort();
+    return codes;
+}
+
+QStringList TagCodes::SplitChosen(const QString& text)
+{
+    const QString chosen = text.trimmed();
+    return CutAtCommas(chosen, chosen.startsWith(u',') ? 1 : 0);
+}
+
+void TSelectedTags::ReadCommon(TADOQuery& records)
+{
+    records.Requery();
+    const int tags = records.FieldByName(QStringLiteral("TAGS"))->Index();
+    const int count = records.RecordCount();
+    common_ = CodesOf(records.ValueAt(0, tags).toString());
+    QString before;
+    for (int row = 0; row < count && !common_.isEmpty(); ++row) {
+        const QString text = records.ValueAt(row, tags).toString();
+        if (row > 0 && text == before)
+            continue;
+        common_.removeIf([&](const QString& code) { return !text.contains(u',' + code + u','); });
+        before = text;
+    }
+}
+
+void TSelectedTags::ReadPartial(TADOQuery& records)
+{
+    records.Requery();
+    const int tags = records.FieldByName(QStringLiteral("TAGS"))->Index();
+    partial_.clear();
+    QSet<QString> seen;
+    QVariant last;
+    for (int row = 0; row < records.RecordCount(); ++row) {
+        const QVariant value = records.ValueAt(row, tags);
+        if (value.isNull())
+            continue;
+        last = value;
+        const QString text = value.toString();
+        if (seen.contains(text))
+            continue;
+        seen.insert(text);
+        for (const QString& code : CodesOf(text)) {
+            if (!partial_.contains(code))
+                partial_.append(code);
+        }
+    }
+    snapshot_ = last.isValid() ? CodesOf(last.toString()) : common_;
+    partial_.removeIf([this](const QString& code) { return common_.contains(code); });
+}
