@@ -299,6 +299,7 @@ int TLookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     switch (hint) {
     case SH_UnderlineShortcut:
     case SH_ItemView_ShowDecorationSelected:
+    case SH_Menu_Scrollable: // a menu of a thousand entries scrolls and does not spread over columns
         return 1;
     case SH_Table_GridLineColor:
         return static_cast<int>(Look::Color(Look::TRole::Grid).rgb());

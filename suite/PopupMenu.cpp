@@ -1,0 +1,164 @@
+#include "PopupMenu.h"
+
+#include "PersianText.h"
+
+#include <QActionEvent>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+bool IsTypedText(const QKeyEvent& event)
+{
+    constexpr QChar halfSpace(0x200C);
+    const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((event.modifiers() & commands) != 0 || event.text().isEmpty())
+        return false;
+    const QChar typed = event.text().front();
+    return typed.isPrint() || typed.isSurrogate() || typed == halfSpace;
+}
+
+QString WithoutLast(const QString& text)
+{
+    return text.chopped(text.back().isLowSurrogate() ? 2 : 1);
+}
+
+} // namespace
+
+TPopupMenu::TPopupMenu(QWidget* parent) : QMenu(parent), findRow_(addAction(QString()))
+{
+    setLayoutDirection(Qt::RightToLeft);
+    findRow_->setEnabled(false);
+    findRow_->setVisible(false);
+}
+
+TPopupMenu::~TPopupMenu() = default;
+
+void TPopupMenu::SetImages(const QVector<QImage>& images)
+{
+    icons_.clear();
+    icons_.reserve(images.size());
+    for (const QImage& image : images)
+        icons_.append(QIcon(QPixmap::fromImage(image)));
+}
+
+TMenuItem* TPopupMenu::AddItem(const QString& caption, int tag, int imageIndex)
+{
+    auto* item = new TMenuItem(caption, this, TMenuItem::THotKeys::Manual);
+    item->Tag = tag;
+    item->setIcon(icons_.value(imageIndex));
+    item->setIconVisibleInMenu(true);
+    items_.append(item);
+    addAction(item);
+    return item;
+}
+
+void TPopupMenu::Clear()
+{
+    for (TMenuItem* item : qAsConst(items_)) {
+        removeAction(item);
+        item->deleteLater();
+    }
+    items_.clear();
+}
+
+TMenuItem* TPopupMenu::Item(int index) const
+{
+    if (index < 0 || index >= items_.size())
+        throw std::out_of_range("The menu has no item " + std::to_string(index) + ".");
+    return items_.at(index);
+}
+
+void TPopupMenu::Popup(const QPoint& screenPosition)
+{
+    popup(screenPosition);
+    top_ = screenPosition.y();
+}
+
+void TPopupMenu::actionEvent(QActionEvent* event)
+{
+    // Each change would measure all items anew.
+    if (!isBusy_ || event->type() != QEvent::ActionChanged)
+        QMenu::actionEvent(event);
+}
+
+void TPopupMenu::showEvent(QShowEvent* event)
+{
+    QMenu::showEvent(event);
+    top_ = y();
+    right_ = geometry().right();
+}
+
+void TPopupMenu::hideEvent(QHideEvent* event)
+{
+    QMenu::hideEvent(event);
+    findText_.clear();
+    ShowMatches();
+}
+
+void TPopupMenu::keyPressEvent(QKeyEvent* event)
+{
+    if (EditFindText(*event))
+        return;
+    // The toolkit chooses the last item without scrolling to it.
+    if (event->key() == Qt::Key_Up && activeAction() == nullptr && !items_.isEmpty() && findText_.isEmpty())
+        setActiveAction(items_.constLast());
+    else
+        QMenu::keyPressEvent(event);
+}
+
+bool TPopupMenu::EditFindText(const QKeyEvent& event)
+{
+    const bool isEmpty = findText_.isEmpty();
+    if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Escape) {
+        const bool isEscape = event.key() == Qt::Key_Escape;
+        if (!isEmpty)
+            SetFindText(isEscape ? QString() : WithoutLast(findText_));
+        return !(isEmpty && isEscape);
+    }
+    if (!IsTypedText(event) || (isEmpty && event.key() == Qt::Key_Space))
+        return false;
+    SetFindText(findText_ + event.text());
+    return true;
+}
+
+void TPopupMenu::SetFindText(const QString& text)
+{
+    findText_ = text;
+    QAction* const first = ShowMatches();
+    FitToItems(first);
+}
+
+/// Answers the first item that matches, none where nothing has been typed.
+QAction* TPopupMenu::ShowMatches()
+{
+    const QString sought = PersianText::Fold(findText_);
+    QAction* first = nullptr;
+    isBusy_ = true;
+    for (TMenuItem* item : qAsConst(items_)) {
+        const bool matches = sought.isEmpty() || PersianText::Fold(item->Caption()).contains(sought);
+        item->setVisible(matches);
+        if (matches && first == nullptr)
+            first = item;
+    }
+    findRow_->setText(first != nullptr
+                          ? QStringLiteral("جستجو: %1").arg(PersianText::Isolated(findText_))
+                          : QStringLiteral("«%1» پیدا نشد").arg(PersianText::Isolated(findText_)));
+    isBusy_ = false;
+    // This one change is told to the menu, and with it all others.
+    findRow_->setVisible(findText_.isEmpty());
+    findRow_->setVisible(!findText_.isEmpty());
+    return findText_.isEmpty() ? nullptr : first;
+}
+
+/// Opening an open menu measures it anew and scrolls it to its beginning.
+void TPopupMenu::FitToItems(QAction* active)
+{
+    const int top = top_;
+    const int right = right_;
+    popup(QPoint(right - sizeHint().width() + 1, top));
+    move(right - width() + 1, y());
+    setActiveAction(active);
+}

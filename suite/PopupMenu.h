@@ -1,0 +1,58 @@
+#pragma once
+
+#include "MenuItem.h"
+#include "SuiteExport.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QMenu>
+#include <QVector>
+
+/// A right-to-left menu of names that stays usable with a thousand of them: it scrolls, and what the user
+/// types narrows it to the captions that hold the typed text as a Persian reader compares them. Backspace
+/// widens it again, Escape first empties the typed text and then closes the menu. Captions are names: they
+/// have no hot keys, and '&' is shown as it stands.
+class SUITE_EXPORT TPopupMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit TPopupMenu(QWidget* parent = nullptr);
+    ~TPopupMenu() override;
+
+    /// The pictures of the items added from now on, by image index.
+    void SetImages(const QVector<QImage>& images);
+    /// Adds an item at the end, owned by the menu. An index without a picture shows none.
+    TMenuItem* AddItem(const QString& caption, int tag = 0, int imageIndex = -1);
+    /// Takes all items out; also from within the handler of one of them.
+    void Clear();
+    int Count() const { return static_cast<int>(items_.size()); }
+    /// In the order of adding; throws std::out_of_range.
+    TMenuItem* Item(int index) const;
+
+    /// Opens the menu at a point of the screen and returns at once. At the mouse pointer the menu lies to its
+    /// left.
+    void Popup(const QPoint& screenPosition);
+    /// What the user has typed since the menu was opened.
+    QString FindText() const { return findText_; }
+
+protected:
+    void actionEvent(QActionEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    bool EditFindText(const QKeyEvent& event);
+    void SetFindText(const QString& text);
+    QAction* ShowMatches();
+    void FitToItems(QAction* active);
+
+    QVector<QIcon> icons_;
+    QVector<TMenuItem*> items_;
+    QAction* findRow_;
+    QString findText_;
+    int top_ = 0;   ///< where the menu was opened, on the screen
+    int right_ = 0; ///< its right edge
+    bool isBusy_ = false;
+};
