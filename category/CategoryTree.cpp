@@ -1,8 +1,8 @@
 #include "CategoryTree.h"
 
 #include "ADOQuery.h"
+#include "SplicedText.h"
 
-#include <algorithm>
 #include <QRegularExpression>
 #include <QSet>
 #include <stdexcept>
@@ -16,17 +16,6 @@ bool IsIdList(const QString& text)
 {
     static const QRegularExpression list(QStringLiteral("\\A\\(\\s*-?[0-9]+(\\s*,\\s*-?[0-9]+)*\\s*\\)\\z"));
     return list.match(text).hasMatch();
-}
-
-bool IsDigits(const QString& text)
-{
-    return !text.isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
-}
-
-QString Quoted(QString text)
-{
-    return u'\'' + text.replace(u'\'', QStringLiteral("''")) + u'\'';
 }
 
 [[noreturn]] void RefuseCycle(const TCategoryRow& category)
@@ -73,7 +62,7 @@ QVector<TCategoryRow> TCategoryTree::All() const
 std::optional<TCategoryRow> TCategoryTree::Named(const QString& name) const
 {
     const QVector<TCategoryRow> found =
-        List(QStringLiteral(" where name=N") + Quoted(name) + QStringLiteral(" ORDER BY ID1"));
+        List(QStringLiteral(" where name=N") + SplicedText::Quoted(name) + QStringLiteral(" ORDER BY ID1"));
     return found.isEmpty() ? std::nullopt : std::optional(found.first());
 }
 
@@ -96,7 +85,7 @@ std::optional<TCategoryRow> TCategoryTree::Category(int id) const
 
 QVector<TCategoryRow> TCategoryTree::Filtered(const QString& id) const
 {
-    if (!IsDigits(id))
+    if (!SplicedText::IsDigits(id))
         throw std::invalid_argument("the id of a category is made of digits");
     return List(QStringLiteral(" where id1= ORDER BY ID1 where id1 in category_Subnodes(") + id +
                 QStringLiteral(",0,1)"));
@@ -151,7 +140,7 @@ std::optional<int> TCategoryTree::NumberIn(const QString& text)
     const bool hasSign = text.startsWith(u'-');
     bool fits = false;
     const int number = text.toInt(&fits);
-    return fits && IsDigits(text.mid(hasSign ? 1 : 0)) ? std::optional(number) : std::nullopt;
+    return fits && SplicedText::IsDigits(text.mid(hasSign ? 1 : 0)) ? std::optional(number) : std::nullopt;
 }
 
 std::optional<int> TCategoryTree::FirstId(const QString& statement, const QString& column) const

@@ -1,6 +1,7 @@
 #include "TagStore.h"
 
 #include "ADOQuery.h"
+#include "SplicedText.h"
 
 #include <algorithm>
 #include <QSet>
@@ -14,15 +15,9 @@ QString WithColor()
     return QString::fromUtf16(withColor);
 }
 
-/// In single quotes, with inner ones doubled.
-QString Quoted(const QString& text)
-{
-    return u'\'' + QString(text).replace(u'\'', QStringLiteral("''")) + u'\'';
-}
-
 QString Checked(const QString& code)
 {
-    if (!TagCodes::IsCode(code)) {
+    if (!SplicedText::IsDigits(code)) {
         throw EADOError(
             TAdoErrorKind::WrongState,
             QStringLiteral(
@@ -35,13 +30,13 @@ QString Checked(const QString& code)
 /// The value of a column `tags` with the code behind the others.
 QString Appended(const QString& code)
 {
-    return Quoted(u',' + code + u',') + QStringLiteral(" else tags+") + Quoted(code + u',') +
-           QStringLiteral(" end)");
+    return SplicedText::Quoted(u',' + code + u',') + QStringLiteral(" else tags+") +
+           SplicedText::Quoted(code + u',') + QStringLiteral(" end)");
 }
 
 QString Membership(const QString& code)
 {
-    return Quoted(QStringLiteral("%,") + code + QStringLiteral(",%"));
+    return SplicedText::Quoted(QStringLiteral("%,") + code + QStringLiteral(",%"));
 }
 
 /// Cuts the texts before each comma.
@@ -58,7 +53,7 @@ QStringList CutAtCommas(const QString& text, qsizetype begin)
 QStringList CodesOf(const QString& tags)
 {
     QStringList codes = TagCodes::Split(tags);
-    codes.removeIf([](const QString& code) { return !TagCodes::IsCode(code); });
+    codes.removeIf([](const QString& code) { return !SplicedText::IsDigits(code); });
     return codes;
 }
 
@@ -89,12 +84,12 @@ QString TagStatements::Suggestions(const QStringList& excluded, const QString& t
     return QStringLiteral(
                "SELECT TagS.Code AS ID,TagS.Name,[h-img] as image,Colors.code,colors.cl_code FROM TagS ") +
            WithColor() + QStringLiteral(" where tags.code not in (") + codes +
-           QStringLiteral(") and TagS.name like ") + Quoted(typed + u'%');
+           QStringLiteral(") and TagS.name like ") + SplicedText::Quoted(typed + u'%');
 }
 
 QString TagStatements::TagByName(const QString& name)
 {
-    return QStringLiteral("select * from tags where name=") + Quoted(name);
+    return QStringLiteral("select * from tags where name=") + SplicedText::Quoted(name);
 }
 
 QString TagStatements::TagByCode(const QString& code)
@@ -131,16 +126,16 @@ QString TagStatements::AddUnshown(const TTaggedRecords& records, const QString& 
 QString TagStatements::Remove(const TTaggedRecords& records, const QString& code)
 {
     return QStringLiteral("update ") + records.TableName + QStringLiteral(" set tags = REPLACE(tags,") +
-           Quoted(u',' + Checked(code) + u',') + u',' + Quoted(QStringLiteral(",")) +
-           QStringLiteral(") where ") + records.KeyField + QStringLiteral(" in(") + records.Keys +
-           QStringLiteral(") ");
+           SplicedText::Quoted(u',' + Checked(code) + u',') + u',' +
+           SplicedText::Quoted(QStringLiteral(",")) + QStringLiteral(") where ") + records.KeyField +
+           QStringLiteral(" in(") + records.Keys + QStringLiteral(") ");
 }
 
 QString TagStatements::ClearEmptied(const TTaggedRecords& records)
 {
     return QStringLiteral("update ") + records.TableName + QStringLiteral(" set tags = NULL where ") +
            records.KeyField + QStringLiteral(" in(") + records.Keys + QStringLiteral(") and tags=") +
-           Quoted(QStringLiteral(","));
+           SplicedText::Quoted(QStringLiteral(","));
 }
 
 QString TagStatements::StrongPictures()
@@ -156,7 +151,7 @@ QString TagStatements::LightPictures()
 QString TagStatements::TagWithPicture(const QString& name)
 {
     return QStringLiteral("select tags.code,TagS.color_code,TagS.Name,[H-img] from TagS ") + WithColor() +
-           QStringLiteral(" where tags.name =") + Quoted(name);
+           QStringLiteral(" where tags.name =") + SplicedText::Quoted(name);
 }
 
 QString TagStatements::PicturesOfTags()
@@ -180,13 +175,6 @@ QString TagStatements::MenuOfTagsAtButton()
 QString TagStatements::CountOfTags()
 {
     return QStringLiteral("select count(code) from tags");
-}
-
-bool TagCodes::IsCode(const QString& text)
-{
-    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar character) {
-        return character >= u'0' && character <= u'9';
-    });
 }
 
 QStringList TagCodes::Split(const QString& tags)

@@ -61,8 +61,6 @@ BASEFRAME_EXPORT QString CountOfTags();
 /// on, each followed by a comma, with one more comma in front: `,5,12,3,`.
 namespace TagCodes {
 
-/// One or more decimal digits.
-BASEFRAME_EXPORT bool IsCode(const QString& text);
 /// Reads a column `tags`: the texts before each comma but the first character, ordered as texts ("12" before
 /// "5"). What stands behind the last comma is no code.
 BASEFRAME_EXPORT QStringList Split(const QString& tags);
