@@ -52,7 +52,7 @@ TGridColumn::TKind GridCellText::KindOf(TFieldType type)
 
 bool GridCellText::IsNumeric(TGridColumn::TKind kind)
 {
-    return kind != TGridColumn::ckText;
+    return kind != TGridColumn::ckText && kind != TGridColumn::ckColor;
 }
 
 QString GridCellText::Shown(const QVariant& value, TGridColumn::TKind kind)

@@ -34,6 +34,13 @@ bool SurelyFits(const QString& text, const QFont& font, int width)
     return text.size() * font.pixelSize() <= width;
 }
 
+void PaintSwatch(QPainter& painter, const QRect& cell, const QString& text)
+{
+    const QColor color = Look::StringToColor(text);
+    if (color.isValid())
+        painter.fillRect(cell.adjusted(0, Padding, 0, -Padding), color);
+}
+
 } // namespace
 
 TGridDelegate::TGridDelegate(const TGridColumnModel* model, QObject* parent)
@@ -50,6 +57,10 @@ void TGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (text.isEmpty())
         return;
     const auto kind = model_->ShownColumns()[index.column()].Kind;
+    if (kind == TGridColumn::ckColor) {
+        PaintSwatch(*painter, option.rect, text);
+        return;
+    }
     const bool numeric = GridCellText::IsNumeric(kind);
     const bool amount = kind == TGridColumn::ckMoney || kind == TGridColumn::ckNumber;
     const QRect area = option.rect.adjusted(Padding, 0, -Padding, 0);
@@ -68,7 +79,8 @@ bool TGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
 {
     if (event->type() != QEvent::ToolTip || !index.isValid())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    const QString text = index.data().toString();
+    const bool isSwatch = model_->ShownColumns()[index.column()].Kind == TGridColumn::ckColor;
+    const QString text = isSwatch ? QString() : index.data().toString();
     const bool fits = view->fontMetrics().horizontalAdvance(text) <= option.rect.width() - 2 * Padding;
     QToolTip::showText(event->globalPos(), fits ? QString() : text, view);
     return true;

@@ -10,7 +10,9 @@
 /// A column of a TSmartDBGrid_TRV.
 struct SUITE_EXPORT TGridColumn
 {
-    enum TKind { ckText, ckCode, ckNumber, ckMoney, ckDate }; ///< codes, numbers and money align to the digit
+    /// Codes, numbers and money align to the digit. A colour is a text for Look::StringToColor, shown as a
+    /// swatch of it.
+    enum TKind { ckText, ckCode, ckNumber, ckMoney, ckDate, ckColor };
     QString FieldName;
     QString Title;
     int Width = 100; ///< pixels at scale 1
