@@ -85,9 +85,7 @@ std::optional<TCategoryRow> TCategoryTree::Category(int id) const
 
 QVector<TCategoryRow> TCategoryTree::Filtered(const QString& id) const
 {
-    if (!SplicedText::IsDigits(id))
-        throw std::invalid_argument("the id of a category is made of digits");
-    return List(QStringLiteral(" where id1= ORDER BY ID1 where id1 in category_Subnodes(") + id +
+    return List(QStringLiteral(" where id1= ORDER BY ID1 where id1 in category_Subnodes(") + Digits(id) +
                 QStringLiteral(",0,1)"));
 }
 
@@ -141,6 +139,13 @@ std::optional<int> TCategoryTree::NumberIn(const QString& text)
     bool fits = false;
     const int number = text.toInt(&fits);
     return fits && SplicedText::IsDigits(text.mid(hasSign ? 1 : 0)) ? std::optional(number) : std::nullopt;
+}
+
+QString TCategoryTree::Digits(const QString& code)
+{
+    if (!SplicedText::IsDigits(code))
+        throw std::invalid_argument("the code of a record or category is made of digits");
+    return code;
 }
 
 std::optional<int> TCategoryTree::FirstId(const QString& statement, const QString& column) const

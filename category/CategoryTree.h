@@ -71,6 +71,9 @@ public:
     /// text.
     static std::optional<int> NumberIn(const QString& text);
 
+    /// `code` as it is. Throws std::invalid_argument where it is not made of ASCII digits.
+    static QString Digits(const QString& code);
+
     /// Reads a column of a statement's first row as an id; nothing where there is no row.
     std::optional<int> FirstId(const QString& statement, const QString& column) const;
     /// As Category(), with a statement of the caller's own over the table.

@@ -21,7 +21,8 @@ public:
     void Click(); ///< as if the user had chosen it; a disabled item does nothing
 
     TNotifyEvent OnClick;
-    int Tag = 0; ///< the owner's number
+    int Tag = 0;         ///< the owner's number
+    int ImageIndex = -1; ///< index into the menu's pictures, or the owner's number where it has none
 
 private:
     QString caption_;

@@ -48,6 +48,7 @@ TMenuItem* TPopupMenu::AddItem(const QString& caption, int tag, int imageIndex)
 {
     auto* item = new TMenuItem(caption, this, TMenuItem::THotKeys::Manual);
     item->Tag = tag;
+    item->ImageIndex = imageIndex;
     item->setIcon(icons_.value(imageIndex));
     item->setIconVisibleInMenu(true);
     items_.append(item);

@@ -1,0 +1,168 @@
+#include "CategoryPicker.h"
+
+#include "AdvListEditorPer.h"
+#include "PopupMenu.h"
+
+#include <stdexcept>
+
+namespace {
+
+/// The path text of a top-level category is not taken apart.
+TCategoryBubble TopLevelBubble(const TCategoryRow& category)
+{
+    return {category.Name, QString::number(category.Id), category.ParentId};
+}
+
+} // namespace
+
+TCategoryPicker::TCategoryPicker(TAdvListEditorPer& editor, TPopupMenu& menu, TADOQuery& query,
+                                 TNotifyEvent onItemClick)
+    : editor_(editor), menu_(menu), tree_(query), onItemClick_(std::move(onItemClick))
+{
+    editor_.SetSeparator(u';');
+    editor_.SetPopupMenu(&menu_);
+}
+
+void TCategoryPicker::createmenuItemByCode(int code)
+{
+    const QVector<TCategoryRow> children = tree_.Children(code);
+    menu_.Clear();
+    for (const TCategoryRow& child : children)
+        menu_.AddItem(child.Name, child.Id, child.ParentId)->OnClick = onItemClick_;
+}
+
+void TCategoryPicker::create_bubble(int code, quint8 mode)
+{
+    if (mode != WholePath && mode != PathToParent)
+        throw std::invalid_argument("the mode of a path is 1 or 2");
+    const std::optional<TCategoryRow> category = tree_.Category(code);
+    if (!category) {
+        Show({}, {});
+        createmenuItemByCode(0);
+        return;
+    }
+    QVector<TCategoryRow> path = tree_.PathTo(*category);
+    const bool isTopLevel = category->ParentId <= 0;
+    if (mode == PathToParent)
+        path.removeLast();
+    QVector<TCategoryBubble> bubbles;
+    for (const TCategoryRow& step : qAsConst(path)) {
+        // Intended: the answer is not used.
+        if (!isTopLevel)
+            tree_.Category(0);
+        bubbles.append(isTopLevel ? TopLevelBubble(step) : TCategoryTree::BubbleOf(step));
+    }
+    Show(path, bubbles);
+    if (path.isEmpty())
+        createmenuItemByCode(isTopLevel ? category->Id : category->ParentId);
+    else
+        createmenuItemByCode(TCategoryTree::NumberIn(bubbles.last().Id).value_or(path.last().Id));
+}
+
+void TCategoryPicker::DrawItem(const QString& name)
+{
+    const std::optional<TCategoryRow> category = tree_.Named(name);
+    if (!category)
+        return;
+    create_bubble(category->Id, WholePath);
+    editor_.clear();
+    editor_.CorrectEditPos();
+    createmenuItemByCode(category->Id);
+}
+
+bool TCategoryPicker::exist(const QString& text) const
+{
+    return editor_.Values().IndexOfText(text) >= 0;
+}
+
+QStringList TCategoryPicker::Fill_allPop()
+{
+    return Offer(tree_.All());
+}
+
+QStringList TCategoryPicker::fill_pop(const QString& id)
+{
+    return Offer(tree_.Filtered(id));
+}
+
+bool TCategoryPicker::POP_click(const QObject* sender)
+{
+    const auto* const item = qobject_cast<const TMenuItem*>(sender);
+    if (item == nullptr || exist(item->Caption()))
+        return false;
+    const int code = item->Tag;
+    create_bubble(code, WholePath);
+    editor_.Update_selectedItems();
+    createmenuItemByCode(code);
+    editor_.CorrectEditPos();
+    return true;
+}
+
+QString TCategoryPicker::LastValue() const
+{
+    return editor_.Values().Last().Value;
+}
+
+QString TCategoryPicker::LastName() const
+{
+    return editor_.Values().Last().DisplayText;
+}
+
+void TCategoryPicker::OfferUnderLastBubble()
+{
+    const TAdvListValueItem last = editor_.Values().Last();
+    createmenuItemByCode(IdOf(editor_.Values().Count() - 1, last.DisplayText, last.Value));
+}
+
+bool TCategoryPicker::NothingIsLeft() const
+{
+    return editor_.RemovedItem().isEmpty() && editor_.CurrentIndex() < 0;
+}
+
+bool TCategoryPicker::HasRemoved() const
+{
+    return editor_.Values().Count() < editor_.SnapshotCount();
+}
+
+int TCategoryPicker::RemovedId() const
+{
+    const QString removed = editor_.RemovedItem();
+    return IdOf(editor_.RemovedIndex(), removed, TCategoryTree::splitter(removed + u',', 2).trimmed());
+}
+
+void TCategoryPicker::CutPathBack()
+{
+    while (editor_.RemovedIndex() >= 0 && editor_.CurrentIndex() == editor_.RemovedIndex()) {
+        editor_.Values().Delete(editor_.RemovedIndex());
+        editor_.CorrectEditPos();
+    }
+}
+
+QStringList TCategoryPicker::Offer(const QVector<TCategoryRow>& categories)
+{
+    QStringList ids;
+    ids.reserve(categories.size());
+    TAdvListValues entries;
+    for (const TCategoryRow& category : categories) {
+        ids.append(QString::number(category.Id));
+        entries.AddPair(category.Name, QString(), category.ParentId);
+    }
+    editor_.Lookup() = entries;
+    return ids;
+}
+
+void TCategoryPicker::Show(const QVector<TCategoryRow>& path, const QVector<TCategoryBubble>& bubbles)
+{
+    path_ = path;
+    editor_.Values().Clear();
+    for (const TCategoryBubble& bubble : bubbles)
+        editor_.Values().AddPair(bubble.Name, bubble.Id, bubble.ParentId);
+}
+
+int TCategoryPicker::IdOf(int index, const QString& shown, const QString& value) const
+{
+    if (const std::optional<int> id = TCategoryTree::NumberIn(value))
+        return *id;
+    const TCategoryRow made = path_.value(index);
+    return !value.isEmpty() && shown.startsWith(TCategoryTree::splitter(made.Name, 1)) ? made.Id : 0;
+}
