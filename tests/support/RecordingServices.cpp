@@ -114,6 +114,8 @@ void TRecordingAccounting::SaveAutoVouchersAgain(const QString& from, const QStr
                                                  int number)
 {
     log_.Note(QStringLiteral("SaveAutoVouchersAgain"), from, to, kinds, number);
+    if (WhileRegenerating)
+        WhileRegenerating();
 }
 
 void TRecordingAccounting::VoucherConflictThread_Start(QWidget* control)
@@ -194,6 +196,8 @@ QFunctionPointer TRecordingLibraries::FindFunction(THandle handle, const QByteAr
 int TRecordingLibraries::Run_DLL_FuncReturnInt(const QString& library, const QString& function)
 {
     log_.Note(QStringLiteral("Run_DLL_FuncReturnInt"), library, function);
+    if (WhileRunning)
+        WhileRunning();
     return Result;
 }
 

@@ -82,7 +82,8 @@ public:
     bool KnowsAll = false;         ///< what is not in Names is found too, without a name
     bool Conflicts = false;
     bool RefreshAwaits = false;
-    QPointer<QWidget> ConflictControl; ///< handed over by the last VoucherConflictThread_Start
+    std::function<void()> WhileRegenerating; ///< runs during SaveAutoVouchersAgain
+    QPointer<QWidget> ConflictControl;       ///< handed over by the last VoucherConflictThread_Start
 
 private:
     TCallLog& log_;
@@ -126,6 +127,7 @@ public:
     QHash<QString, THandle> Loadable;
     QHash<QByteArray, QFunctionPointer> Functions;
     int Result = 0;
+    std::function<void()> WhileRunning; ///< runs during Run_DLL_FuncReturnInt
 
 private:
     TCallLog& log_;

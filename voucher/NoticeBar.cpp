@@ -1,0 +1,56 @@
+#include "NoticeBar.h"
+
+#include "Look.h"
+#include "SmartPanel_TRV.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QMovie>
+
+namespace {
+
+constexpr quint32 FrameColor = 3552822;
+
+void Paint(TSmartPanel_TRV* panel, const QColor& ground)
+{
+    QPalette colors = panel->palette();
+    colors.setColor(QPalette::Window, ground);
+    colors.setColor(QPalette::WindowText, Look::ColorOf(Look::TRole::Text, false));
+    panel->setPalette(colors);
+}
+
+} // namespace
+
+TNoticeBar::TNoticeBar(TSmartPanel_TRV* outer, TSmartPanel_TRV* inner, QLabel* message, QLabel* picture)
+    : QObject(outer), picture_(picture),
+      movie_(new QMovie(QStringLiteral(":/voucher/pictures/attention.gif"), {}, this))
+{
+    Paint(outer, Look::FromColorValue(FrameColor));
+    Paint(inner, Qt::white);
+    // Names the size only, so that a switch of the application's digits reaches the message.
+    QFont small;
+    small.setPixelSize(Look::SmallFont().pixelSize());
+    message->setFont(small);
+    movie_->setCacheMode(QMovie::CacheAll);
+    movie_->jumpToFrame(0);
+    picture_->setMovie(movie_);
+    picture_->installEventFilter(this);
+}
+
+TNoticeBar::~TNoticeBar() = default;
+
+void TNoticeBar::Animate()
+{
+    movie_->start();
+    movie_->setPaused(!picture_->isVisible());
+}
+
+bool TNoticeBar::eventFilter(QObject* watched, QEvent* event)
+{
+    // A picture that nobody sees need not move.
+    if (event->type() == QEvent::Show)
+        movie_->setPaused(false);
+    else if (event->type() == QEvent::Hide)
+        movie_->setPaused(true);
+    return QObject::eventFilter(watched, event);
+}
