@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr quint32 Yellow = 0x00FFFF;
-constexpr quint32 White = 0xFFFFFF;
+constexpr quint32 EditorYellow = 0x00FFFF;
+constexpr quint32 EditorWhite = 0xFFFFFF;
 
 /// Intended: one for all frames of the process, and the frame opened last writes it. The ids are kept for
 /// nobody.
@@ -89,12 +89,12 @@ void TCategory_frame::POP_click(QObject* Sender)
 
 void TCategory_frame::EditorEnter()
 {
-    Editor->SetColor(Yellow);
+    Editor->SetColor(EditorYellow);
 }
 
 void TCategory_frame::EditorExit()
 {
-    Editor->SetColor(White);
+    Editor->SetColor(EditorWhite);
 }
 
 void TCategory_frame::EditorMouseDown(int x, int y)
