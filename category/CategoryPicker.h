@@ -20,6 +20,10 @@ public:
         PathToParent = 2, ///< down to its parent; the menu offers the category and its siblings
     };
 
+    /// The editor's ground while it has the focus and while it has not, 0x00BBGGRR.
+    static constexpr quint32 ColorInside = 0x00FFFF;
+    static constexpr quint32 ColorOutside = 0xFFFFFF;
+
     /// The controls and the query are the frame's own; `onItemClick` is the handler of every menu item.
     TCategoryPicker(TAdvListEditorPer& editor, TPopupMenu& menu, TADOQuery& query, TNotifyEvent onItemClick);
 

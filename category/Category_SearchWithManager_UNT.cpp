@@ -15,9 +15,6 @@
 
 namespace {
 
-constexpr quint32 EditorColorInside = 0x00FFFF;
-constexpr quint32 EditorColorOutside = 0xFFFFFF;
-
 /// Intended: one for all frames of the process; kept for nobody.
 struct TAllCategoryIds
 {
@@ -161,13 +158,13 @@ void TCategorysearchframe::select_BTNClick(QObject* /*Sender*/)
 
 void TCategorysearchframe::EditorEnter()
 {
-    Editor->SetColor(EditorColorInside);
+    Editor->SetColor(TCategoryPicker::ColorInside);
     Editor->CorrectEditPos();
 }
 
 void TCategorysearchframe::EditorExit()
 {
-    Editor->SetColor(EditorColorOutside);
+    Editor->SetColor(TCategoryPicker::ColorOutside);
 }
 
 void TCategorysearchframe::EditorKeyDown(QObject* /*Sender*/, quint16& Key, Qt::KeyboardModifiers /*Shift*/)

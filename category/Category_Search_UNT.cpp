@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr quint32 EditorYellow = 0x00FFFF;
-constexpr quint32 EditorWhite = 0xFFFFFF;
-
 /// Intended: one for all frames of the process, and the frame opened last writes it. The ids are kept for
 /// nobody.
 struct TAllCategories
@@ -89,12 +86,12 @@ void TCategory_frame::POP_click(QObject* Sender)
 
 void TCategory_frame::EditorEnter()
 {
-    Editor->SetColor(EditorYellow);
+    Editor->SetColor(TCategoryPicker::ColorInside);
 }
 
 void TCategory_frame::EditorExit()
 {
-    Editor->SetColor(EditorWhite);
+    Editor->SetColor(TCategoryPicker::ColorOutside);
 }
 
 void TCategory_frame::EditorMouseDown(int x, int y)
