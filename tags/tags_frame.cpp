@@ -143,6 +143,8 @@ void TTags::fill_adveditor(int mode)
 {
     QString list;
     Fill_x(mode, list);
+    if (list.isEmpty())
+        return;
     for (const QString& code : splitter(u',' + list + u',')) {
         Reopen(*Colors_qry, TagStatements::TagByCode(code));
         if (Colors_qry->IsEmpty())

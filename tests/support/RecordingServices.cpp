@@ -173,6 +173,8 @@ int TRecordingPickers::Select_AccDetails1(int total, int assistant, const QStrin
 int TRecordingPickers::Call_insert_tags(const QString& name, quint8 mode)
 {
     log_.Note(QStringLiteral("Call_insert_tags"), name, mode);
+    if (WhilePicking)
+        WhilePicking();
     return CreatedTag;
 }
 
@@ -237,6 +239,8 @@ TMessageResult TRecordingMessages::ShowSmartMessage(TConfirmationMessage message
                                                     int defaultButton)
 {
     log_.Note(QStringLiteral("Confirm"), message, buttons, defaultButton);
+    if (WhileAsked)
+        WhileAsked();
     return Answer;
 }
 

@@ -106,7 +106,7 @@ public:
     int Picked = 0; ///< what the lists answer
     THCSelectedCode PickedAccount;
     int CreatedTag = 0;
-    std::function<void()> WhilePicking; ///< runs while a list is "open"
+    std::function<void()> WhilePicking; ///< runs while a list or the tag dialog is "open"
 
 private:
     int Pick() const;
@@ -152,6 +152,7 @@ public:
     void ShowMessage(const QString& text) override;
 
     TMessageResult Answer = TMessageResult::mrNo;
+    std::function<void()> WhileAsked;                 ///< runs while a confirmation is "open"
     std::function<void(QWidget* control)> WhileShown; ///< runs while MsgCodeNotAvailable is "open"
     TTooltip LastTooltip;
 
