@@ -1,13 +1,29 @@
 #include "PictureServices.h"
 
-#include "NotOffered.h"
+#include "Field.h"
+#include "PictureReader.h"
 
-bool THostPictures::LoadFromDb(QImage& /*picture*/, TField* /*field*/)
+#include <QLabel>
+
+bool THostPictures::LoadFromDb(QImage& picture, TField* field)
 {
-    throw EServiceNotOffered("LoadFromDb");
+    picture = {};
+    if (field == nullptr || field->IsNull())
+        return false;
+    const QByteArray bytes = field->AsBytes();
+    picture = PictureReader::FromBytes(bytes, PictureReader::FormatOfContent(bytes));
+    return !picture.isNull();
 }
 
-void THostPictures::FitPicture(QLabel* /*image*/, int /*left*/, int /*top*/, int /*width*/, int /*height*/)
+// The label keeps the place that its layout gives it, so only the size of the box matters.
+void THostPictures::FitPicture(QLabel* image, int /*left*/, int /*top*/, int width, int height)
 {
-    throw EServiceNotOffered("FitPicture");
+    const QSizeF box(width, height);
+    if (image == nullptr || image->pixmap(Qt::ReturnByValue).isNull() || box.isEmpty())
+        return;
+    const qreal scale = image->devicePixelRatioF();
+    QPixmap fitted = image->pixmap(Qt::ReturnByValue)
+                         .scaled((box * scale).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(scale);
+    image->setPixmap(fitted);
 }

@@ -60,7 +60,8 @@ void TSmartEdit_TRV::TPrivate::ShowNumber()
     ShowSign();
 }
 
-// The toolkit paints a line's text in the palette's colour and in no other.
+// The toolkit paints a line's text in the palette's colour and in no other. An edit may have a ground of its own,
+// light in the dark scheme, too.
 void TSmartEdit_TRV::TPrivate::ShowSign()
 {
     if (!IsNegative()) {
@@ -68,7 +69,8 @@ void TSmartEdit_TRV::TPrivate::ShowSign()
             edit->setPalette(*plain);
         return;
     }
-    const QColor wrong = Look::Color(Look::TRole::Wrong);
+    const bool darkGround = edit->palette().color(QPalette::Active, QPalette::Base).lightness() < 128;
+    const QColor wrong = Look::ColorOf(Look::TRole::Wrong, darkGround);
     if (plainPalette && edit->palette().color(QPalette::Active, QPalette::Text) == wrong)
         return;
     if (!plainPalette)

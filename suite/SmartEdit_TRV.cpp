@@ -206,6 +206,11 @@ void TSmartEdit_TRV::SetCurrencyTypeTitle(const QString& title)
     d->RefreshHint();
 }
 
+void TSmartEdit_TRV::AnnouncePendingValue()
+{
+    d->AnnouncePendingValue();
+}
+
 int TSmartEdit_TRV::CaretPos() const
 {
     return cursorPosition();

@@ -97,6 +97,8 @@ public:
     /// Once, DelayTimeCount after the user's last change of the value; at once when the edit is left.
     TNotifyEvent OnEditValueChange;
     void SetOnEditValueChange(TNotifyEvent handler) { OnEditValueChange = std::move(handler); }
+    /// Raises OnEditValueChange now where it is still due.
+    void AnnouncePendingValue();
 
     /// Before a text is pasted or dropped. The handler may change it, or put it in itself and leave nothing.
     TPasteEvent OnPaste;
