@@ -1,5 +1,5 @@
 #include "ADOConnection.h"
-#include "PngPicture.h"
+#include "Palette.h"
 #include "RowWriter.h"
 #include "SampleCalendar.h"
 #include "SampleContext.h"
@@ -40,24 +40,6 @@ void InsertSection(TADOConnection& connection, const QString& table)
         for (const QString& text : row)
             values.append(FixedValue(text));
         writer.Add(values);
-    }
-    writer.Flush();
-}
-
-PngPicture::TPixel ColorFromHex(const QString& text)
-{
-    const uint value = text.toUInt(nullptr, 16);
-    return {static_cast<int>(value >> 16 & 0xFFU), static_cast<int>(value >> 8 & 0xFFU),
-            static_cast<int>(value & 0xFFU), 255};
-}
-
-void InsertColors(TADOConnection& connection)
-{
-    TRowWriter writer(connection, QStringLiteral("dbo.colors"),
-                      {QStringLiteral("cl_code"), QStringLiteral("h-img"), QStringLiteral("l-img")});
-    for (const QStringList& row : Vocabulary::Rows(FixedRows(), QStringLiteral("palette"))) {
-        const PngPicture::TPixel color = ColorFromHex(row.at(1));
-        writer.Add({row.at(0), PngPicture::Tag(color), PngPicture::Tag(PngPicture::Lighter(color))});
     }
     writer.Flush();
 }
@@ -104,7 +86,7 @@ void SampleParts::FillFixedRows(TSampleContext& context)
     context.Progress.Begin(QStringLiteral("اطلاعات پایه"));
     for (const QString& section : Vocabulary::Sections(FixedRows())) {
         if (section == u"palette")
-            InsertColors(context.Connection);
+            Palette::Complete(context.Connection);
         else
             InsertSection(context.Connection, section);
     }

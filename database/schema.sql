@@ -306,7 +306,7 @@ GO
 -- cl_code is the colour by name or as $00BBGGRR; the pictures are PNG, for a tag on all and on some records.
 CREATE TABLE dbo.colors (
   code int IDENTITY(1,1) NOT NULL PRIMARY KEY,
-  cl_code nvarchar(50) NOT NULL,
+  cl_code nvarchar(50) NOT NULL UNIQUE,
   [h-img] varbinary(max) NULL,
   [l-img] varbinary(max) NULL
 )

@@ -6,47 +6,20 @@
 
 #include <QApplication>
 #include <QPointer>
-#include <stdexcept>
 
 namespace {
 
 using TKind = TMessageDialog::TKind;
 
-/// A numbered text; `%1` to `%9` stand for the arguments.
-struct TNumberedText
-{
-    int Number;
-    const char16_t* Text;
-};
-
-constexpr TNumberedText confirmations[] = {
-    {static_cast<int>(TConfirmationMessage::cmCreateTag), u"برچسبی با این نام تعریف نشده است. آیا برچسب "
-                                                          u"تازه‌ای ساخته شود؟"},
-};
-
-constexpr TNumberedText notifications[] = {
-    {static_cast<int>(TNotificationMessage::nmLimitReached), u"%1: بیش از این تعداد مجاز نیست."},
-};
-
-template <size_t count> QString TextOf(const TNumberedText (&table)[count], int number)
-{
-    for (const TNumberedText& entry : table) {
-        if (entry.Number == number)
-            return QString::fromUtf16(entry.Text);
-    }
-    throw std::logic_error("This host has no text for the message " + std::to_string(number) + ".");
-}
-
-QString Filled(QString text, const TMessageArguments& arguments)
-{
-    for (size_t i = 0; i < arguments.size(); ++i)
-        text.replace(QStringLiteral("%%1").arg(i + 1), PersianText::Isolated(arguments.at(i)));
-    return text;
-}
-
 QString Sentence(const char16_t* text, const QString& subject)
 {
     return QString::fromUtf16(text).arg(PersianText::Isolated(subject));
+}
+
+void GiveFocus(QWidget* control)
+{
+    if (control != nullptr && CanFocus(control))
+        control->setFocus(Qt::OtherFocusReason);
 }
 
 QWidget* WindowFor(QWidget* control, QWidget* form)
@@ -121,21 +94,32 @@ void THostMessages::MSGInUse(const QString& subject)
 TMessageResult THostMessages::ShowSmartMessage(TConfirmationMessage message, TMessageButtons buttons,
                                                int defaultButton)
 {
+    const int number = static_cast<int>(message);
+    if (!numbered_.Has(number))
+        return RefuseUnknown(number, buttons);
     const QPointer<QWidget> focus = QApplication::focusWidget();
-    TMessageDialog box(TKind::Question, TextOf(confirmations, static_cast<int>(message)), ButtonsOf(buttons),
+    const TNumberedMessage shown = numbered_.Find(number);
+    TMessageDialog box(shown.Kind, TNumberedMessages::Filled(shown.Text, {}),
+                       shown.Buttons.isEmpty() ? ButtonsOf(buttons) : shown.Buttons,
                        QApplication::activeWindow());
     box.SetDefaultButton(defaultButton);
     const int answer = box.Ask();
-    if (focus != nullptr)
-        focus->setFocus(Qt::OtherFocusReason);
+    GiveFocus(focus);
     return static_cast<TMessageResult>(answer);
+}
+
+/// Nobody can agree to a question that has no text.
+TMessageResult THostMessages::RefuseUnknown(int number, TMessageButtons buttons)
+{
+    Tell(TKind::Warning, numbered_.Find(number).Text);
+    return static_cast<TMessageResult>(ButtonsOf(buttons).constLast().Result);
 }
 
 void THostMessages::ShowSmartMessage(TNotificationMessage message, const TMessageArguments& arguments,
                                      QWidget* control, QWidget* form)
 {
-    Tell(TKind::Information, Filled(TextOf(notifications, static_cast<int>(message)), arguments), control,
-         form);
+    const TNumberedMessage shown = numbered_.Find(static_cast<int>(message));
+    Tell(shown.Kind, TNumberedMessages::Filled(shown.Text, arguments), control, form, shown.Buttons);
 }
 
 void THostMessages::ShowTooltipMessage(const TTooltip& tooltip)
@@ -149,11 +133,13 @@ void THostMessages::ShowMessage(const QString& text)
     Tell(TKind::Information, text, QApplication::focusWidget());
 }
 
-void THostMessages::Tell(TKind kind, const QString& text, QWidget* control, QWidget* form)
+void THostMessages::Tell(TKind kind, const QString& text, QWidget* control, QWidget* form,
+                         const QVector<TDialogButton>& buttons)
 {
     const QPointer<QWidget> receiver = control != nullptr ? control : QApplication::focusWidget();
-    TMessageDialog box(kind, text, {TMessageDialog::OkButton()}, WindowFor(control, form));
+    TMessageDialog box(kind, text,
+                       buttons.isEmpty() ? QVector<TDialogButton>{TMessageDialog::OkButton()} : buttons,
+                       WindowFor(control, form));
     box.Ask();
-    if (receiver != nullptr && CanFocus(receiver))
-        receiver->setFocus(Qt::OtherFocusReason);
+    GiveFocus(receiver);
 }

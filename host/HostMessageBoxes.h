@@ -3,6 +3,7 @@
 #include "HostExport.h"
 #include "HostMessages.h"
 #include "MessageDialog.h"
+#include "NumberedMessages.h"
 
 #include <functional>
 #include <utility>
@@ -18,14 +19,17 @@ public:
     void MsgHasSubRecords(const QString& subject) override;
     /// Says who has it and since when, where the holder's source knows.
     void MSGInUse(const QString& subject) override;
-    /// A number without a text is a std::logic_error that names it.
+    /// A number without a text is told to the user and answers the last of the buttons: No, or Cancel where
+    /// there is one.
     TMessageResult ShowSmartMessage(TConfirmationMessage message, TMessageButtons buttons,
                                     int defaultButton) override;
-    /// A number without a text is a std::logic_error that names it.
     void ShowSmartMessage(TNotificationMessage message, const TMessageArguments& arguments, QWidget* control,
                           QWidget* form) override;
     void ShowTooltipMessage(const TTooltip& tooltip) override;
     void ShowMessage(const QString& text) override;
+
+    /// The texts behind the numbers; an application adds its own.
+    TNumberedMessages& Numbered() { return numbered_; }
 
     /// Answers, when MSGInUse asks, in whose hands the thing is: "... در دست ..."; an empty text where it
     /// does not know.
@@ -34,7 +38,9 @@ public:
 
 private:
     static void Tell(TMessageDialog::TKind kind, const QString& text, QWidget* control = nullptr,
-                     QWidget* form = nullptr);
+                     QWidget* form = nullptr, const QVector<TDialogButton>& buttons = {});
+    TMessageResult RefuseUnknown(int number, TMessageButtons buttons);
 
+    TNumberedMessages numbered_;
     THolderSource holderSource_;
 };

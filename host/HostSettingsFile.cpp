@@ -8,6 +8,8 @@ namespace {
 
 constexpr QLatin1String recordKey("Host/SettingRecord");
 constexpr QLatin1String lockOptionKey("Host/CodeLockOption");
+constexpr QLatin1String tagLimitKey("Host/TagLimit");
+constexpr int defaultTagLimit = 200;
 
 QByteArray BytesOf(const TSettingRecord& record)
 {
@@ -51,6 +53,18 @@ void THostSettings::SetIniOptions(const TIniOptions& options)
 {
     options_ = options;
     SetValue(lockOptionKey, options.CodeLockOption);
+}
+
+int THostSettings::TagLimit() const
+{
+    bool isNumber = false;
+    const int limit = Value(tagLimitKey).toInt(&isNumber);
+    return isNumber && limit >= 0 ? limit : defaultTagLimit;
+}
+
+void THostSettings::SetTagLimit(int limit)
+{
+    SetValue(tagLimitKey, limit);
 }
 
 QVariant THostSettings::Value(const QString& key, const QVariant& otherwise) const

@@ -27,6 +27,10 @@ public:
     /// Signs a user in, for this run of the program.
     void SetUserInfo(const TUserInfo& user) { user_ = user; }
 
+    /// How many tags may be defined in the database; 200 unless the file says otherwise.
+    int TagLimit() const;
+    void SetTagLimit(int limit);
+
     /// What the application itself keeps (sizes of windows, states of lists).
     QVariant Value(const QString& key, const QVariant& otherwise = {}) const;
     void SetValue(const QString& key, const QVariant& value);

@@ -1,9 +1,12 @@
 #include "PickerDialogs.h"
 
-#include "NotOffered.h"
+#include "TagDialog.h"
+
+#include <QApplication>
 
 THostPickers::THostPickers(TADOConnection& connection, THostSettings& settings)
-    : accounts_(connection, settings), entities_(connection, settings)
+    : connection_(&connection), settings_(&settings), accounts_(connection, settings),
+      entities_(connection, settings)
 {
 }
 
@@ -39,7 +42,11 @@ int THostPickers::Select_AccDetails1(int total, int assistant, const QString& co
     return accounts_.Select_AccDetails1(total, assistant, code);
 }
 
-int THostPickers::Call_insert_tags(const QString& /*name*/, quint8 /*mode*/)
+int THostPickers::Call_insert_tags(const QString& name, quint8 /*mode*/)
 {
-    throw EServiceNotOffered("Call_insert_tags");
+    TTagDefinition definition(*connection_, settings_->TagLimit());
+    if (!definition.HasRoom())
+        return TTagDefinition::LimitReached;
+    TTagDialog dialog(definition, name, QApplication::activeWindow());
+    return dialog.Define();
 }
