@@ -7,6 +7,7 @@
 #include "SmartLabel_TRV.h"
 
 #include <algorithm>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPainter>
@@ -33,6 +34,14 @@ public:
     }
 
 protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLineEdit::focusInEvent(event);
+        // The name that is filled in is gone on with, not typed over.
+        if (event->reason() != Qt::MouseFocusReason)
+            end(false);
+    }
+
     void paintEvent(QPaintEvent* event) override
     {
         QLineEdit::paintEvent(event);
@@ -133,7 +142,7 @@ void TTagDialog::FillSwatches()
     }
     swatches_->SetColors(shown);
     // A colour that tells the new tag apart from the others.
-    const auto* rarest = std::min_element(
+    const auto rarest = std::min_element(
         colors_.constBegin(), colors_.constEnd(),
         [](const TTagColor& first, const TTagColor& second) { return first.Uses < second.Uses; });
     swatches_->SetCurrent(static_cast<int>(rarest - colors_.constBegin()));

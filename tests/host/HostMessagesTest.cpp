@@ -61,7 +61,8 @@ private Q_SLOTS:
         QFETCH(int, message);
         TForm form;
         ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
-        (messages_.*operations.at(static_cast<std::size_t>(message)))(QStringLiteral("نرخ ارز"), &form.First, nullptr);
+        (messages_.*operations.at(static_cast<std::size_t>(message)))(QStringLiteral("نرخ ارز"), &form.First,
+                                                                      nullptr);
         QCOMPARE(answer.Boxes(), 1);
         QVERIFY(answer.Texts.constFirst().contains(PersianText::Isolated(QStringLiteral("نرخ ارز"))));
         form.Activate();
@@ -160,14 +161,73 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), &form.First);
     }
 
-    void aNumberWithoutATextIsNamed()
+    void aNumberWithoutATextIsToldAndAnswersNo_data()
     {
-        try {
-            messages_.ShowSmartMessage(static_cast<TConfirmationMessage>(999), TMessageButtons::mbYesNo, 0);
-            QFAIL("no error");
-        } catch (const std::logic_error& error) {
-            QVERIFY(QByteArray(error.what()).contains("999"));
-        }
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("result");
+        const auto row = [](const char* name, TMessageButtons buttons, TMessageResult result) {
+            QTest::newRow(name) << static_cast<int>(buttons) << static_cast<int>(result);
+        };
+        row("yes and no", TMessageButtons::mbYesNo, TMessageResult::mrNo);
+        row("with cancel", TMessageButtons::mbYesNoCancel, TMessageResult::mrCancel);
+        row("OK and cancel", TMessageButtons::mbOkCancel, TMessageResult::mrCancel);
+    }
+
+    void aNumberWithoutATextIsToldAndAnswersNo()
+    {
+        QFETCH(int, buttons);
+        QFETCH(int, result);
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
+        const TMessageResult given = messages_.ShowSmartMessage(static_cast<TConfirmationMessage>(999),
+                                                                static_cast<TMessageButtons>(buttons), 0);
+        QCOMPARE(static_cast<int>(given), result);
+        messages_.ShowSmartMessage(static_cast<TNotificationMessage>(998), {}, &form.First, nullptr);
+        QCOMPARE(answer.Boxes(), 2);
+        QVERIFY(answer.Texts.constFirst().contains(QStringLiteral("999")));
+        QVERIFY(answer.Texts.constLast().contains(QStringLiteral("998")));
+        form.Activate();
+        QCOMPARE(QApplication::focusWidget(), &form.First);
+    }
+
+    void anApplicationAddsItsOwnNumbers()
+    {
+        TForm form;
+        ModalBox::TAnswer answer(ModalBox::Key(Qt::Key_Return));
+        messages_.Numbered().Set(30001, {QStringLiteral("سال %2 بسته شود؟"),
+                                         TMessageDialog::TKind::Question,
+                                         {{QStringLiteral("ببند"), static_cast<int>(TMessageResult::mrYes)},
+                                          TMessageDialog::NoButton()}});
+        const TMessageResult given =
+            messages_.ShowSmartMessage(static_cast<TConfirmationMessage>(30001), TMessageButtons::mbOk, 1);
+        QCOMPARE(given, TMessageResult::mrNo);
+        TMessageArguments arguments;
+        arguments.at(1) = QStringLiteral("1404");
+        messages_.ShowSmartMessage(static_cast<TNotificationMessage>(30001), arguments, nullptr,
+                                   &form.Window);
+        QCOMPARE(answer.Texts.constLast(),
+                 QStringLiteral("سال %1 بسته شود؟").arg(PersianText::Isolated(QStringLiteral("1404"))));
+    }
+
+    void placeholdersAreFilledOnceAndUpToTheEleventh()
+    {
+        TMessageArguments arguments;
+        arguments.at(0) = QStringLiteral("%2");
+        arguments.at(9) = QStringLiteral("ده");
+        arguments.at(10) = QStringLiteral("یازده");
+        const QString filled = TNumberedMessages::Filled(QStringLiteral("%1 %10 %11 %2 %0 ۵%"), arguments);
+        QCOMPARE(filled, PersianText::Isolated(QStringLiteral("%2")) + u' ' +
+                             PersianText::Isolated(QStringLiteral("ده")) + u' ' +
+                             PersianText::Isolated(QStringLiteral("یازده")) + QStringLiteral("  %0 ۵%"));
+    }
+
+    void theQuestionAboutATagAndTheLimitHaveTheirTexts()
+    {
+        const TNumberedMessages numbered;
+        QVERIFY(numbered.Has(20150));
+        QVERIFY(numbered.Has(10026));
+        QVERIFY(numbered.Find(20150).Text.contains(QStringLiteral("برچسب")));
+        QCOMPARE(numbered.Find(20150).Kind, TMessageDialog::TKind::Question);
     }
 
     void aTooltipIsABalloonThatLeavesTheFocusAlone()

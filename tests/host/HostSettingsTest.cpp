@@ -53,6 +53,18 @@ private Q_SLOTS:
         QCOMPARE(again.Value(QStringLiteral("missing"), 5).toInt(), 5);
     }
 
+    void theLimitOfTagsIsTwoHundredUnlessTheFileSaysOtherwise()
+    {
+        THostSettings settings(file_);
+        QCOMPARE(settings.TagLimit(), 200);
+        settings.SetTagLimit(12);
+        QCOMPARE(THostSettings(file_).TagLimit(), 12);
+        settings.SetValue(QStringLiteral("Host/TagLimit"), QStringLiteral("many"));
+        QCOMPARE(settings.TagLimit(), 200);
+        settings.SetTagLimit(-3);
+        QCOMPARE(settings.TagLimit(), 200);
+    }
+
     void aRecordOfAnotherLengthIsIgnored()
     {
         {
