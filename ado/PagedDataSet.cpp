@@ -16,6 +16,7 @@ struct TPagedDataSet::TPrivate
     TPagedSource source;
     TPagedQuery wanted; ///< the newest condition and order
     int pageSize = 100;
+    bool countIsGiven = false;
     std::vector<std::unique_ptr<TField>> fields;
 
     int current = -1;
@@ -119,6 +120,19 @@ void TPagedDataSet::Refresh()
     d->loader->Ask(d->wanted, stays ? std::optional(TStanding{*d->place}) : std::nullopt, true);
 }
 
+void TPagedDataSet::SetCountIsGiven(bool given)
+{
+    d->countIsGiven = given;
+    if (d->loader)
+        d->loader->SetCountIsGiven(given);
+}
+
+void TPagedDataSet::GiveCount(const QString& condition, int count)
+{
+    if (d->loader)
+        d->loader->GiveCount(condition, count);
+}
+
 bool TPagedDataSet::CountIsExact() const
 {
     return !d->loader || d->loader->CountIsExact();
@@ -170,6 +184,7 @@ void TPagedDataSet::OpenAt(const QVariant& key)
     connect(loader, &TPagedLoader::countChanged, this, &TPagedDataSet::ShowCount);
     connect(loader, &TPagedLoader::busyChanged, this, &TPagedDataSet::busyChanged);
     connect(loader, &TPagedLoader::failed, this, &TPagedDataSet::failed);
+    loader->SetCountIsGiven(d->countIsGiven);
     loader->Ask(d->wanted, key.isValid() ? std::optional(TStanding{{{}, key}, false}) : std::nullopt, false);
     AnnounceData();
 }

@@ -44,6 +44,12 @@ public:
     /// else on the row that has taken its place. Also opens a lost connection again.
     void Refresh();
 
+    /// Whether the owner finds out the number of rows by a statement of its own and gives it, so that the
+    /// same rows are not walked twice. Off by default; when it is turned off the list counts.
+    void SetCountIsGiven(bool given);
+    /// The number of rows that answer a condition; nothing happens when it is no longer the one that was
+    /// asked for.
+    void GiveCount(const QString& condition, int count);
     bool CountIsExact() const;
     bool Busy() const; ///< a page or the count is under way
     /// Waits until the first page of the newest condition is here; false when it has not come after

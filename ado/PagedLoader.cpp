@@ -16,6 +16,8 @@ constexpr int rowsInSight = 200;
 // As many keys as fit into one statement of any engine.
 constexpr int fewRows = 1000;
 constexpr int probeInterval = 20; // milliseconds
+// A page that is found sooner costs no second core.
+constexpr int probeDelay = 100; // milliseconds
 
 } // namespace
 
@@ -25,12 +27,16 @@ TPagedLoader::TPagedLoader(TADOConnection& connection, const TPagedSource& sourc
       pageThread_(MakeThread(connection)), countThread_(MakeThread(connection))
 {
     list_.Reset(pageSize);
+    probeTimer_.setSingleShot(true);
+    probeTimer_.setInterval(probeDelay);
+    connect(&probeTimer_, &QTimer::timeout, this, &TPagedLoader::BeginProbe);
 }
 
 TPagedLoader::~TPagedLoader() = default;
 
 void TPagedLoader::Stop()
 {
+    probeTimer_.stop();
     pageThread_.reset();
     countThread_.reset();
     statements_.reset();
@@ -90,14 +96,19 @@ void TPagedLoader::Ask(const TPagedQuery& query, const std::optional<TStanding>&
         query,
         std::make_shared<const TPageStatements>(source_, query.Condition, query.OrderIndex, query.Order),
         keep, reopen};
+    // Another order leaves the number of rows as it is.
+    if (reopen || query.Condition != asked_.Condition)
+        givenCount_.reset();
+    asked_ = query;
     countThread_->Abandon();
+    probeTimer_.stop();
     queue_.Clear();
     growWanted_ = false;
     firstPending_ = true;
     firstFailed_ = false;
     AskFirst(question);
     if (question.Statements->HasCondition() && !question.Statements->OrderedByKey())
-        BeginProbe(question);
+        PlanProbe(question);
     AnnounceBusy();
 }
 
@@ -111,14 +122,24 @@ void TPagedLoader::AskFirst(const TQuestion& question)
 }
 
 // Along the index of an order the first page comes at once where the rows that match stand early in it, and
-// takes many times as long as a plain scan where they are few or stand late. So both run at once. The scan
-// begins with some keys: a few are read by themselves, and if there are more the rest is gathered.
-void TPagedLoader::BeginProbe(const TQuestion& question)
+// takes many times as long as a plain scan where they are few or stand late. So when it does not come soon
+// both run at once. The scan begins with some keys: a few are read by themselves, and if there are more the
+// rest is gathered.
+void TPagedLoader::PlanProbe(const TQuestion& question)
 {
-    const auto work = [this, question](TPageReader& reader) -> TQueryThread::TAnswer {
+    probe_ = question;
+    probeTimer_.start();
+}
+
+void TPagedLoader::BeginProbe()
+{
+    probeTimer_.stop();
+    if (!firstPending_)
+        return;
+    const auto work = [this, question = *probe_](TPageReader& reader) -> TQueryThread::TAnswer {
         return [this, question, keys = reader.SomeKeys(fewRows + 1)] { TakeProbe(question, keys); };
     };
-    countThread_->Begin(Task(work, &TPagedLoader::FailProbe, question.Statements, question.Reopen));
+    countThread_->Begin(Task(work, &TPagedLoader::FailProbe, probe_->Statements, probe_->Reopen));
 }
 
 void TPagedLoader::TakeProbe(TQuestion question, const QVariantList& keys)
@@ -173,6 +194,7 @@ TPagedLoader::TFirstPages TPagedLoader::ReadFirst(TPageReader& reader, int pageS
 void TPagedLoader::ShowFirst(const TQuestion& question, const TFirstPages& pages)
 {
     firstPending_ = false;
+    probeTimer_.stop();
     pagesStopped_ = false;
     shown_ = question.Query;
     statements_ = question.Statements;
@@ -199,6 +221,7 @@ int TPagedLoader::PutAround(const TPageReader::TAround& around)
 void TPagedLoader::FailFirst(const EADOError& error)
 {
     firstPending_ = false;
+    probeTimer_.stop();
     firstFailed_ = true;
     if (statements_ && !list_.CountIsExact() && error.Kind() != TAdoErrorKind::ConnectionLost)
         BeginCount();
@@ -209,6 +232,11 @@ void TPagedLoader::FailFirst(const EADOError& error)
 // the count goes ahead there, while the places of the key's order count as they come.
 void TPagedLoader::BeginCount()
 {
+    if (countIsGiven_) {
+        countThread_->Abandon();
+        TakeGivenCount();
+        return;
+    }
     if (statements_->OrderedByKey()) {
         BeginSurvey();
         return;
@@ -221,6 +249,37 @@ void TPagedLoader::BeginCount()
         };
     };
     countThread_->Begin(Task(work, &TPagedLoader::Fail, statements_, true));
+}
+
+void TPagedLoader::SetCountIsGiven(bool given)
+{
+    countIsGiven_ = given;
+    if (given || firstPending_ || !statements_ || list_.CountIsExact())
+        return;
+    BeginCount();
+    AnnounceBusy();
+}
+
+void TPagedLoader::GiveCount(const QString& condition, int count)
+{
+    if (condition != asked_.Condition)
+        return;
+    givenCount_ = count;
+    if (firstPending_ || list_.CountIsExact() || shown_.Condition != condition)
+        return;
+    TakeGivenCount();
+    const QPointer<TPagedLoader> alive(this);
+    Q_EMIT countChanged();
+    if (alive)
+        AnnounceBusy();
+}
+
+void TPagedLoader::TakeGivenCount()
+{
+    if (!givenCount_ || shown_.Condition != asked_.Condition)
+        return;
+    list_.SetCount(*givenCount_, true);
+    BeginSurvey();
 }
 
 void TPagedLoader::BeginSurvey()
@@ -352,9 +411,11 @@ bool TPagedLoader::WaitForFirst(const QDeadlineTimer& deadline)
 {
     const QPointer<TPagedLoader> alive(this);
     while (alive && firstPending_) {
+        if (probeTimer_.isActive() && probeTimer_.remainingTime() == 0)
+            BeginProbe();
         if (TakeProbeAnswer())
             continue;
-        const bool probing = countThread_->IsBusy();
+        const bool probing = probeTimer_.isActive() || countThread_->IsBusy();
         const QDeadlineTimer soon(probing ? probeInterval : deadline.remainingTime());
         if (!WaitForAnswer(soon < deadline ? soon : deadline) && alive && (!probing || deadline.hasExpired()))
             return false;

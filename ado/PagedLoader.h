@@ -54,6 +54,12 @@ public:
     /// it is the first one; `reopen` allows to open a lost connection again.
     void Ask(const TPagedQuery& query, const std::optional<TStanding>& keep, bool reopen);
 
+    /// Whether the owner finds out the number of rows and gives it. The places of the pages are then looked
+    /// for when it has been given.
+    void SetCountIsGiven(bool given);
+    /// The number of rows that answer a condition; nothing happens when another has been asked for since.
+    void GiveCount(const QString& condition, int count);
+
     int Count() const { return list_.Count(); }
     bool CountIsExact() const { return list_.CountIsExact(); }
     bool HasRow(int row) const { return list_.HasRow(row); }
@@ -103,7 +109,8 @@ private:
     static TFirstPages ReadFirst(TPageReader& reader, int pageSize, const std::optional<TStanding>& keep);
 
     void AskFirst(const TQuestion& question);
-    void BeginProbe(const TQuestion& question);
+    void PlanProbe(const TQuestion& question);
+    void BeginProbe();
     void TakeProbe(TQuestion question, const QVariantList& keys);
     void BeginGathering(const TQuestion& question);
     void FailProbe(const EADOError& error);
@@ -111,6 +118,7 @@ private:
     int PutAround(const TPageReader::TAround& around);
     void FailFirst(const EADOError& error);
     void BeginCount();
+    void TakeGivenCount();
     void BeginSurvey();
     void TakeSurvey(const TPageReader::TSurvey& survey);
 
@@ -138,6 +146,11 @@ private:
     bool pagesStopped_ = false; ///< a page failed; painting would ask for it, and say so, without an end
     bool readPosted_ = false;
     bool busyAnnounced_ = false;
+    bool countIsGiven_ = false;
+    TPagedQuery asked_;
+    std::optional<int> givenCount_;  ///< of the rows that answer what was asked last
+    std::optional<TQuestion> probe_; ///< waits for its time
+    QTimer probeTimer_;
     // Last, so that the threads end before what their answers write to.
     std::unique_ptr<TQueryThread> pageThread_;
     std::unique_ptr<TQueryThread> countThread_;

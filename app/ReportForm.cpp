@@ -167,9 +167,19 @@ void TReportForm::ConnectSums()
         if (parts_->DataSet.Active())
             parts_->Sums.Ask(condition);
     });
-    connect(&parts.Sums, &TReportSums::asked, parts.Totals, &TReportTotals::ShowPending);
-    connect(&parts.Sums, &TReportSums::summed, parts.Totals, &TReportTotals::Show);
-    connect(&parts.Sums, &TReportSums::failed, parts.Totals, &TReportTotals::ShowFailure);
+    connect(&parts.Sums, &TReportSums::asked, this, [this] {
+        parts_->DataSet.SetCountIsGiven(true);
+        parts_->Totals->ShowPending();
+    });
+    connect(&parts.Sums, &TReportSums::summed, this, [this](const QString& condition, const TReportSum& sum) {
+        parts_->Totals->Show(sum);
+        // The sum has counted the lines already.
+        parts_->DataSet.GiveCount(condition, static_cast<int>(sum.Count));
+    });
+    connect(&parts.Sums, &TReportSums::failed, this, [this] {
+        parts_->Totals->ShowFailure();
+        parts_->DataSet.SetCountIsGiven(false);
+    });
 }
 
 void TReportForm::ConnectExport()

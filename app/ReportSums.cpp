@@ -43,7 +43,9 @@ void TReportSums::Ask(const QString& condition, bool reopen)
         });
     }
     const auto work = [this, from = from_, condition](TADOConnection& connection) -> TQueryThread::TAnswer {
-        return [this, sum = TReportSum::Read(connection, from, condition)] { Q_EMIT summed(sum); };
+        return [this, condition, sum = TReportSum::Read(connection, from, condition)] {
+            Q_EMIT summed(condition, sum);
+        };
     };
     thread_->Begin(BackgroundTask::Guarded(
         work, [this](const QString& /*message*/, const QString& /*details*/) { Q_EMIT failed(); }, reopen));

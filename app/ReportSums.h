@@ -34,7 +34,7 @@ public:
 
 Q_SIGNALS:
     void asked();
-    void summed(const TReportSum& sum);
+    void summed(const QString& condition, const TReportSum& sum);
     void failed();
 
 private:
