@@ -22,6 +22,12 @@ inline double Milliseconds(const QElapsedTimer& timer)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
+/// Of all threads of the program since it began.
+inline double ProcessorMilliseconds()
+{
+    return static_cast<double>(std::clock()) * 1e3 / CLOCKS_PER_SEC;
+}
+
 /// One way of doing the work that a comparison measures.
 struct TContender
 {

@@ -136,7 +136,12 @@ TReportMoments TReportTyping::Apply(const TTypedFilter& filter)
         if (moment == 0)
             moment = Milliseconds(timer);
     };
-    const auto noteQuestion = [&] { note(moments.Asked); };
+    double processorBefore = 0;
+    const auto noteQuestion = [&] {
+        if (moments.Asked == 0)
+            processorBefore = ProcessorMilliseconds();
+        note(moments.Asked);
+    };
     const auto noteAnswer = [&] {
         if (moments.Asked > 0)
             note(moments.Answered);
@@ -157,6 +162,7 @@ TReportMoments TReportTyping::Apply(const TTypedFilter& filter)
     else
         Type(filter.Inputs.last().Text.right(1));
     ProcessUntil([&moments] { return moments.Painted > 0 && moments.Totals > 0; });
+    moments.Processor = ProcessorMilliseconds() - processorBefore;
     window_.OnPainted = {};
     WaitUntilIdle();
     return moments;

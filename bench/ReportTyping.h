@@ -29,9 +29,10 @@ struct TTypedFilter
 struct TReportMoments
 {
     double Asked = 0;
-    double Answered = 0; ///< the first page has come
-    double Painted = 0;  ///< and is seen
-    double Totals = 0;   ///< are seen
+    double Answered = 0;  ///< the first page has come
+    double Painted = 0;   ///< and is seen
+    double Totals = 0;    ///< are seen
+    double Processor = 0; ///< not a moment: what all threads have used from the question until both are seen
 };
 
 struct TTypingResult

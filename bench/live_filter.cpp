@@ -1,11 +1,10 @@
 // How long the user waits for a filtered list: from the criterion being written until the first page is
 // painted, beside SQLite's own C interface running the same statement, in the same run.
 
+#include "BenchProgram.h"
 #include "DataSource.h"
 #include "FilterWindow.h"
-#include "Look.h"
 #include "Measure.h"
-#include "OffscreenMessages.h"
 #include "PagedDataSet.h"
 #include "ProcessMemory.h"
 #include "RawPage.h"
@@ -13,12 +12,8 @@
 #include "TarvaSearchManager.h"
 
 #include <cstdio>
-#include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -191,37 +186,8 @@ void MakeDatabase(const QString& file, int goods)
     CreateSampleDatabase(connection, size);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void MeasureAll(const QString& file, int rounds)
 {
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir runtimeFolder;
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder.path()));
-    HideOffscreenMessages();
-    QApplication application(argc, argv);
-    Look::Install(application, Look::TScheme::Light);
-    QCommandLineParser parser;
-    const QCommandLineOption fileOption(QStringLiteral("database"), QStringLiteral("Kept database."),
-                                        QStringLiteral("FILE"), QStringLiteral("live_filter.db"));
-    const QCommandLineOption goodsOption(QStringLiteral("goods"),
-                                         QStringLiteral("Goods in a database made anew."),
-                                         QStringLiteral("N"), QStringLiteral("1000000"));
-    const QCommandLineOption roundsOption(QStringLiteral("rounds"),
-                                          QStringLiteral("Measurements per condition."), QStringLiteral("N"),
-                                          QStringLiteral("15"));
-    parser.addOptions({fileOption, goodsOption, roundsOption});
-    parser.addHelpOption();
-    parser.process(application);
-    const QString file = QFileInfo(parser.value(fileOption)).absoluteFilePath();
-    if (!QFileInfo::exists(file)) {
-        MakeDatabase(file, parser.value(goodsOption).toInt());
-        std::printf("Made; resident memory peaked meanwhile, so run again for the figures.\n");
-        return 0;
-    }
-
     const TCase cases[] = {
         {"frequent match, by key", QStringLiteral("روغن"), QStringLiteral("Code")},
         {"rare match, by key", QStringLiteral("محافظ برق کولر زاگرس مدل 107"), QStringLiteral("Code")},
@@ -241,10 +207,30 @@ int main(int argc, char** argv)
     TLiveFilter filter(connection);
     for (const TCase& condition : cases) {
         filter.Show(condition.OrderField);
-        Measure(connection, file, filter, condition, parser.value(roundsOption).toInt());
+        Measure(connection, file, filter, condition, rounds);
     }
     std::printf("resident memory: %.1f MiB before the list, %.1f MiB now, %.1f MiB at its peak\n",
                 ProcessMemory::MiB(before), ProcessMemory::MiB(ProcessMemory::Resident()),
                 ProcessMemory::MiB(ProcessMemory::Peak()));
-    return 0;
+}
+
+void Run(const TBenchOptions& options)
+{
+    if (QFileInfo::exists(options.File)) {
+        MeasureAll(options.File, options.Rounds);
+        return;
+    }
+    MakeDatabase(options.File, options.Rows);
+    std::printf("Made; resident memory peaked meanwhile, so run again for the figures.\n");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    constexpr int rounds = 15;
+    return BenchMain<QApplication>(
+        argc, argv,
+        {QStringLiteral("live_filter.db"), QStringLiteral("goods"), QStringLiteral("Goods"), 1000000, rounds},
+        Run);
 }

@@ -4,11 +4,10 @@
 
 #include "AccountingCodes_Search_UNT.h"
 #include "ADOQuery.h"
+#include "BenchProgram.h"
 #include "DatabaseFile.h"
 #include "HostApplication.h"
-#include "Look.h"
 #include "Measure.h"
-#include "OffscreenMessages.h"
 #include "PagedDataSet.h"
 #include "Range_Cost_Search.h"
 #include "Range_Date_Search.h"
@@ -25,8 +24,6 @@
 #include "SmartEdit_TRV.h"
 
 #include <cstdio>
-#include <QCommandLineParser>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <thread>
@@ -36,11 +33,12 @@ namespace {
 struct TTimes
 {
     std::vector<double> Asked, RawPage, Page, RawTotals, RawBeside, Totals; ///< milliseconds
+    std::vector<double> RawProcessor, Processor; ///< milliseconds of the processor, for page and totals
 };
 
 struct TStatements
 {
-    QString Page, Keys, Totals;
+    QString Page, Totals;
 };
 
 QString OneValue(TADOConnection& connection, const QString& statement)
@@ -86,8 +84,6 @@ TStatements StatementsOf(TADOConnection& connection, TReportTyping& report, cons
         // that is a parameter.
         if (text.startsWith(QStringLiteral("SELECT TOP 100 ")) && !text.contains(u'?'))
             statements.Page = text;
-        else if (text.startsWith(QStringLiteral("SELECT Id FROM ")))
-            statements.Keys = text;
         else if (text.contains(QStringLiteral("SUM(CAST(")))
             statements.Totals = text;
     };
@@ -104,13 +100,10 @@ double TimeOf(TRawPage& statement)
     return Milliseconds(timer);
 }
 
-/// The totals while another thread reads the page and counts by the keys, as the report does.
-double TimeBeside(TRawPage& totals, TRawPage& page, TRawPage& keys)
+/// The totals while another thread reads the page, as the report does.
+double TimeBeside(TRawPage& totals, TRawPage& page)
 {
-    std::thread other([&page, &keys] {
-        page.Read();
-        keys.Read();
-    });
+    std::thread other([&page] { page.Read(); });
     const double time = TimeOf(totals);
     other.join();
     return time;
@@ -123,38 +116,49 @@ void Report(const TTypedFilter& filter, const TTimes& times, int rows)
     const double rawTotals = Median(times.RawTotals);
     const double totals = Median(times.Totals);
     const double rawBeside = Median(times.RawBeside);
-    std::printf("%-14s %8d %8.1f | %9.2f %9.2f %7.2f %8.2f | %9.1f %9.1f %9.1f %6.2f %6.2f\n", filter.Name,
-                rows, Median(times.Asked), rawPage, page, page / rawPage, page - rawPage, rawTotals,
-                rawBeside, totals, totals / rawTotals, totals / rawBeside);
+    const double rawProcessor = Median(times.RawProcessor);
+    const double processor = Median(times.Processor);
+    std::printf("%-14s %7d %6.1f | %8.2f %8.2f %6.2f %6.2f | %8.1f %8.1f %8.1f %6.2f %6.2f | %8.1f %8.1f "
+                "%6.2f\n",
+                filter.Name, rows, Median(times.Asked), rawPage, page, page / rawPage, page - rawPage,
+                rawTotals, rawBeside, totals, totals / rawTotals, totals / rawBeside, rawProcessor, processor,
+                processor / rawProcessor);
 }
 
-void Measure(TADOConnection& connection, const QString& file, TReportTyping& report,
-             const QVector<TTypedFilter>& filters, const TTypedFilter& filter, int rounds)
+void MeasureRound(TReportTyping& report, const TTypedFilter& filter, TRawPage& page, TRawPage& totals,
+                  TTimes& times)
+{
+    const double before = ProcessorMilliseconds();
+    times.RawPage.push_back(TimeOf(page));
+    times.RawTotals.push_back(TimeOf(totals));
+    times.RawProcessor.push_back(ProcessorMilliseconds() - before);
+    times.RawBeside.push_back(TimeBeside(totals, page));
+    const TReportMoments moments = report.Apply(filter);
+    times.Asked.push_back(moments.Asked);
+    times.Page.push_back(moments.Painted - moments.Asked);
+    times.Totals.push_back(moments.Totals - moments.Asked);
+    times.Processor.push_back(moments.Processor);
+}
+
+void Measure(TADOConnection& connection, const TBenchOptions& options, TReportTyping& report,
+             const QVector<TTypedFilter>& filters, const TTypedFilter& filter)
 {
     // Another one, for Escape to take off.
     const bool clears = filter.Switch == nullptr;
     if (clears)
         report.Apply(filters.last());
     const TStatements statements = StatementsOf(connection, report, filter);
-    TRawPage page(file, statements.Page);
-    // A page that is not full leaves nothing to count.
-    TRawPage keys(file, statements.Keys.isEmpty() ? statements.Page : statements.Keys);
-    TRawPage totals(file, statements.Totals);
+    TRawPage page(options.File, statements.Page);
+    TRawPage totals(options.File, statements.Totals);
     const int rows = report.Form().DataSet().RecordCount();
     if (page.Read() != qMin(rows, 100))
         qFatal("The report shows %d lines, SQLite finds others.", rows);
     TTimes times;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < options.Rounds; ++round) {
         report.Clear();
         if (clears)
             report.Apply(filters.last());
-        times.RawPage.push_back(TimeOf(page));
-        times.RawTotals.push_back(TimeOf(totals));
-        times.RawBeside.push_back(TimeBeside(totals, page, keys));
-        const TReportMoments moments = report.Apply(filter);
-        times.Asked.push_back(moments.Asked);
-        times.Page.push_back(moments.Painted - moments.Asked);
-        times.Totals.push_back(moments.Totals - moments.Asked);
+        MeasureRound(report, filter, page, totals, times);
     }
     Report(filter, times, rows);
     report.Clear();
@@ -188,21 +192,21 @@ void Open(TADOConnection& connection, const QString& file, int lines)
     OpenDatabase(connection, QStringLiteral("sqlite:") + file, options);
 }
 
-void Run(const QString& file, int lines, int rounds)
+void Run(const TBenchOptions& options)
 {
     TADOConnection connection;
-    Open(connection, file, lines);
+    Open(connection, options.File, options.Rows);
     const QTemporaryDir folder;
     THostSettings settings(folder.filePath(QStringLiteral("settings.ini")));
     settings.SetUserInfo({1, QStringLiteral("مدیر")});
     TReferenceHost host(connection, settings);
     TReportTyping report(host);
     const QVector<TTypedFilter> filters = Filters(report.Form().Filters(), connection);
-    std::printf("%-14s %8s %8s | %9s %9s %7s %8s | %9s %9s %9s %6s %6s\n", "condition", "lines", "asked ms",
-                "raw page", "painted", "ratio", "more ms", "raw sum", "2 threads", "totals", "alone",
-                "beside");
+    std::printf("%-14s %7s %6s | %8s %8s %6s %6s | %8s %8s %8s %6s %6s | %8s %8s %6s\n", "condition", "lines",
+                "asked", "raw page", "painted", "ratio", "more", "raw sum", "2 thread", "totals", "alone",
+                "beside", "raw cpu", "cpu", "ratio");
     for (const TTypedFilter& filter : filters)
-        Measure(connection, file, report, filters, filter, rounds);
+        Measure(connection, options, report, filters, filter);
     MeasureTyping(report, report.Form().Filters());
 }
 
@@ -210,31 +214,9 @@ void Run(const QString& file, int lines, int rounds)
 
 int main(int argc, char** argv)
 {
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir runtimeFolder;
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeFolder.path()));
-    HideOffscreenMessages();
-    THostApplication application(argc, argv);
-    Look::Install(application, Look::TScheme::Light);
-    QCommandLineParser parser;
-    const QCommandLineOption fileOption(QStringLiteral("database"), QStringLiteral("Kept database."),
-                                        QStringLiteral("FILE"), QStringLiteral("voucher_report.db"));
-    const QCommandLineOption linesOption(QStringLiteral("lines"),
-                                         QStringLiteral("Voucher lines, about, in a database made anew."),
-                                         QStringLiteral("N"), QStringLiteral("1000000"));
-    const QCommandLineOption roundsOption(QStringLiteral("rounds"),
-                                          QStringLiteral("Measurements per condition."), QStringLiteral("N"),
-                                          QStringLiteral("7"));
-    parser.addOptions({fileOption, linesOption, roundsOption});
-    parser.addHelpOption();
-    parser.process(application);
-    try {
-        Run(QFileInfo(parser.value(fileOption)).absoluteFilePath(),
-            qMax(1000, parser.value(linesOption).toInt()), qMax(1, parser.value(roundsOption).toInt()));
-    } catch (const EADOError& error) {
-        qFatal("%s", qUtf8Printable(error.Message()));
-    }
-    return 0;
+    constexpr int rounds = 7;
+    return BenchMain<THostApplication>(argc, argv,
+                                       {QStringLiteral("voucher_report.db"), QStringLiteral("lines"),
+                                        QStringLiteral("Voucher lines, about,"), 1000000, rounds},
+                                       Run);
 }
