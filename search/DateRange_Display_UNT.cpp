@@ -61,34 +61,41 @@ void TDateRange_Display_FRAM::RangeDate_CMBChange(QObject* /*Sender*/)
 
 void TDateRange_Display_FRAM::SetRangeValue()
 {
-    switch (RangeDate_CMB->ItemIndex()) {
+    const QPointer<TTarvaSearch> criterion(Tarva_DisplayRange);
+    const auto setFrom = [&criterion](const QString& date) {
+        if (criterion)
+            criterion->SetValue1(date);
+    };
+    const auto setTo = [&criterion](const QString& date) {
+        if (criterion)
+            criterion->SetValue2(date);
+    };
+    const TDatePeriods periods = Periods();
+    const int choice = RangeDate_CMB->ItemIndex();
+    // Owners see each of these writings, in this order.
+    setTo(periods.Today());
+    switch (choice) {
     case Last30Days:
-        SetBounds(decDay(30), getToday());
+        setFrom(periods.DaysBefore(30));
         break;
     case Last7Days:
-        SetBounds(decDay(7), getToday());
+        setFrom(periods.DaysBefore(7));
         break;
     case CurrentMonth:
-        SetBounds(GetCurrentTime(Crmonth), GetEndmonth());
+        setFrom(periods.StartOf(Crmonth));
+        setTo(periods.EndOfMonth());
         break;
     case CurrentWeek:
-        SetBounds(GetCurrentTime(crweek), GetEndWeek());
+        setFrom(periods.StartOf(crweek));
+        setTo(periods.EndOfWeek());
         break;
     case Everything:
-        SetBounds(QStringLiteral("0000/00/00"), QStringLiteral("9999/99/99"));
+        setTo(QStringLiteral("9999/99/99"));
+        setFrom(QStringLiteral("0000/00/00"));
         break;
     default:
-        Tarva_DisplayRange->SetValue2(getToday());
         break;
     }
-}
-
-void TDateRange_Display_FRAM::SetBounds(const QString& from, const QString& to) const
-{
-    const QPointer<TTarvaSearch> criterion(Tarva_DisplayRange);
-    criterion->SetValue2(to);
-    if (criterion)
-        criterion->SetValue1(from);
 }
 
 QString TDateRange_Display_FRAM::getToday() const

@@ -46,5 +46,4 @@ protected:
 
 private:
     static TDatePeriods Periods();
-    void SetBounds(const QString& from, const QString& to) const;
 };

@@ -178,6 +178,12 @@ void DateRangeDisplayTest::theUpperBoundComesFirst()
                      [&] { seen << chooser.Bounds(); });
     chooser.Frame->SetRangeValue();
     QCOMPARE(seen, (QList<QStringList>{{"", "1403/07/07"}, {"1403/06/08", "1403/07/07"}}));
+    seen.clear();
+    chooser.Choose(2);
+    // Today stays the upper bound until the month's own is written.
+    QCOMPARE(seen,
+             (QList<QStringList>{
+                 {"1403/06/31", "1403/07/07"}, {"1403/07/01", "1403/07/07"}, {"1403/07/01", "1403/7/30"}}));
 }
 
 void DateRangeDisplayTest::subConditionsAreDeleted()
