@@ -50,16 +50,26 @@ void WriteCodes(TSelect_AccountCode& selector, const QStringList& codes)
     }
 }
 
-TReportFilterRow NumberRow(const QString& key, TSmartEdit_TRV* from, TSmartEdit_TRV* to)
+/// The row of a frame, without what it is filled with.
+template <typename TFilterFrame>
+TReportFilterRow NewRow(const QString& key, const QString& caption, TFilterFrame* frame,
+                        const TReportFilterControls& controls)
 {
+    controls.Caption->SetCaption(caption);
     TReportFilterRow row;
+    static_cast<TReportFilterControls&>(row) = controls;
     row.Key = key;
+    row.Init = [frame] { frame->init(); };
+    return row;
+}
+
+void FillFromTo(TReportFilterRow& row, TSmartEdit_TRV* from, TSmartEdit_TRV* to)
+{
     row.Values = [from, to] { return QStringList{from->Text(), to->Text()}; };
     row.SetValues = [from, to](const QStringList& values) {
         from->SetText(values.at(0));
         to->SetText(values.at(1));
     };
-    return row;
 }
 
 } // namespace
@@ -81,14 +91,9 @@ void TReportFilterPanel::AddRows()
 void TReportFilterPanel::AddDateRow(const QString& key, const QString& caption,
                                     TRange_Date_Search_Frame* frame)
 {
-    frame->RangeDate_Cap_LBL->SetCaption(caption);
-    TReportFilterRow row;
-    row.Key = key;
-    row.Switch = frame->RangeDate_CHK;
-    row.Caption = frame->RangeDate_Cap_LBL;
-    row.Fields = frame->RangeDate_CMB;
-    row.Reverse = frame->RangeDate_Reverst_CHK;
-    row.Init = [frame] { frame->init(); };
+    TReportFilterRow row = NewRow(
+        key, caption, frame,
+        {frame->RangeDate_CHK, frame->RangeDate_Cap_LBL, frame->RangeDate_CMB, frame->RangeDate_Reverst_CHK});
     row.Values = [frame] {
         return QStringList{frame->RangeDate_From_EDT->Text(), frame->RangeTime_From_EDT->GetText(),
                            frame->RangeDate_To_EDT->Text(), frame->RangeTime_To_EDT->GetText()};
@@ -105,39 +110,33 @@ void TReportFilterPanel::AddDateRow(const QString& key, const QString& caption,
 void TReportFilterPanel::AddNumberRows()
 {
     ReportItems::AddAmounts(Cost->TarvaSearch_Range_Cost->SearchItems);
-    Cost->RangeCost_Cap_LBL->SetCaption(QStringLiteral("مبل&غ :"));
-    TReportFilterRow cost =
-        NumberRow(QStringLiteral("amount"), Cost->RangeCost_From_EDT, Cost->RangeCost_To_EDT);
-    cost.Switch = Cost->RangeCost_CHK;
-    cost.Caption = Cost->RangeCost_Cap_LBL;
-    cost.Fields = Cost->RangeCost_CMB;
-    cost.Reverse = Cost->RangeCost_Reverst_CHK;
-    cost.Init = [this] { Cost->init(); };
+    TReportFilterRow cost = NewRow(
+        QStringLiteral("amount"), QStringLiteral("مبل&غ :"), Cost,
+        {Cost->RangeCost_CHK, Cost->RangeCost_Cap_LBL, Cost->RangeCost_CMB, Cost->RangeCost_Reverst_CHK});
+    FillFromTo(cost, Cost->RangeCost_From_EDT, Cost->RangeCost_To_EDT);
     rows_.append(cost);
 
     ReportItems::AddNumbers(Digit->TarvaSearch_Range_Digit->SearchItems);
-    Digit->RangeDigit_Cap_LBL->SetCaption(QStringLiteral("&شماره :"));
-    TReportFilterRow digit =
-        NumberRow(QStringLiteral("number"), Digit->RangeDigit_From_EDT, Digit->RangeDigit_To_EDT);
-    digit.Switch = Digit->RangeDigit_CHK;
-    digit.Caption = Digit->RangeDigit_Cap_LBL;
-    digit.Fields = Digit->RangeDigit_CMB;
-    digit.Reverse = Digit->RangeDigit_Reverst_CHK;
-    digit.Init = [this] { Digit->init(); };
+    TReportFilterRow digit = NewRow(QStringLiteral("number"), QStringLiteral("&شماره :"), Digit,
+                                    {Digit->RangeDigit_CHK, Digit->RangeDigit_Cap_LBL, Digit->RangeDigit_CMB,
+                                     Digit->RangeDigit_Reverst_CHK});
+    FillFromTo(digit, Digit->RangeDigit_From_EDT, Digit->RangeDigit_To_EDT);
     rows_.append(digit);
 }
 
 void TReportFilterPanel::AddCodeRow()
 {
     ReportItems::AddCodes(Code->TarvaSearch_Range_String->SearchItems);
-    Code->RangeString_Cap_LBL->SetCaption(QStringLiteral("&کد :"));
-    TReportFilterRow row =
-        NumberRow(QStringLiteral("code"), Code->RangeString_From_EDT, Code->RangeString_To_EDT);
-    row.Switch = Code->RangeString_CHK;
-    row.Caption = Code->RangeString_Cap_LBL;
-    row.Fields = Code->RangeString_CMB;
-    row.Reverse = Code->RangeString_Reverst_CHK;
-    row.Init = [this] { Code->init(); };
+    TReportFilterRow row = NewRow(QStringLiteral("code"), QStringLiteral("&کد :"), Code,
+                                  {Code->RangeString_CHK, Code->RangeString_Cap_LBL, Code->RangeString_CMB,
+                                   Code->RangeString_Reverst_CHK});
+    FillFromTo(row, Code->RangeString_From_EDT, Code->RangeString_To_EDT);
+    // The frame takes codes when an edit is left.
+    row.SetValues = [this, write = row.SetValues](const QStringList& values) {
+        write(values);
+        Code->TarvaSearch_Range_String->SetValue1(values.at(0));
+        Code->TarvaSearch_Range_String->SetValue2(values.at(1));
+    };
     // The frame leaves its edits as short as the field before needed them.
     connect(Code->TarvaSearch_Range_String, &TTarvaSearch::itemIndexChanged, this, [this] {
         const TSearchItem* item = Code->TarvaSearch_Range_String->CurrentItem();
@@ -146,24 +145,15 @@ void TReportFilterPanel::AddCodeRow()
         Code->RangeString_From_EDT->SetMaxLength(LongestText);
         Code->RangeString_To_EDT->SetMaxLength(LongestText);
     });
-    row.SetValues = [this](const QStringList& values) {
-        Code->RangeString_From_EDT->SetText(values.at(0));
-        Code->RangeString_To_EDT->SetText(values.at(1));
-        Code->TarvaSearch_Range_String->SetValue1(values.at(0));
-        Code->TarvaSearch_Range_String->SetValue2(values.at(1));
-    };
     rows_.append(row);
 }
 
 void TReportFilterPanel::AddAccountRow()
 {
     Account->SetCodeItems(AllLevels);
-    Account->AccCodes_Cap_LBL->SetCaption(QStringLiteral("کد &حساب :"));
-    TReportFilterRow row;
-    row.Key = QStringLiteral("account");
-    row.Switch = Account->AccCodes_CHK;
-    row.Caption = Account->AccCodes_Cap_LBL;
-    row.Reverse = Account->AccCodes_Reverst_CHK;
+    TReportFilterRow row =
+        NewRow(QStringLiteral("account"), QStringLiteral("کد &حساب :"), Account,
+               {Account->AccCodes_CHK, Account->AccCodes_Cap_LBL, nullptr, Account->AccCodes_Reverst_CHK});
     row.Values = [this] { return CodesOf(*Account->Select_AccountCode1); };
     row.SetValues = [this](const QStringList& codes) { WriteCodes(*Account->Select_AccountCode1, codes); };
     row.Init = [this] {
@@ -178,12 +168,9 @@ void TReportFilterPanel::AddAccountRow()
 void TReportFilterPanel::AddAccountRangeRow()
 {
     Accounts->SetCodeItems(AllLevels);
-    Accounts->AccCodes_Cap_LBL->SetCaption(QStringLiteral("&بازهٔ حساب :"));
-    TReportFilterRow row;
-    row.Key = QStringLiteral("accounts");
-    row.Switch = Accounts->AccCodes_CHK;
-    row.Caption = Accounts->AccCodes_Cap_LBL;
-    row.Reverse = Accounts->AccCodes_Reverst_CHK;
+    TReportFilterRow row =
+        NewRow(QStringLiteral("accounts"), QStringLiteral("&بازهٔ حساب :"), Accounts,
+               {Accounts->AccCodes_CHK, Accounts->AccCodes_Cap_LBL, nullptr, Accounts->AccCodes_Reverst_CHK});
     row.Values = [this] {
         return CodesOf(*Accounts->Select_AccountCode1) + CodesOf(*Accounts->Select_AccountCode2);
     };
@@ -191,7 +178,6 @@ void TReportFilterPanel::AddAccountRangeRow()
         WriteCodes(*Accounts->Select_AccountCode1, codes.mid(0, std::ssize(Levels)));
         WriteCodes(*Accounts->Select_AccountCode2, codes.mid(std::ssize(Levels)));
     };
-    row.Init = [this] { Accounts->init(); };
     rows_.append(row);
 }
 
@@ -199,14 +185,9 @@ void TReportFilterPanel::AddEntityRows()
 {
     ReportItems::AddEntities(Entity->TarvaSearch_SelectEntityCMB->SearchItems);
     ReportItems::AddEntities(Entity->TarvaSearch_SelectEntityEDT->SearchItems);
-    Entity->SelectEntity_Cap_LBL->SetCaption(QStringLiteral("تفصی&لی :"));
-    TReportFilterRow one;
-    one.Key = QStringLiteral("entity");
-    one.Switch = Entity->SelectEntity_CHK;
-    one.Caption = Entity->SelectEntity_Cap_LBL;
-    one.Fields = Entity->SelectEntity_CMB;
-    one.Reverse = Entity->SelectEntity_Reverst_CHK;
-    one.Init = [this] { Entity->init(); };
+    TReportFilterRow one = NewRow(QStringLiteral("entity"), QStringLiteral("تفصی&لی :"), Entity,
+                                  {Entity->SelectEntity_CHK, Entity->SelectEntity_Cap_LBL,
+                                   Entity->SelectEntity_CMB, Entity->SelectEntity_Reverst_CHK});
     one.Values = [this] { return QStringList{Entity->TSelect_Entity_Frame1->Code_EDT->Text()}; };
     one.SetValues = [this](const QStringList& codes) {
         TSmartButtonEdit_TRV* box = Entity->TSelect_Entity_Frame1->Code_EDT;
@@ -216,14 +197,9 @@ void TReportFilterPanel::AddEntityRows()
     rows_.append(one);
 
     ReportItems::AddEntities(Entities->TarvaSearch_Range_SelectEntity->SearchItems);
-    Entities->SelectEntity_Cap_LBL->SetCaption(QStringLiteral("بازهٔ تفص&یلی :"));
-    TReportFilterRow range;
-    range.Key = QStringLiteral("entities");
-    range.Switch = Entities->SelectEntity_CHK;
-    range.Caption = Entities->SelectEntity_Cap_LBL;
-    range.Fields = Entities->SelectEntity_CMB;
-    range.Reverse = Entities->SelectEntity_Reverst_CHK;
-    range.Init = [this] { Entities->init(); };
+    TReportFilterRow range = NewRow(QStringLiteral("entities"), QStringLiteral("بازهٔ تفص&یلی :"), Entities,
+                                    {Entities->SelectEntity_CHK, Entities->SelectEntity_Cap_LBL,
+                                     Entities->SelectEntity_CMB, Entities->SelectEntity_Reverst_CHK});
     range.Values = [this] {
         return QStringList{Entities->Select_Entity_Frame1->Code_EDT->Text(),
                            Entities->Select_Entity_Frame2->Code_EDT->Text()};

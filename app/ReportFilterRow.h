@@ -10,14 +10,18 @@ class TSmartCheckBox_TRV;
 class TSmartComboBox_TRV;
 class TSmartLabel_TRV;
 
-/// A line of a filter panel as its owner clears, keeps and restores it; the frame behind it does the rest.
-struct TReportFilterRow
+struct TReportFilterControls
 {
-    QString Key;
     TSmartCheckBox_TRV* Switch = nullptr;
     TSmartLabel_TRV* Caption = nullptr;
     TSmartComboBox_TRV* Fields = nullptr; ///< null where there is nothing to choose
     TSmartCheckBox_TRV* Reverse = nullptr;
+};
+
+/// A line of a filter panel as its owner clears, keeps and restores it; the frame behind it does the rest.
+struct TReportFilterRow : TReportFilterControls
+{
+    QString Key;
     std::function<QStringList()> Values;
     std::function<void(const QStringList& values)> SetValues; ///< as many as Values() gives
     std::function<void()> Init;

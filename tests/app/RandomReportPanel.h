@@ -262,10 +262,15 @@ private:
         const TAccountBounds to = WriteAccount(*frame.Select_AccountCode2, {999, 999, LargestDetail, 9999});
         static constexpr int TReportRow::*Levels[] = {&TReportRow::Total, &TReportRow::Assistant,
                                                       &TReportRow::Detail, &TReportRow::Center};
+        TTarvaSearch* const criteria[] = {frame.TarvaSearch_Range_Total, frame.TarvaSearch_Range_Assisstant,
+                                          frame.TarvaSearch_Range_Detail, frame.TarvaSearch_Range_ExpCenter};
+        // The frame hides its box for turning round; an owner can still turn the criterion of a level.
+        const size_t turned = Chance(3) ? static_cast<size_t>(random_.bounded(4)) : from.size();
         for (size_t place = 0; place < from.size(); ++place) {
-            Keep([level = Levels[place], first = from.at(place), last = to.at(place)](const TReportRow& row) {
-                return row.*level >= first && row.*level <= last;
-            });
+            criteria[place]->SetReverst(place == turned);
+            Keep([level = Levels[place], first = from.at(place), last = to.at(place)](
+                     const TReportRow& row) { return row.*level >= first && row.*level <= last; },
+                 place == turned);
         }
     }
     using TAccountBounds = std::array<int, 4>;

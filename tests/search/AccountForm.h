@@ -9,12 +9,54 @@
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "TarvaSearch.h"
+#include "TestCase.h"
 #include "Typing.h"
 
 #include <memory>
 #include <QApplication>
 #include <QLineEdit>
 #include <QVBoxLayout>
+
+/// Compares what owners know the criteria of the four levels by.
+inline void CheckAccountCriteria(const QList<TTarvaSearch*>& criteria, TSearchType type,
+                                 const QStringList& names, const QStringList& fields)
+{
+    const QStringList titles = {"کل", "معین", "تفصیلی", "مرکز هزینه"};
+    QCOMPARE(criteria.size(), titles.size());
+    for (int level = 0; level < criteria.size(); ++level) {
+        const TTarvaSearch& criterion = *criteria.at(level);
+        QCOMPARE(criterion.objectName(), names.at(level));
+        QCOMPARE(criterion.SearchTypes(), type);
+        QCOMPARE(criterion.SearchItems.Count(), 1);
+        QCOMPARE(criterion.ItemIndex(), 0);
+        QCOMPARE(criterion.CurrentItem()->Title, titles.at(level));
+        QCOMPARE(criterion.CurrentItem()->FiledName, fields.at(level));
+        QCOMPARE(criterion.CurrentItem()->DataType, TSearchDataType::idtDigit);
+        QCOMPARE(criterion.CurrentItem()->FilterType, TSearchFilterType::iftDataset);
+        QCOMPARE(criterion.CurrentItem()->ItemResult, TSearchItemResult::irSQL);
+        QCOMPARE(criterion.CurrentItem()->MaxLength, 0);
+        QVERIFY(!criterion.Active());
+        QVERIFY(!criterion.Reverst());
+    }
+}
+
+/// One row for each set of levels.
+inline void AddLevelSets()
+{
+    QTest::addColumn<int>("levels");
+    for (int levels = 0; levels < 16; ++levels)
+        QTest::addRow("%d", levels) << levels;
+}
+
+/// The not box turns all criteria round and back.
+inline void CheckReversal(TSmartCheckBox_TRV* box, const QList<TTarvaSearch*>& criteria)
+{
+    for (const bool reversed : {true, false}) {
+        box->SetChecked(reversed);
+        for (const TTarvaSearch* const criterion : criteria)
+            QCOMPARE(criterion->Reverst(), reversed);
+    }
+}
 
 /// A report form with one of the account code filters; every account and every expense center is known to the
 /// host.

@@ -42,26 +42,10 @@ private Q_SLOTS:
     void theCriteriaAreAsTheOwnersKnowThem()
     {
         const TForm form;
-        const QStringList titles = {"کل", "معین", "تفصیلی", "مرکز هزینه"};
-        const QStringList fields = {"kol", "Moin", "Tafsili", "Tafsili2"};
-        const QStringList names = {"TarvaSearch_Total", "TarvaSearch_Assisstant", "TarvaSearch_Detail",
-                                   "TarvaSearch_ExpenseCenter"};
-        const QList<TTarvaSearch*> criteria = Criteria(form);
-        for (int level = 0; level < 4; ++level) {
-            const TTarvaSearch& criterion = *criteria.at(level);
-            QCOMPARE(criterion.objectName(), names.at(level));
-            QCOMPARE(criterion.SearchTypes(), TSearchType::stGeneral);
-            QCOMPARE(criterion.SearchItems.Count(), 1);
-            QCOMPARE(criterion.ItemIndex(), 0);
-            QCOMPARE(criterion.CurrentItem()->Title, titles.at(level));
-            QCOMPARE(criterion.CurrentItem()->FiledName, fields.at(level));
-            QCOMPARE(criterion.CurrentItem()->DataType, TSearchDataType::idtDigit);
-            QCOMPARE(criterion.CurrentItem()->FilterType, TSearchFilterType::iftDataset);
-            QCOMPARE(criterion.CurrentItem()->ItemResult, TSearchItemResult::irSQL);
-            QCOMPARE(criterion.CurrentItem()->MaxLength, 0);
-            QVERIFY(!criterion.Active());
-            QVERIFY(!criterion.Reverst());
-        }
+        CheckAccountCriteria(Criteria(form), TSearchType::stGeneral,
+                             {"TarvaSearch_Total", "TarvaSearch_Assisstant", "TarvaSearch_Detail",
+                              "TarvaSearch_ExpenseCenter"},
+                             {"kol", "Moin", "Tafsili", "Tafsili2"});
     }
 
     void theCaptionsAreAsWritten()
@@ -89,12 +73,7 @@ private Q_SLOTS:
         QCOMPARE(form.Frame->Select_AccountCode1->CodeItem(), (TCodeItems{T, E}));
     }
 
-    void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase_data()
-    {
-        QTest::addColumn<int>("levels");
-        for (int levels = 0; levels < 16; ++levels)
-            QTest::addRow("%d", levels) << levels;
-    }
+    void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase_data() { AddLevelSets(); }
     void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase()
     {
         QFETCH(int, levels);

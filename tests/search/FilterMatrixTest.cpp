@@ -1,3 +1,4 @@
+#include "FilterMatrix.h"
 #include "FilterForm.h"
 #include "Range_Cost_Search.h"
 #include "Range_Date_Search.h"
@@ -78,16 +79,9 @@ TLine StringLine(QWidget* form)
             {frame->RangeString_CMB, frame->RangeString_From_EDT, frame->RangeString_To_EDT}};
 }
 
-enum TFilterKind { DataSetKind, QueryKind, OtherKind };
-
 using TMaker = TLine (*)(QWidget* form);
 constexpr std::pair<const char*, TMaker> Makers[] = {
     {"digit", DigitLine}, {"cost", CostLine}, {"date", DateLine}, {"string", StringLine}};
-
-void Click(QWidget* control)
-{
-    QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, control->rect().center());
-}
 
 } // namespace
 
@@ -108,20 +102,7 @@ private:
 
 void FilterMatrixTest::everyCombination_data()
 {
-    QTest::addColumn<int>("frame");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("byLabel");
-    QTest::addColumn<bool>("reverseByLabel");
-    for (size_t frame = 0; frame < std::size(Makers); ++frame) {
-        for (const int kind : {DataSetKind, QueryKind, OtherKind}) {
-            for (const bool byLabel : {false, true}) {
-                for (const bool reverseByLabel : {false, true})
-                    QTest::addRow("%s, item kind %d, %s, reverse %s", Makers[frame].first, kind,
-                                  byLabel ? "caption" : "box", reverseByLabel ? "label" : "box")
-                        << static_cast<int>(frame) << kind << byLabel << reverseByLabel;
-            }
-        }
-    }
+    FilterMatrix::AddRows(Makers);
 }
 
 void FilterMatrixTest::CheckEnabled(const TLine& line, bool on)
@@ -160,20 +141,20 @@ void FilterMatrixTest::everyCombination()
     CheckEnabled(line, false);
 
     QWidget* const sender = byLabel ? static_cast<QWidget*>(line.Caption) : line.Check;
-    Click(sender);
+    FilterMatrix::Click(sender);
     CheckEnabled(line, true);
     QVERIFY(!line.Criterion->Reverst());
 
     if (reverseShown) {
         QWidget* const turner = reverseByLabel ? static_cast<QWidget*>(line.ReverseLabel) : line.Reverse;
-        Click(turner);
+        FilterMatrix::Click(turner);
         QVERIFY(line.Criterion->Reverst());
         QVERIFY(line.Reverse->Checked());
-        Click(turner);
+        FilterMatrix::Click(turner);
         QVERIFY(!line.Criterion->Reverst());
-        Click(turner);
+        FilterMatrix::Click(turner);
     }
-    Click(sender);
+    FilterMatrix::Click(sender);
     CheckEnabled(line, false);
     QCOMPARE(line.Criterion->Reverst(), reverseShown);
     QCOMPARE(line.Reverse->isVisible(), reverseShown);

@@ -16,25 +16,35 @@ QList<TTarvaSearch*> Criteria(const TForm& form)
             form.Frame->TarvaSearch_Range_Detail, form.Frame->TarvaSearch_Range_ExpCenter};
 }
 
-QVariantList First(const TForm& form)
+QVariantList Values(const TForm& form, QVariant (TTarvaSearch::*value)() const)
 {
     QVariantList values;
     for (const TTarvaSearch* const criterion : Criteria(form))
-        values.append(criterion->Value1());
+        values.append((criterion->*value)());
     return values;
+}
+
+QVariantList First(const TForm& form)
+{
+    return Values(form, &TTarvaSearch::Value1);
 }
 
 QVariantList Last(const TForm& form)
 {
-    QVariantList values;
-    for (const TTarvaSearch* const criterion : Criteria(form))
-        values.append(criterion->Value2());
-    return values;
+    return Values(form, &TTarvaSearch::Value2);
 }
 
 QVariant Text(const char* text)
 {
     return QString::fromLatin1(text);
+}
+
+void EnterAllLevels(const TForm& form, const TSelect_AccountCode& selector)
+{
+    form.Enter(selector.TotalCode_EDT, QStringLiteral("7"));
+    form.Enter(selector.AssistantCode_EDT, QStringLiteral("2"));
+    form.Enter(selector.DetailCode_EDT, QStringLiteral("11"));
+    form.Enter(selector.ExpenseCenterCode_EDT, QStringLiteral("42"));
 }
 
 /// Equal in value and in type.
@@ -58,26 +68,10 @@ private Q_SLOTS:
     void theCriteriaAreAsTheOwnersKnowThem()
     {
         const TForm form;
-        const QStringList titles = {"کل", "معین", "تفصیلی", "مرکز هزینه"};
-        const QStringList fields = {"kol", "Moin", "Tafzili", "Tafsili2"};
-        const QStringList names = {"TarvaSearch_Range_Total", "TarvaSearch_Range_Assisstant",
-                                   "TarvaSearch_Range_Detail", "TarvaSearch_Range_ExpCenter"};
-        const QList<TTarvaSearch*> criteria = Criteria(form);
-        for (int level = 0; level < 4; ++level) {
-            const TTarvaSearch& criterion = *criteria.at(level);
-            QCOMPARE(criterion.objectName(), names.at(level));
-            QCOMPARE(criterion.SearchTypes(), TSearchType::stRangeDigit);
-            QCOMPARE(criterion.SearchItems.Count(), 1);
-            QCOMPARE(criterion.ItemIndex(), 0);
-            QCOMPARE(criterion.CurrentItem()->Title, titles.at(level));
-            QCOMPARE(criterion.CurrentItem()->FiledName, fields.at(level));
-            QCOMPARE(criterion.CurrentItem()->DataType, TSearchDataType::idtDigit);
-            QCOMPARE(criterion.CurrentItem()->FilterType, TSearchFilterType::iftDataset);
-            QCOMPARE(criterion.CurrentItem()->ItemResult, TSearchItemResult::irSQL);
-            QCOMPARE(criterion.CurrentItem()->MaxLength, 0);
-            QVERIFY(!criterion.Active());
-            QVERIFY(!criterion.Reverst());
-        }
+        CheckAccountCriteria(Criteria(form), TSearchType::stRangeDigit,
+                             {"TarvaSearch_Range_Total", "TarvaSearch_Range_Assisstant",
+                              "TarvaSearch_Range_Detail", "TarvaSearch_Range_ExpCenter"},
+                             {"kol", "Moin", "Tafzili", "Tafsili2"});
     }
 
     void theCaptionsAreAsWritten()
@@ -116,12 +110,7 @@ private Q_SLOTS:
         QVERIFY(Same(Last(form), {Text("999"), Text("99"), 99999999, 9999}));
     }
 
-    void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase_data()
-    {
-        QTest::addColumn<int>("levels");
-        for (int levels = 0; levels < 16; ++levels)
-            QTest::addRow("%d", levels) << levels;
-    }
+    void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase_data() { AddLevelSets(); }
     void checkingActivatesTheLevelsOfTheSetAndTheTotalInAnyCase()
     {
         QFETCH(int, levels);
@@ -142,12 +131,7 @@ private Q_SLOTS:
     void theNotBoxReversesAllFour()
     {
         const TForm form;
-        form.Frame->AccCodes_Reverst_CHK->SetChecked(true);
-        for (const TTarvaSearch* const criterion : Criteria(form))
-            QVERIFY(criterion->Reverst());
-        form.Frame->AccCodes_Reverst_CHK->SetChecked(false);
-        for (const TTarvaSearch* const criterion : Criteria(form))
-            QVERIFY(!criterion->Reverst());
+        CheckReversal(form.Frame->AccCodes_Reverst_CHK, Criteria(form));
     }
 
     void theFirstCodesAreTheTextsOfTheBoxes()
@@ -155,10 +139,7 @@ private Q_SLOTS:
         TForm form;
         QVERIFY(form.Start());
         const TSelect_AccountCode& from = *form.Frame->Select_AccountCode1;
-        form.Enter(from.TotalCode_EDT, QStringLiteral("7"));
-        form.Enter(from.AssistantCode_EDT, QStringLiteral("2"));
-        form.Enter(from.DetailCode_EDT, QStringLiteral("11"));
-        form.Enter(from.ExpenseCenterCode_EDT, QStringLiteral("42"));
+        EnterAllLevels(form, from);
         QVERIFY(Same(First(form), {Text("7"), Text("002"), Text("000011"), 42}));
         QVERIFY(Same(Last(form), {Text("999"), Text("999"), 999999, 9999}));
         QCOMPARE(from.TotalCode_EDT->Text(), QStringLiteral("7"));
@@ -168,11 +149,7 @@ private Q_SLOTS:
     {
         TForm form;
         QVERIFY(form.Start());
-        const TSelect_AccountCode& to = *form.Frame->Select_AccountCode2;
-        form.Enter(to.TotalCode_EDT, QStringLiteral("7"));
-        form.Enter(to.AssistantCode_EDT, QStringLiteral("2"));
-        form.Enter(to.DetailCode_EDT, QStringLiteral("11"));
-        form.Enter(to.ExpenseCenterCode_EDT, QStringLiteral("42"));
+        EnterAllLevels(form, *form.Frame->Select_AccountCode2);
         QVERIFY(Same(Last(form), {Text("7"), Text("002"), Text("000011"), Text("0042")}));
         QVERIFY(Same(First(form), {Text("0"), Text("0"), Text("0"), 0}));
     }

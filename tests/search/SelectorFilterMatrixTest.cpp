@@ -1,6 +1,7 @@
 #include "AccountForm.h"
 #include "AccountingCodes_Search_UNT.h"
 #include "EntitySearchForm.h"
+#include "FilterMatrix.h"
 #include "Range_AccCodes_Search_UNT.h"
 #include "Range_SelectEntity_Search_UNT.h"
 #include "SelectEntity_Search_UNT.h"
@@ -8,7 +9,6 @@
 
 namespace {
 
-enum TFilterKind { DataSetKind, QueryKind, OtherKind };
 enum class TReverseShown { Always, ByKind, Never };
 using TKinds = QList<int>;
 
@@ -165,11 +165,6 @@ constexpr std::pair<const char*, TMaker> Makers[] = {
     {"account range", AccountRangeLine<AllLevels>},
     {"account range, assistant and detail", AccountRangeLine<MiddleLevels>}};
 
-void Click(QWidget* control)
-{
-    QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, control->rect().center());
-}
-
 bool ShowsReverse(const TLine& line, int kind)
 {
     return line.ReverseShown == TReverseShown::Always ||
@@ -200,20 +195,7 @@ private:
 
 void SelectorFilterMatrixTest::everyCombination_data()
 {
-    QTest::addColumn<int>("frame");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("byLabel");
-    QTest::addColumn<bool>("reverseByLabel");
-    for (size_t frame = 0; frame < std::size(Makers); ++frame) {
-        for (const int kind : {DataSetKind, QueryKind, OtherKind}) {
-            for (const bool byLabel : {false, true}) {
-                for (const bool reverseByLabel : {false, true})
-                    QTest::addRow("%s, item kind %d, %s, reverse %s", Makers[frame].first, kind,
-                                  byLabel ? "caption" : "box", reverseByLabel ? "label" : "box")
-                        << static_cast<int>(frame) << kind << byLabel << reverseByLabel;
-            }
-        }
-    }
+    FilterMatrix::AddRows(Makers);
 }
 
 void SelectorFilterMatrixTest::CheckSwitched(const TLine& line, bool on)
@@ -257,7 +239,7 @@ void SelectorFilterMatrixTest::CheckReverseShown(const TLine& line, bool shown)
 void SelectorFilterMatrixTest::TurnRound(const TLine& line, QWidget* turner)
 {
     for (const bool reversed : {true, false, true}) {
-        Click(turner);
+        FilterMatrix::Click(turner);
         CheckReversed(line, reversed);
     }
 }
@@ -278,9 +260,9 @@ void SelectorFilterMatrixTest::everyCombination()
     QWidget* const sender = byLabel ? static_cast<QWidget*>(line.Caption) : line.Check;
     QWidget* const turner = reverseByLabel ? static_cast<QWidget*>(line.ReverseLabel) : line.Reverse;
     if (ShowsReverse(line, kind))
-        Click(turner); // is off with the filter
+        FilterMatrix::Click(turner); // is off with the filter
     CheckReversed(line, false);
-    Click(sender);
+    FilterMatrix::Click(sender);
     CheckSwitched(line, true);
     CheckReverseEnabled(line, true);
     CheckReverseShown(line, ShowsReverse(line, kind));
@@ -294,7 +276,7 @@ void SelectorFilterMatrixTest::everyCombination()
     const bool reversible = line.Reverse->isVisible();
     if (reversible)
         TurnRound(line, turner);
-    Click(sender);
+    FilterMatrix::Click(sender);
     CheckSwitched(line, false);
     CheckReverseEnabled(line, false);
     CheckReversed(line, reversible);
@@ -315,7 +297,7 @@ void SelectorFilterMatrixTest::choosingAnItemShowsTheReverseControlsByItsKind()
     const TLine line = Makers[frame].second({DataSetKind, OtherKind, QueryKind, OtherKind, DataSetKind});
     const bool always = line.ReverseShown == TReverseShown::Always;
     QVERIFY(Typing::ShowActive(line.Window));
-    Click(line.Check);
+    FilterMatrix::Click(line.Check);
     int index = 0;
     for (const bool shown : {always, always, true, true, always}) {
         for (const TCriterion& criterion : line.Criteria)
