@@ -1,30 +1,29 @@
 #include "AdvListEditorPer.h"
 
+#include "AdvListAccessible.h"
 #include "AdvListEditorPrivate.h"
 #include "ControlDispatch.h"
 #include "Look.h"
 
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-
-namespace {
-
-constexpr int WidestBubble = 60 * Look::Unit;
-constexpr int BubblePadding = 2 * Look::Unit;
-constexpr int FrameWidth = Look::RingWidth;
-constexpr quint32 White = 0xffffff;
-
-} // namespace
+#include <QPointer>
+#include <QToolTip>
+#include <QWheelEvent>
 
 TAdvListEditorPer::TPrivate::TPrivate(TAdvListEditorPer* owner) : editor(owner), line(new TAdvListLine(owner))
 {
-    const auto observe = [this](TAdvListValues::TChange change, int index, int count) {
-        ItemsChanged(change, index, count);
-    };
-    values.SetObserver(observe);
+    values.SetObserver(
+        [this](TAdvListValues::TChange change, int index, int count) { ItemsChanged(change, index, count); });
+    lookup.SetObserver([this](TAdvListValues::TChange, int, int) {
+        matches.Forget();
+        HideCompletion();
+    });
+    QObject::connect(line, &QLineEdit::textEdited, owner, [this] { TextTyped(); });
     QObject::connect(line, &QLineEdit::textChanged, owner, [this] {
         Invalidate();
         Q_EMIT editor->editTextChanged();
@@ -33,107 +32,47 @@ TAdvListEditorPer::TPrivate::TPrivate(TAdvListEditorPer* owner) : editor(owner),
 
 void TAdvListEditorPer::TPrivate::ItemsChanged(TAdvListValues::TChange change, int index, int count)
 {
-    const bool caretLast = change == TAdvListValues::TChange::Added && caret == values.Count() - count;
-    switch (change) {
-    case TAdvListValues::TChange::Added:
+    using TChange = TAdvListValues::TChange;
+    const bool caretLast = change == TChange::Added && caret == values.Count() - count;
+    if (change == TChange::Added)
         widths.insert(index, count, -1);
-        if (index < caret || caretLast)
-            caret += count;
-        break;
-    case TAdvListValues::TChange::Removed:
+    else if (change == TChange::Removed)
         widths.remove(index, count);
-        if (index < caret)
-            caret = qMax(index, caret - count);
-        break;
-    case TAdvListValues::TChange::Changed:
+    else
         std::fill_n(widths.begin() + index, count, -1);
-        break;
-    }
+    if (change == TChange::Added && (index < caret || caretLast))
+        caret += count;
+    else if (change == TChange::Removed && index < caret)
+        caret = qMax(index, caret - count);
+    ++revision;
     anchor = caret;
+    press = {};
+    hotMark = -1;
+    ShowPlaceholder();
     Invalidate();
+    TellItems(change, index);
     Q_EMIT editor->valuesChanged();
-}
-
-void TAdvListEditorPer::TPrivate::Invalidate()
-{
-    if (arranged && editor->isVisible())
-        QCoreApplication::postEvent(editor, new QEvent(QEvent::LayoutRequest));
-    arranged = false;
-    editor->update();
-}
-
-QRect TAdvListEditorPer::TPrivate::Inner() const
-{
-    return editor->rect().adjusted(2 * FrameWidth, FrameWidth, -2 * FrameWidth, -FrameWidth);
-}
-
-int TAdvListEditorPer::TPrivate::BubbleWidth(int index)
-{
-    int& width = widths[index];
-    if (width < 0)
-        width = qMin(WidestBubble,
-                     editor->fontMetrics().horizontalAdvance(values[index].DisplayText) + 2 * BubblePadding);
-    return width;
-}
-
-void TAdvListEditorPer::TPrivate::Arrange()
-{
-    if (arranged)
-        return;
-    arranged = true;
-    for (int index = 0; index < values.Count(); ++index)
-        BubbleWidth(index);
-    TAdvListLayout::TRow row;
-    row.Widths = widths;
-    row.Place = caret;
-    row.BoxWidth = line->NeededWidth();
-    row.BoxFills = true;
-    row.LineWidth = Inner().width();
-    row.LineHeight = Look::ControlHeight - 2 * FrameWidth;
-    row.Spacing = Look::Unit;
-    row.Wraps = maxLines > 1;
-    layout.Arrange(row);
-    ScrollToBox();
-    line->setGeometry(OnScreen(layout.Box()));
-}
-
-void TAdvListEditorPer::TPrivate::ScrollToBox()
-{
-    const QRect box = layout.Box();
-    const QSize room = Inner().size();
-    const int right = qMin(box.right() + 1, box.left() + room.width());
-    scroll.setX(qBound(0, qMax(scroll.x(), right - room.width()), box.left()));
-    scroll.setY(qBound(0, qMax(scroll.y(), box.bottom() + 1 - room.height()), box.top()));
-}
-
-QRect TAdvListEditorPer::TPrivate::OnScreen(const QRect& reading) const
-{
-    const QRect inner = Inner();
-    const QRect shown = reading.translated(inner.topLeft() - scroll);
-    return QStyle::visualRect(editor->layoutDirection(), inner, shown);
-}
-
-QPoint TAdvListEditorPer::TPrivate::Reading(const QPoint& point) const
-{
-    const QRect inner = Inner();
-    return QStyle::visualPos(editor->layoutDirection(), inner, point) - inner.topLeft() + scroll;
-}
-
-void TAdvListEditorPer::TPrivate::ShowColors()
-{
-    editor->update();
 }
 
 TAdvListEditorPer::TAdvListEditorPer(QWidget* parent) : QWidget(parent), d(std::make_unique<TPrivate>(this))
 {
+    TAdvListAccessible::Install();
     setLayoutDirection(Qt::RightToLeft);
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(d->line);
     setAttribute(Qt::WA_InputMethodEnabled);
+    setMouseTracking(true);
+    setCursor(Qt::IBeamCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    d->ShowColors();
 }
 
-TAdvListEditorPer::~TAdvListEditorPer() = default;
+TAdvListEditorPer::~TAdvListEditorPer()
+{
+    // While what they ask for is still there.
+    delete d->completion;
+    delete d->line;
+}
 
 TAdvListValues& TAdvListEditorPer::Values()
 {
@@ -162,11 +101,13 @@ QString TAdvListEditorPer::EditText() const
 
 void TAdvListEditorPer::SetEditText(const QString& text)
 {
+    d->HideCompletion();
     d->line->setText(text);
 }
 
 void TAdvListEditorPer::clear()
 {
+    d->HideCompletion();
     d->line->clear();
 }
 
@@ -226,7 +167,9 @@ void TAdvListEditorPer::SetRightToLeft(bool on)
 void TAdvListEditorPer::SetImages(const QVector<QImage>& images)
 {
     d->images = images;
-    update();
+    d->pictures.clear();
+    d->widths.fill(-1);
+    d->Invalidate();
 }
 
 const QVector<QImage>& TAdvListEditorPer::Images() const
@@ -273,7 +216,7 @@ QString TAdvListEditorPer::PlaceholderText() const
 void TAdvListEditorPer::SetPlaceholderText(const QString& text)
 {
     d->placeholder = text;
-    update();
+    d->ShowPlaceholder();
 }
 
 bool TAdvListEditorPer::ReadOnly() const
@@ -285,6 +228,9 @@ void TAdvListEditorPer::SetReadOnly(bool readOnly)
 {
     d->readOnly = readOnly;
     d->line->setReadOnly(readOnly);
+    d->widths.fill(-1);
+    d->HideCompletion();
+    d->Invalidate();
 }
 
 bool TAdvListEditorPer::FreeItems() const
@@ -315,6 +261,8 @@ bool TAdvListEditorPer::CloseMarks() const
 void TAdvListEditorPer::SetCloseMarks(bool on)
 {
     d->closeMarks = on;
+    d->widths.fill(-1);
+    d->Invalidate();
 }
 
 int TAdvListEditorPer::MaxLength() const
@@ -335,12 +283,16 @@ int TAdvListEditorPer::MaxLines() const
 void TAdvListEditorPer::SetMaxLines(int lines)
 {
     d->maxLines = qMax(1, lines);
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(d->maxLines > 1);
+    setSizePolicy(policy);
+    updateGeometry();
     d->Invalidate();
 }
 
 QSize TAdvListEditorPer::sizeHint() const
 {
-    return {60 * Look::Unit, Look::ControlHeight};
+    return {60 * Look::Unit, d->HeightOf(d->lines)};
 }
 
 QSize TAdvListEditorPer::minimumSizeHint() const
@@ -353,29 +305,50 @@ bool TAdvListEditorPer::hasHeightForWidth() const
     return d->maxLines > 1;
 }
 
-int TAdvListEditorPer::heightForWidth(int) const
+int TAdvListEditorPer::heightForWidth(int width) const
 {
-    return Look::ControlHeight;
+    if (d->maxLines == 1)
+        return d->HeightOf(1);
+    d->Measure();
+    TAdvListLayout layout;
+    layout.Arrange(d->Row(width - (this->width() - d->Inner().width())));
+    return d->HeightOf(layout.LineCount());
 }
 
 bool TAdvListEditorPer::event(QEvent* event)
 {
     if (event->type() == QEvent::KeyPress)
         d->BeginStroke(*static_cast<QKeyEvent*>(event));
-    if (event->type() == QEvent::KeyRelease)
+    else if (event->type() == QEvent::KeyRelease)
         d->EndStroke(*static_cast<QKeyEvent*>(event));
     if (ControlDispatch::Event(this, *this, event))
         return true;
-    if (event->type() == QEvent::LayoutRequest)
+    switch (event->type()) {
+    case QEvent::LayoutRequest:
         d->Arrange();
-    return QWidget::event(event);
+        return true;
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool leaves = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+        return (leaves && d->LeaveByTab(*key)) || QWidget::event(event);
+    }
+    case QEvent::ToolTip: {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = d->ToolTipAt(help->pos());
+        QToolTip::showText(help->globalPos(), text.isEmpty() ? toolTip() : text.toHtmlEscaped(), this);
+        return true;
+    }
+    default:
+        return QWidget::event(event);
+    }
 }
 
 void TAdvListEditorPer::keyPressEvent(QKeyEvent* event)
 {
     ControlDispatch::KeyPress(this, *this, event, [this](QKeyEvent* own) {
-        if (!d->HandleKey(own) && !d->line->TakeKey(own))
-            QWidget::keyPressEvent(own);
+        const QPointer<TAdvListEditorPer> alive = this;
+        if (!d->HandleKey(own) && alive)
+            own->ignore();
     });
 }
 
@@ -386,7 +359,8 @@ void TAdvListEditorPer::keyReleaseEvent(QKeyEvent* event)
 
 void TAdvListEditorPer::inputMethodEvent(QInputMethodEvent* event)
 {
-    d->line->TakeInputMethod(event);
+    event->accept();
+    d->Compose(event);
 }
 
 QVariant TAdvListEditorPer::inputMethodQuery(Qt::InputMethodQuery query) const
@@ -396,57 +370,81 @@ QVariant TAdvListEditorPer::inputMethodQuery(Qt::InputMethodQuery query) const
 
 void TAdvListEditorPer::mousePressEvent(QMouseEvent* event)
 {
-    QWidget::mousePressEvent(event);
+    event->accept();
+    d->Press(*event);
 }
 
 void TAdvListEditorPer::mouseMoveEvent(QMouseEvent* event)
 {
-    QWidget::mouseMoveEvent(event);
+    event->accept();
+    if (event->buttons() & Qt::LeftButton)
+        d->Drag(event->position().toPoint());
+    else
+        d->Hover(event->position().toPoint());
 }
 
 void TAdvListEditorPer::mouseReleaseEvent(QMouseEvent* event)
 {
-    QWidget::mouseReleaseEvent(event);
+    event->accept();
+    d->Release(*event);
 }
 
 void TAdvListEditorPer::wheelEvent(QWheelEvent* event)
 {
-    QWidget::wheelEvent(event);
+    const bool wraps = d->maxLines > 1;
+    const QPoint before = d->scroll;
+    const QPoint turned = event->angleDelta();
+    const int distance = -(turned.y() != 0 ? turned.y() : turned.x()) / 3;
+    d->Arrange();
+    d->ScrollBy(wraps ? QPoint(0, distance) : QPoint(distance, 0));
+    // What cannot be scrolled any further belongs to the form.
+    event->setAccepted(d->scroll != before);
 }
 
 void TAdvListEditorPer::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
+    d->hotMark = -1;
+    update();
 }
 
 void TAdvListEditorPer::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (d->popupMenu)
-        d->popupMenu->popup(event->globalPos());
+    d->ShowMenu(event->globalPos());
 }
 
 void TAdvListEditorPer::resizeEvent(QResizeEvent*)
 {
     d->Invalidate();
-    d->Arrange();
+    if (isVisible())
+        d->Arrange();
 }
 
 void TAdvListEditorPer::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    d->Invalidate();
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        d->widths.fill(-1);
+        d->Invalidate();
+        break;
+    case QEvent::PaletteChange:
+    case QEvent::EnabledChange:
+        d->HideCompletion();
+        d->ShowColors();
+        break;
+    case QEvent::LayoutDirectionChange:
+        d->Invalidate();
+        break;
+    default:
+        break;
+    }
 }
 
 void TAdvListEditorPer::paintEvent(QPaintEvent*)
 {
     d->Arrange();
     QPainter painter(this);
-    painter.fillRect(rect(),
-                     d->color == White ? palette().color(QPalette::Base) : Look::FromColorValue(d->color));
-    const auto [first, last] = d->layout.Within({d->scroll, d->Inner().size()});
-    for (int index = first; index < last; ++index) {
-        const QRect bubble = d->OnScreen(d->layout.Bubble(index)).adjusted(0, 2, 0, -2);
-        painter.drawRoundedRect(bubble, Look::Unit, Look::Unit);
-        painter.drawText(bubble, Qt::AlignCenter, d->values[index].DisplayText);
-    }
+    d->Paint(painter);
 }

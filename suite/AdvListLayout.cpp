@@ -14,6 +14,20 @@ TAdvListLayout::TPiece TAdvListLayout::Put(int width, const TRow& row)
     return {lines_ - 1, start, width};
 }
 
+void TAdvListLayout::PutBox(const TRow& row)
+{
+    if (row.BoxWidth == 0) {
+        const int middle = end_ == 0 ? 0 : end_ + row.Spacing / 2;
+        box_ = QRect(middle - CaretRoom / 2, (lines_ - 1) * height_, CaretRoom, height_);
+        return;
+    }
+    const TPiece box = Put(row.BoxWidth, row);
+    if (row.BoxFills)
+        end_ = std::max(end_, row.LineWidth);
+    width_ = std::max(width_, end_);
+    box_ = QRect(box.Start, box.Line * height_, end_ - box.Start, height_);
+}
+
 void TAdvListLayout::Arrange(const TRow& row)
 {
     const int count = static_cast<int>(row.Widths.size());
@@ -24,14 +38,8 @@ void TAdvListLayout::Arrange(const TRow& row)
     end_ = 0;
     height_ = row.LineHeight;
     for (int index = 0; index <= count; ++index) {
-        if (index == row.Place) {
-            TPiece box = Put(row.BoxWidth, row);
-            if (row.BoxFills && index == count)
-                box.Width = std::max(box.Width, row.LineWidth - box.Start);
-            end_ = box.Start + box.Width;
-            width_ = std::max(width_, end_);
-            box_ = QRect(box.Start, box.Line * height_, box.Width, height_);
-        }
+        if (index == row.Place)
+            PutBox(row);
         if (index < count)
             bubbles_ << Put(row.Widths.at(index), row);
     }

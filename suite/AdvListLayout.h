@@ -10,11 +10,14 @@
 class SUITE_EXPORT TAdvListLayout
 {
 public:
+    /// The width of a box that stands over a gap.
+    static constexpr int CaretRoom = 8;
+
     struct TRow
     {
         QVector<int> Widths;   ///< of the bubbles
         int Place = 0;         ///< how many bubbles stand before the box
-        int BoxWidth = 0;      ///< what the box needs
+        int BoxWidth = 0;      ///< what the box needs; 0 stands it over the gap, where only its caret is seen
         bool BoxFills = false; ///< the box takes the rest of its line
         int LineWidth = 0;
         int LineHeight = 0;
@@ -45,6 +48,7 @@ private:
     };
 
     TPiece Put(int width, const TRow& row);
+    void PutBox(const TRow& row);
 
     QVector<TPiece> bubbles_;
     QRect box_;

@@ -3,19 +3,19 @@
 #include "AdvListEditorPrivate.h"
 #include "ControlDispatch.h"
 
+#include <QClipboard>
+#include <QDropEvent>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPointer>
 
 TAdvListLine::TAdvListLine(TAdvListEditorPer* editor) : QLineEdit(editor), editor_(editor)
 {
     setFrame(false);
     setAutoFillBackground(false);
-    setAttribute(Qt::WA_MacShowFocusRect, false);
     setCursorMoveStyle(Qt::VisualMoveStyle);
-    QPalette clear = palette();
-    clear.setBrush(QPalette::Base, Qt::transparent);
-    setPalette(clear);
 }
 
 bool TAdvListLine::TakeKey(QKeyEvent* event)
@@ -41,40 +41,88 @@ bool TAdvListLine::event(QEvent* event)
     return QLineEdit::event(event);
 }
 
-void TAdvListLine::inputMethodEvent(QInputMethodEvent* event)
+void TAdvListLine::TakeInputMethod(QInputMethodEvent* event)
 {
     composed_ = event->preeditString();
-    editor_->inputMethodEvent(event);
+    QLineEdit::inputMethodEvent(event);
+}
+
+void TAdvListLine::inputMethodEvent(QInputMethodEvent* event)
+{
+    editor_->d->Compose(event);
 }
 
 void TAdvListLine::focusInEvent(QFocusEvent* event)
 {
+    const QPointer<TAdvListLine> alive = this;
     QLineEdit::focusInEvent(event);
+    // A caret that Tab brings comes to a text to go on with, not to replace.
+    deselect();
     editor_->update();
     ControlDispatch::FocusIn(editor_, *editor_, event);
+    if (alive)
+        editor_->d->TellFocus();
 }
 
 void TAdvListLine::focusOutEvent(QFocusEvent* event)
 {
-    const QPointer<TAdvListEditorPer> alive = editor_;
+    const QPointer<TAdvListLine> alive = this;
     QLineEdit::focusOutEvent(event);
     if (!alive)
         return;
+    TAdvListEditorPer::TPrivate& d = *editor_->d;
+    d.HideCompletion();
+    d.held.clear();
+    if (ControlDispatch::MovesBetweenControls(event))
+        d.MoveCaret(d.caret, false);
     editor_->update();
     ControlDispatch::FocusOut(editor_, *editor_, event);
 }
 
 void TAdvListLine::mousePressEvent(QMouseEvent* event)
 {
+    const QPointer<TAdvListLine> alive = this;
+    if (!editor_->d->Follows(event) || !alive)
+        return;
+    if (event->button() == Qt::LeftButton)
+        editor_->d->MoveCaret(editor_->d->caret, event->modifiers().testFlag(Qt::ShiftModifier));
     QLineEdit::mousePressEvent(event);
+}
+
+void TAdvListLine::mouseMoveEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseMoveEvent(event);
+    event->accept();
 }
 
 void TAdvListLine::mouseReleaseEvent(QMouseEvent* event)
 {
-    QLineEdit::mouseReleaseEvent(event);
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    editor_->d->Paste(clipboard->text(QClipboard::Selection));
+}
+
+void TAdvListLine::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
 }
 
 void TAdvListLine::contextMenuEvent(QContextMenuEvent* event)
 {
     event->ignore();
+}
+
+void TAdvListLine::dropEvent(QDropEvent* event)
+{
+    QDragLeaveEvent leave;
+    QLineEdit::dragLeaveEvent(&leave);
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    // Always a copy: where the text is refused it must not vanish from where it came.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    editor_->d->Paste(event->mimeData()->text());
 }

@@ -15,9 +15,11 @@ public:
 
     /// What the toolkit's own line does with a key; false where the key means nothing to the text.
     bool TakeKey(QKeyEvent* event);
-    void TakeInputMethod(QInputMethodEvent* event) { QLineEdit::inputMethodEvent(event); }
+    void TakeInputMethod(QInputMethodEvent* event);
     /// The width that the text needs, with what is being composed and room for the caret.
     int NeededWidth() const;
+    /// Whether an input method is at work on a character.
+    bool IsComposing() const { return !composed_.isEmpty(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -26,7 +28,10 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     TAdvListEditorPer* editor_;

@@ -1,6 +1,7 @@
 #include "AdvListValues.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
 
@@ -25,8 +26,9 @@ void TAdvListValues::Check(int index, int end) const
 
 void TAdvListValues::Tell(TChange change, int index, int count) const
 {
-    if (observer_)
-        observer_(change, index, count);
+    // A copy, because what it tells may end these items.
+    if (const TObserver running = observer_)
+        running(change, index, count);
 }
 
 const TAdvListValueItem& TAdvListValues::GetItem(int index) const
@@ -80,9 +82,8 @@ void TAdvListValues::Move(int from, int to)
     Check(to, Count());
     if (from == to)
         return;
-    const TAdvListValueItem item = items_.at(from);
-    Delete(from);
-    Insert(to, item);
+    items_.move(from, to);
+    Tell(TChange::Changed, std::min(from, to), std::abs(from - to) + 1);
 }
 
 void TAdvListValues::SetDisplayText(int index, const QString& text)

@@ -24,7 +24,7 @@ class SUITE_EXPORT TAdvListValues
 {
 public:
     /// What has become of the items; `index` and `count` name those that were added, removed or changed. A
-    /// moved item is told as removed and added.
+    /// move has changed all items between its ends.
     enum class TChange { Added, Removed, Changed };
     using TObserver = std::function<void(TChange change, int index, int count)>;
 

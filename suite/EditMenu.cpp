@@ -17,7 +17,7 @@ QMenu* EditMenu::Create(QLineEdit* edit, const TEditCommands& commands)
         action->setEnabled(enabled);
         QObject::connect(action, &QAction::triggered, edit, run);
     };
-    const bool selected = edit->hasSelectedText();
+    const bool selected = commands.HasSelection || edit->hasSelectedText();
     add(QStringLiteral("&واگرد"), QKeySequence::Undo, commands.CanChange && commands.CanUndo, commands.Undo);
     add(QStringLiteral("&ازنو"), QKeySequence::Redo, commands.CanChange && commands.CanRedo, commands.Redo);
     menu->addSeparator();
@@ -28,7 +28,8 @@ QMenu* EditMenu::Create(QLineEdit* edit, const TEditCommands& commands)
         commands.Paste);
     add(QStringLiteral("&حذف"), QKeySequence::Delete, commands.CanChange && selected, commands.Delete);
     menu->addSeparator();
-    add(QStringLiteral("انتخاب &همه"), QKeySequence::SelectAll, !edit->text().isEmpty(),
-        [edit] { edit->selectAll(); });
+    const std::function<void()> selectLine = [edit] { edit->selectAll(); };
+    add(QStringLiteral("انتخاب &همه"), QKeySequence::SelectAll, commands.SelectAll || !edit->text().isEmpty(),
+        commands.SelectAll ? commands.SelectAll : selectLine);
     return menu;
 }

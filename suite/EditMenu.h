@@ -14,10 +14,12 @@ struct TEditCommands
     std::function<void()> Copy;
     std::function<void()> Paste;
     std::function<void()> Delete;
+    std::function<void()> SelectAll; ///< where it is more than the line's own
     bool CanUndo = false;
     bool CanRedo = false;
     bool CanChange = false;
     bool CanPaste = false;
+    bool HasSelection = false; ///< beside what is selected in the line
 };
 
 namespace EditMenu {

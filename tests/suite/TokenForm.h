@@ -4,6 +4,7 @@
 #include "AdvListEditorPer.h"
 #include "TypedKeys.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -18,6 +19,7 @@ struct TTokenForm
 
     TTokenForm()
     {
+        window.setLayoutDirection(Qt::RightToLeft);
         layout.addWidget(&editor);
         layout.addWidget(&other);
         window.resize(500, 80);
@@ -40,7 +42,7 @@ struct TTokenForm
         editor.CorrectEditPos();
     }
 
-    /// The texts of the items, with the box for typing as a bar where it stands.
+    /// The texts of the items.
     QString Row() const
     {
         QStringList texts;
@@ -52,5 +54,47 @@ struct TTokenForm
     void Stroke(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {})
     {
         TypedKeys::Stroke(QApplication::focusWidget(), key, modifiers, text);
+    }
+    void Strokes(int key, int times)
+    {
+        for (int stroke = 0; stroke < times; ++stroke)
+            Stroke(key);
+    }
+    void Type(const QString& text) { TypedKeys::Text(QApplication::focusWidget(), text); }
+
+    /// What the editor is for a screen reader: the items, then the box for typing.
+    QAccessibleInterface* Accessible() { return QAccessible::queryAccessibleInterface(&editor); }
+    /// The place of an item in the editor's pixels, on the screen or scrolled out.
+    QRect Bubble(int index)
+    {
+        const QRect onScreen = Accessible()->child(index)->rect();
+        return {editor.mapFromGlobal(onScreen.topLeft()), onScreen.size()};
+    }
+    QPoint Mark(int index)
+    {
+        const QRect bubble = Bubble(index);
+        constexpr int FromEdge = 11;
+        const bool fromRight = editor.layoutDirection() == Qt::RightToLeft;
+        return {fromRight ? bubble.left() + FromEdge : bubble.right() - FromEdge, bubble.center().y()};
+    }
+    bool IsSelected(int index) { return Accessible()->child(index)->state().selected; }
+    QList<int> Selected()
+    {
+        QList<int> selected;
+        for (int index = 0; index < editor.Values().Count(); ++index) {
+            if (IsSelected(index))
+                selected << index;
+        }
+        return selected;
+    }
+    /// How many items stand before the caret, as the place of its box tells.
+    int Place()
+    {
+        QCoreApplication::sendPostedEvents(&editor, QEvent::LayoutRequest);
+        const QRect box = editor.focusProxy()->geometry();
+        int place = 0;
+        while (place < editor.Values().Count() && Bubble(place).center().x() > box.center().x())
+            ++place;
+        return place;
     }
 };

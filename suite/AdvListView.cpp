@@ -1,0 +1,254 @@
+#include "AdvListEditorPrivate.h"
+#include "Look.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QStyleOptionFrame>
+
+namespace {
+
+constexpr int WidestBubble = 60 * Look::Unit;
+constexpr int FrameWidth = Look::RingWidth;
+constexpr int EditorLineHeight = Look::ControlHeight - 2 * FrameWidth;
+constexpr int BubbleInset = 1;
+constexpr quint32 White = 0xffffff;
+
+} // namespace
+
+void TAdvListEditorPer::TPrivate::Invalidate()
+{
+    if (arranged && editor->isVisible())
+        QCoreApplication::postEvent(editor, new QEvent(QEvent::LayoutRequest));
+    arranged = false;
+    editor->update();
+}
+
+QRect TAdvListEditorPer::TPrivate::Inner() const
+{
+    return editor->rect().adjusted(2 * FrameWidth, FrameWidth, -2 * FrameWidth, -FrameWidth);
+}
+
+int TAdvListEditorPer::TPrivate::LineHeight() const
+{
+    return maxLines > 1 ? EditorLineHeight : qMin(EditorLineHeight, qMax(1, Inner().height()));
+}
+
+int TAdvListEditorPer::TPrivate::HeightOf(int count) const
+{
+    return qBound(1, count, maxLines) * EditorLineHeight + 2 * FrameWidth;
+}
+
+void TAdvListEditorPer::TPrivate::Measure()
+{
+    const int widest = qBound(1, Inner().width(), WidestBubble);
+    if (widest != measuredFor)
+        widths.fill(-1);
+    measuredFor = widest;
+    const QFontMetrics metrics = editor->fontMetrics();
+    const bool hasMark = closeMarks && !readOnly;
+    for (int index = 0; index < widths.size(); ++index) {
+        const TAdvListValueItem& item = values[index];
+        const bool hasPicture = item.ImageIndex >= 0 && item.ImageIndex < images.size();
+        if (widths.at(index) < 0)
+            widths[index] = TAdvListBubble::WidthFor(item.DisplayText, metrics, hasPicture, hasMark, widest);
+    }
+}
+
+TAdvListLayout::TRow TAdvListEditorPer::TPrivate::Row(int lineWidth) const
+{
+    constexpr int LeastLastBox = 10 * Look::Unit;
+    const bool isLast = caret == values.Count();
+    const bool isEmpty = line->text().isEmpty() && !line->IsComposing();
+    TAdvListLayout::TRow row;
+    row.Widths = widths;
+    row.Place = caret;
+    row.BoxWidth = isEmpty ? 0 : qMin(line->NeededWidth(), lineWidth);
+    if (isLast)
+        row.BoxWidth = qMax(row.BoxWidth, qMin(LeastLastBox, lineWidth));
+    row.BoxFills = isLast;
+    row.LineWidth = lineWidth;
+    row.LineHeight = LineHeight();
+    row.Spacing = Look::Unit;
+    row.Wraps = maxLines > 1;
+    return row;
+}
+
+void TAdvListEditorPer::TPrivate::Arrange()
+{
+    if (arranged)
+        return;
+    arranged = true;
+    Measure();
+    layout.Arrange(Row(Inner().width()));
+    ScrollToBox();
+    line->setGeometry(OnScreen(layout.Box()));
+    if (const int count = maxLines > 1 ? layout.LineCount() : 1; count != lines) {
+        lines = count;
+        editor->updateGeometry();
+    }
+}
+
+void TAdvListEditorPer::TPrivate::ScrollToBox()
+{
+    const QRect box = layout.Box();
+    const QSize room = Inner().size();
+    const QSize content = layout.Size();
+    // The neighbour towards which the caret goes is to be seen too, so some room is kept on both sides.
+    const int margin = qMin(8 * Look::Unit, room.width() / 4);
+    const int left = qMax(0, box.left() - margin);
+    const int right = qMin(content.width(), box.right() + 1 + margin);
+    int x = scroll.x();
+    if (right - x > room.width())
+        x = right - room.width();
+    x = qMin(x, left);
+    int y = scroll.y();
+    if (box.bottom() + 1 - y > room.height())
+        y = box.bottom() + 1 - room.height();
+    y = qMin(y, box.top());
+    scroll = {qBound(0, x, qMax(0, content.width() - room.width())),
+              qBound(0, y, qMax(0, content.height() - room.height()))};
+}
+
+void TAdvListEditorPer::TPrivate::ScrollBy(const QPoint& distance)
+{
+    const QSize room = Inner().size();
+    const QSize content = layout.Size();
+    scroll = {qBound(0, scroll.x() + distance.x(), qMax(0, content.width() - room.width())),
+              qBound(0, scroll.y() + distance.y(), qMax(0, content.height() - room.height()))};
+    line->setGeometry(OnScreen(layout.Box()));
+    editor->update();
+}
+
+QRect TAdvListEditorPer::TPrivate::OnScreen(const QRect& reading) const
+{
+    const QRect inner = Inner();
+    const int above = maxLines > 1 ? 0 : (inner.height() - LineHeight()) / 2;
+    const QRect shown = reading.translated(inner.topLeft() - scroll + QPoint(0, above));
+    return QStyle::visualRect(editor->layoutDirection(), inner, shown);
+}
+
+QPoint TAdvListEditorPer::TPrivate::Reading(const QPoint& point) const
+{
+    const QRect inner = Inner();
+    const int above = maxLines > 1 ? 0 : (inner.height() - LineHeight()) / 2;
+    return QStyle::visualPos(editor->layoutDirection(), inner, point) - inner.topLeft() + scroll -
+           QPoint(0, above);
+}
+
+TAdvListColors TAdvListEditorPer::TPrivate::Colors() const
+{
+    if (color == White || !editor->isEnabled())
+        return TAdvListColors::OfPalette(editor->palette());
+    return TAdvListColors::OnGround(Look::FromColorValue(color));
+}
+
+void TAdvListEditorPer::TPrivate::ShowColors()
+{
+    const TAdvListColors colors = Colors();
+    QPalette palette = editor->palette();
+    palette.setBrush(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Text, colors.Text);
+    palette.setColor(QPalette::PlaceholderText, colors.Placeholder);
+    line->setPalette(palette);
+    editor->update();
+}
+
+void TAdvListEditorPer::TPrivate::ShowPlaceholder()
+{
+    line->setPlaceholderText(values.IsEmpty() ? placeholder : QString());
+}
+
+QPixmap TAdvListEditorPer::TPrivate::Picture(int imageIndex)
+{
+    if (imageIndex < 0 || imageIndex >= images.size() || images.at(imageIndex).isNull())
+        return {};
+    const auto found = pictures.constFind(imageIndex);
+    if (found != pictures.constEnd())
+        return *found;
+    const qreal ratio = editor->devicePixelRatioF();
+    const QImage& image = images.at(imageIndex);
+    const QSize most = QSize(TAdvListBubble::PictureSide, TAdvListBubble::PictureSide) * ratio;
+    const bool tooLarge = image.width() > most.width() || image.height() > most.height();
+    QPixmap picture = QPixmap::fromImage(
+        tooLarge ? image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image);
+    picture.setDevicePixelRatio(ratio);
+    pictures.insert(imageIndex, picture);
+    return picture;
+}
+
+TAdvListBubble TAdvListEditorPer::TPrivate::Bubble(int index)
+{
+    const TAdvListValueItem& item = values[index];
+    TAdvListBubble bubble;
+    bubble.Rect = OnScreen(layout.Bubble(index)).adjusted(0, BubbleInset, 0, -BubbleInset);
+    bubble.Text = item.DisplayText;
+    bubble.Picture = Picture(item.ImageIndex);
+    bubble.FromRight = editor->layoutDirection() == Qt::RightToLeft;
+    bubble.HasMark = closeMarks && !readOnly;
+    bubble.IsSelected = index >= SelectionStart() && index < SelectionEnd();
+    bubble.IsMarkHot = index == hotMark;
+    bubble.IsEnabled = editor->isEnabled();
+    return bubble;
+}
+
+int TAdvListEditorPer::TPrivate::BubbleAt(const QPoint& point, bool* onMark)
+{
+    Arrange();
+    const int index = Inner().contains(point) ? layout.BubbleAt(Reading(point)) : -1;
+    if (onMark)
+        *onMark = index >= 0 && Bubble(index).MarkRect().contains(point);
+    return index;
+}
+
+void TAdvListEditorPer::TPrivate::Paint(QPainter& painter)
+{
+    const TAdvListColors colors = Colors();
+    QStyleOptionFrame frame;
+    frame.initFrom(editor);
+    frame.lineWidth = 1;
+    frame.state |= QStyle::State_Sunken;
+    frame.state.setFlag(QStyle::State_HasFocus, line->hasFocus());
+    frame.palette.setColor(QPalette::Base, colors.Ground);
+    editor->style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, editor);
+
+    painter.save();
+    const QRect inner = Inner();
+    painter.setClipRect(inner.adjusted(-FrameWidth, 0, FrameWidth, 0));
+    const auto [first, last] = layout.Within({scroll, inner.size()});
+    for (int index = first; index < last; ++index)
+        Bubble(index).Paint(painter, editor->palette(), colors);
+    PaintFades(painter, colors);
+    if (press.DropPlace >= 0) {
+        const int count = values.Count();
+        const QRect next = layout.Bubble(qMin(press.DropPlace, count - 1));
+        const int x = press.DropPlace < count ? next.left() - Look::Unit : next.right() + 1;
+        AdvListPainter::PaintDropLine(painter, OnScreen({x, next.top(), Look::Unit, next.height()}),
+                                      Look::Color(Look::TRole::Accent));
+    }
+    painter.restore();
+}
+
+void TAdvListEditorPer::TPrivate::PaintFades(QPainter& painter, const TAdvListColors& colors) const
+{
+    if (maxLines > 1)
+        return;
+    const QRect inner = Inner();
+    const bool fromRight = editor->layoutDirection() == Qt::RightToLeft;
+    if (scroll.x() > 0)
+        AdvListPainter::PaintFade(painter, inner, !fromRight, colors.Ground);
+    if (layout.Size().width() - scroll.x() > inner.width())
+        AdvListPainter::PaintFade(painter, inner, fromRight, colors.Ground);
+}
+
+QString TAdvListEditorPer::TPrivate::ToolTipAt(const QPoint& point)
+{
+    bool onMark = false;
+    const int index = BubbleAt(point, &onMark);
+    if (index < 0)
+        return {};
+    if (onMark)
+        return QStringLiteral("حذف");
+    const TAdvListBubble bubble = Bubble(index);
+    return bubble.IsElided(editor->fontMetrics()) ? bubble.Text : QString();
+}
