@@ -1,5 +1,6 @@
 #include "Page.h"
 
+#include "CategoryForm.h"
 #include "DetailAccountForm.h"
 #include "ListForm.h"
 #include "ReportForm.h"
@@ -30,5 +31,6 @@ QVector<TPageDescription> WorkbenchPages()
         FormPage<TVoucherForm>(QStringLiteral("Voucher"), QStringLiteral("صدور سند")),
         FormPage<TDetailAccountForm>(QStringLiteral("DetailAccounts"), QStringLiteral("حساب تفصیلی")),
         FormPage<TReportForm>(QStringLiteral("VoucherLines"), QStringLiteral("گزارش اسناد")),
+        FormPage<TCategoryForm>(QStringLiteral("Categories"), QStringLiteral("دسته‌ها")),
     };
 }

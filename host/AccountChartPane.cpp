@@ -1,6 +1,6 @@
 #include "AccountChartPane.h"
 
-#include "AccountTreeView.h"
+#include "MirroredTreeView.h"
 #include "Look.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 TAccountChartPane::TAccountChartPane(TAccountTree& tree, const QString& emptyText, QWidget* parent)
-    : QWidget(parent), tree_(&tree), emptyText_(emptyText), model_(tree), view_(new TAccountTreeView(this)),
+    : QWidget(parent), tree_(&tree), emptyText_(emptyText), model_(tree), view_(new TMirroredTreeView(this)),
       search_(new TSmartEdit_TRV(this))
 {
     Lay();
@@ -19,9 +19,9 @@ TAccountChartPane::TAccountChartPane(TAccountTree& tree, const QString& emptyTex
     search_->OnChange = [this](QObject* /*Sender*/) { ApplySearch(); };
     const auto* keys = new TTypeToFind(search_, view_, this);
     connect(keys, &TTypeToFind::chosen, this, &TAccountChartPane::chosen);
-    connect(view_, &TAccountTreeView::rowChosen, this, &TAccountChartPane::chosen);
-    connect(view_, &TAccountTreeView::deeper, this, &TAccountChartPane::deeper);
-    connect(view_, &TAccountTreeView::currentMoved, this, &TAccountChartPane::currentMoved);
+    connect(view_, &TMirroredTreeView::rowChosen, this, &TAccountChartPane::chosen);
+    connect(view_, &TMirroredTreeView::deeper, this, &TAccountChartPane::deeper);
+    connect(view_, &TMirroredTreeView::currentMoved, this, &TAccountChartPane::currentMoved);
     OpenMatches();
 }
 

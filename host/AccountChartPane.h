@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-class TAccountTreeView;
+class TMirroredTreeView;
 class TSmartEdit_TRV;
 
 /// The upper levels of the chart of accounts with their search edit.
@@ -24,7 +24,7 @@ public:
     /// Opens or closes what stands under the current account.
     void ToggleCurrent();
 
-    TAccountTreeView& View() { return *view_; }
+    TMirroredTreeView& View() { return *view_; }
     TSmartEdit_TRV& SearchEdit() { return *search_; }
 
 Q_SIGNALS:
@@ -44,6 +44,6 @@ private:
     TAccountTree* tree_;
     QString emptyText_;
     TAccountTreeModel model_;
-    TAccountTreeView* view_;
+    TMirroredTreeView* view_;
     TSmartEdit_TRV* search_;
 };

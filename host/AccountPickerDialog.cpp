@@ -4,7 +4,7 @@
 #include "AccountDetailPane.h"
 #include "AccountDetails.h"
 #include "AccountLevels.h"
-#include "AccountTreeView.h"
+#include "MirroredTreeView.h"
 #include "HostSettingsFile.h"
 #include "Look.h"
 #include "PersianText.h"

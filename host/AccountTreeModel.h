@@ -1,11 +1,10 @@
 #pragma once
 
 #include "AccountTree.h"
-
-#include <QAbstractItemModel>
+#include "PlaceTreeModel.h"
 
 /// The shown part of an account tree: a column of codes, a column of names.
-class TAccountTreeModel : public QAbstractItemModel
+class TAccountTreeModel final : public TPlaceTreeModel
 {
     Q_OBJECT
 
@@ -18,21 +17,16 @@ public:
     /// The tree was read.
     void Reload();
     void Filter(const QString& typed);
-    QModelIndex IndexOf(int place) const;         ///< invalid where the account is not shown
-    static int PlaceOf(const QModelIndex& index); ///< -1 of an invalid index
 
-    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
-    QModelIndex parent(const QModelIndex& child) const override;
-    int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-private:
-    void Arrange();
+protected:
+    int NodeCount() const override { return tree_->Count(); }
+    int ParentOf(int place) const override { return tree_->At(place).Parent; }
+    bool IsNodeShown(int place) const override { return tree_->IsShown(place); }
 
+private:
     TAccountTree* tree_;
-    QVector<int> roots_;
-    QVector<QVector<int>> children_; ///< shown ones, by place
-    QVector<int> rows_;              ///< among the shown children of the parent, by place
 };

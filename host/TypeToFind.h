@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HostExport.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -10,7 +12,7 @@ class TSmartEdit_TRV;
 /// One keyboard for a list and the search edit above it: what is typed or pasted while the list has the focus
 /// goes into the edit, and the list keeps the focus with its arrows; the arrows that move rows go from the
 /// edit to the list; Enter in either chooses.
-class TTypeToFind : public QObject
+class HOST_EXPORT TTypeToFind : public QObject
 {
     Q_OBJECT
 

@@ -20,4 +20,5 @@ QVector<TTourStep> PersonsListSteps();
 QVector<TTourStep> VoucherSteps();
 QVector<TTourStep> DetailAccountSteps();
 QVector<TTourStep> ReportSteps();
+QVector<TTourStep> CategorySteps();
 QVector<TTourStep> WindowSteps();

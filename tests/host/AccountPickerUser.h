@@ -3,7 +3,7 @@
 #include "AccountChartPane.h"
 #include "AccountDetailPane.h"
 #include "AccountPickerDialog.h"
-#include "AccountTreeView.h"
+#include "MirroredTreeView.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
 

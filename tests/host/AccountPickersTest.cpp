@@ -62,7 +62,7 @@ private Q_SLOTS:
                 QCOMPARE(QApplication::focusWidget(), &dialog.Details().Grid());
                 QCOMPARE(dialog.Details().CurrentCode(), 12);
                 QCOMPARE(dialog.Details().CurrentCodeText(), QStringLiteral("000012"));
-                TAccountTreeView& view = dialog.Chart().View();
+                TMirroredTreeView& view = dialog.Chart().View();
                 QCOMPARE(CurrentAccount(dialog), QStringLiteral("104-001"));
                 QVERIFY(IsInView(view, view.currentIndex()));
                 QVERIFY(IsInView(view, view.currentIndex().parent()));

@@ -1,4 +1,4 @@
-#include "AccountTreeView.h"
+#include "MirroredTreeView.h"
 
 #include "Look.h"
 
@@ -42,7 +42,7 @@ QFont SizedFont(bool bold)
 
 } // namespace
 
-TAccountTreeView::TAccountTreeView(QWidget* parent) : QTreeView(parent)
+TMirroredTreeView::TMirroredTreeView(QWidget* parent) : QTreeView(parent)
 {
     setItemDelegate(new TRowDelegate(this));
     setFont(SizedFont(false));
@@ -57,34 +57,34 @@ TAccountTreeView::TAccountTreeView(QWidget* parent) : QTreeView(parent)
     header()->setHighlightSections(false);
 }
 
-void TAccountTreeView::SetEmptyText(const QString& text)
+void TMirroredTreeView::SetEmptyText(const QString& text)
 {
     emptyText_ = text;
     viewport()->update();
 }
 
-void TAccountTreeView::keyboardSearch(const QString& /*search*/)
+void TMirroredTreeView::keyboardSearch(const QString& /*search*/)
 {
 }
 
-void TAccountTreeView::keyPressEvent(QKeyEvent* event)
+void TMirroredTreeView::keyPressEvent(QKeyEvent* event)
 {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (!plain || event->key() != Qt::Key_Left || !currentIndex().isValid()) {
         QTreeView::keyPressEvent(event);
         return;
     }
-    const QModelIndex account = currentIndex().siblingAtColumn(0);
-    if (model()->rowCount(account) == 0) {
+    const QModelIndex row = currentIndex().siblingAtColumn(0);
+    if (model()->rowCount(row) == 0) {
         Q_EMIT deeper();
         return;
     }
-    expand(account);
-    setCurrentIndex(model()->index(0, 0, account));
+    expand(row);
+    setCurrentIndex(model()->index(0, 0, row));
 }
 
 /// The base class paints the arrow in the colour of the text, which is lost on the selection.
-void TAccountTreeView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
+void TMirroredTreeView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
 {
     if (model()->rowCount(index) == 0)
         return;
@@ -102,32 +102,32 @@ void TAccountTreeView::drawBranches(QPainter* painter, const QRect& rect, const 
     style()->drawPrimitive(isExpanded(index) ? QStyle::PE_IndicatorArrowDown : closed, &arrow, painter, this);
 }
 
-void TAccountTreeView::mouseDoubleClickEvent(QMouseEvent* event)
+void TMirroredTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QTreeView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
         Q_EMIT rowChosen();
 }
 
-void TAccountTreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+void TMirroredTreeView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTreeView::currentChanged(current, previous);
     Q_EMIT currentMoved();
 }
 
-void TAccountTreeView::focusInEvent(QFocusEvent* event)
+void TMirroredTreeView::focusInEvent(QFocusEvent* event)
 {
     QTreeView::focusInEvent(event);
     QWidget::update();
 }
 
-void TAccountTreeView::focusOutEvent(QFocusEvent* event)
+void TMirroredTreeView::focusOutEvent(QFocusEvent* event)
 {
     QTreeView::focusOutEvent(event);
     QWidget::update();
 }
 
-void TAccountTreeView::paintEvent(QPaintEvent* event)
+void TMirroredTreeView::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
     if (model() == nullptr || model()->rowCount() > 0)

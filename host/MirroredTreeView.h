@@ -4,14 +4,14 @@
 
 #include <QTreeView>
 
-/// The view of the upper levels of the chart of accounts. Arrows are mirrored: Left opens an account and goes
-/// under it, Right goes back up. Says why it is empty.
-class HOST_EXPORT TAccountTreeView : public QTreeView
+/// A tree read from right to left. Arrows are mirrored: Left opens a row and goes under it, Right goes back up.
+/// Says why it is empty.
+class HOST_EXPORT TMirroredTreeView : public QTreeView
 {
     Q_OBJECT
 
 public:
-    explicit TAccountTreeView(QWidget* parent = nullptr);
+    explicit TMirroredTreeView(QWidget* parent = nullptr);
 
     QString EmptyText() const { return emptyText_; }
     void SetEmptyText(const QString& text);
@@ -21,7 +21,7 @@ public:
     void keyboardSearch(const QString& search) override;
 
 Q_SIGNALS:
-    void deeper();    ///< Left on an account that has nothing under it here
+    void deeper();    ///< Left on a row that has nothing under it here
     void rowChosen(); ///< double click on a row
     void currentMoved();
 
