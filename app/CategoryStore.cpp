@@ -41,7 +41,7 @@ QString UseInWords(const TCategoryUse& use)
     add(use.Goods, QStringLiteral("دستهٔ %1 کالا است"));
     add(use.Persons, QStringLiteral("دستهٔ %1 شخص است"));
     add(use.Defaults, QStringLiteral("پیش‌فرض %1 کاربر است"));
-    return parts.join(QStringLiteral("، "));
+    return parts.join(QStringLiteral(" و "));
 }
 
 QString DefaultColumn(TCategoryStore::TListKind kind)

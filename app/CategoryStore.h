@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CategoryTree.h"
+
 #include <functional>
 #include <QString>
 #include <QVariantList>
@@ -8,14 +10,6 @@
 
 class TADOConnection;
 class TADOQuery;
-
-/// A category as the table has it; ParentId is 0 at the top level.
-struct TCategoryRow
-{
-    int Id = 0;
-    int ParentId = 0;
-    QString Name;
-};
 
 /// What hangs on a category.
 struct TCategoryUse
