@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 #include <QApplication>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -58,7 +59,7 @@ public:
             return entries_[entry].DisplayText;
         const int image = entries_[entry].ImageIndex;
         if (role == Qt::DecorationRole && image >= 0 && image < images_.size())
-            return QPixmap::fromImage(images_.at(image));
+            return QIcon(QPixmap::fromImage(images_.at(image)));
         return {};
     }
 

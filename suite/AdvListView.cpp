@@ -82,7 +82,6 @@ void TAdvListEditorPer::TPrivate::Arrange()
     Measure();
     layout.Arrange(Row(Inner().width()));
     ScrollToBox();
-    line->setGeometry(OnScreen(layout.Box()));
     if (const int count = maxLines > 1 ? layout.LineCount() : 1; count != lines) {
         lines = count;
         editor->updateGeometry();
@@ -93,21 +92,16 @@ void TAdvListEditorPer::TPrivate::ScrollToBox()
 {
     const QRect box = layout.Box();
     const QSize room = Inner().size();
-    const QSize content = layout.Size();
-    // The neighbour towards which the caret goes is to be seen too, so some room is kept on both sides.
-    const int margin = qMin(8 * Look::Unit, room.width() / 4);
-    const int left = qMax(0, box.left() - margin);
-    const int right = qMin(content.width(), box.right() + 1 + margin);
-    int x = scroll.x();
-    if (right - x > room.width())
-        x = right - room.width();
-    x = qMin(x, left);
-    int y = scroll.y();
-    if (box.bottom() + 1 - y > room.height())
-        y = box.bottom() + 1 - room.height();
-    y = qMin(y, box.top());
-    scroll = {qBound(0, x, qMax(0, content.width() - room.width())),
-              qBound(0, y, qMax(0, content.height() - room.height()))};
+    // The bubbles on both sides of the caret are to be seen too, as far as there is room for them.
+    int left = caret > 0 ? layout.Bubble(caret - 1).left() : 0;
+    int right = (caret < values.Count() ? layout.Bubble(caret).right() : box.right()) + 1;
+    if (maxLines > 1 || right - left > room.width()) {
+        left = box.left();
+        right = box.left() + qMin(box.width(), room.width());
+    }
+    scroll.setX(qMin(qMax(scroll.x(), right - room.width()), left));
+    scroll.setY(qMin(qMax(scroll.y(), box.bottom() + 1 - room.height()), box.top()));
+    ScrollBy({});
 }
 
 void TAdvListEditorPer::TPrivate::ScrollBy(const QPoint& distance)

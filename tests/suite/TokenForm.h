@@ -26,10 +26,11 @@ struct TTokenForm
         editor.setFocus();
     }
 
-    bool Show()
+    bool Show() { return ShowWith(editor); }
+    bool ShowWith(const QWidget& focus)
     {
         window.show();
-        return ActiveWindow::Activate(&window) && QTest::qWaitFor([this] { return editor.hasFocus(); });
+        return ActiveWindow::Activate(&window) && QTest::qWaitFor([&] { return focus.hasFocus(); });
     }
 
     /// Items named by the words of a text, with the values 1, 2, 3 and so on; caret behind them.
