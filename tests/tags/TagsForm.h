@@ -66,7 +66,7 @@ struct TTagsForm
     }
     static QString Records(const QString& keys)
     {
-        return QStringLiteral("select tags from Goods where Id in(%1)")
+        return QStringLiteral("select tags from Goods where Id in(%1) order by Id")
             .arg(keys.isEmpty() ? QStringLiteral("-1") : keys);
     }
 
