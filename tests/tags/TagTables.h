@@ -5,9 +5,11 @@
 #include "ADOQuery.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImage>
 
-/// A small database in memory with colours, tags, and a table of records that carry tags.
+/// A small database with three colours (1 red, 2 blue, 3 green), tags, and a table of records that carry
+/// tags.
 struct TTagTables
 {
     TADOConnection Connection;
@@ -15,18 +17,18 @@ struct TTagTables
     TADOCommand Command;
     QStringList Statements; ///< what has been sent since the last time that Sent() was called
 
-    TTagTables()
+    /// In memory, or in a file, which is made where it is missing.
+    explicit TTagTables(const QString& file = QString())
     {
-        Connection.SetConnectionString(QStringLiteral("sqlite::memory:"));
+        TEngineOptions options;
+        options.CreateMissing = true;
+        Connection.SetOptions(options);
+        const bool isNew = file.isEmpty() || !QFileInfo::exists(file);
+        Connection.SetConnectionString(QStringLiteral("sqlite:") +
+                                       (file.isEmpty() ? QStringLiteral(":memory:") : file));
         Connection.Open();
-        for (const QString& statement :
-             {QStringLiteral(
-                  "CREATE TABLE colors (code int NOT NULL PRIMARY KEY, cl_code nvarchar(50) NOT NULL, "
-                  "[h-img] varbinary(max) NULL, [l-img] varbinary(max) NULL)"),
-              QStringLiteral("CREATE TABLE TagS (Code int NOT NULL PRIMARY KEY, Name nvarchar(50) NOT NULL, "
-                             "color_code int NOT NULL)"),
-              QStringLiteral("CREATE TABLE Goods (Id int NOT NULL PRIMARY KEY, tags nvarchar(max) NULL)")})
-            Connection.Execute(statement);
+        if (isNew)
+            MakeTables();
         Query.SetConnection(&Connection);
         Command.SetConnection(&Connection);
         Connection.OnWillExecute = [this](TADOConnection*, const QString& text) { Statements.append(text); };
@@ -80,5 +82,21 @@ struct TTagTables
         buffer.open(QIODevice::WriteOnly);
         image.save(&buffer, "PNG");
         return bytes;
+    }
+
+private:
+    void MakeTables()
+    {
+        for (const QString& statement :
+             {QStringLiteral(
+                  "CREATE TABLE colors (code int NOT NULL PRIMARY KEY, cl_code nvarchar(50) NOT NULL, "
+                  "[h-img] varbinary(max) NULL, [l-img] varbinary(max) NULL)"),
+              QStringLiteral("CREATE TABLE TagS (Code int NOT NULL PRIMARY KEY, Name nvarchar(50) NOT NULL, "
+                             "color_code int NOT NULL)"),
+              QStringLiteral("CREATE TABLE Goods (Id int NOT NULL PRIMARY KEY, tags nvarchar(max) NULL)")})
+            Connection.Execute(statement);
+        AddColor(1, QStringLiteral("clRed"), QColor(208, 48, 48));
+        AddColor(2, QStringLiteral("$00C06020"), QColor(32, 96, 192));
+        AddColor(3, QStringLiteral("32768"), QColor(0, 128, 0));
     }
 };

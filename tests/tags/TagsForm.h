@@ -12,8 +12,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-/// A form with the tags frame and a button behind it, on a small database of three colours (1 red, 2 blue,
-/// 3 green) whose tags and goods the test adds.
+/// A form with the tags frame and a button behind it, on a small database whose tags and goods the test adds.
 struct TTagsForm
 {
     static constexpr int Colors = 3;
@@ -24,15 +23,11 @@ struct TTagsForm
     TTags* Frame = nullptr;
     QPushButton* Other = nullptr;
 
-    TTagsForm()
+    explicit TTagsForm(const QString& file = QString()) : Tables(file)
     {
         Host.DM.Connection = &Tables.Connection;
         Host.DM.Query = &Tables.Query;
         Host.DM.Command = &Tables.Command;
-        Tables.AddColor(1, QStringLiteral("clRed"), QColor(208, 48, 48));
-        Tables.AddColor(2, QStringLiteral("$00C06020"), QColor(32, 96, 192));
-        Tables.AddColor(3, QStringLiteral("32768"), QColor(0, 128, 0));
-        Tables.Sent();
         auto* const layout = new QVBoxLayout(Form.get());
         Frame = new TTags(Form.get());
         Other = new QPushButton(QStringLiteral("بستن"), Form.get());
