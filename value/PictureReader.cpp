@@ -35,11 +35,20 @@ QImage ReadBounded(QImageReader& reader, TFormat format)
     reader.setFormat(format == TFormat::Jpeg ? QByteArrayLiteral("jpeg") : QByteArrayLiteral("png"));
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (size.isEmpty() || PixelsOf(size) > PictureReader::MostPixelsToRead)
+    const qint64 most =
+        format == TFormat::Jpeg ? PictureReader::MostJpegPixels : PictureReader::MostPngPixels;
+    if (size.isEmpty() || PixelsOf(size) > most)
         return {};
-    if (PixelsOf(size) > PictureReader::MostPixels)
+    if (PixelsOf(size) <= PictureReader::MostPixels)
+        return reader.read();
+    if (format == TFormat::Jpeg) {
         reader.setScaledSize(ReducedSize(size));
-    return reader.read();
+        return reader.read();
+    }
+    // The decoder of PNG is much slower where it makes a picture smaller itself.
+    const QImage whole = reader.read();
+    return whole.isNull() ? whole
+                          : whole.scaled(ReducedSize(size), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace

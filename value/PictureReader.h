@@ -14,8 +14,9 @@ enum class TFormat { None, Jpeg, Png };
 
 /// Larger pictures are made smaller while they are read, to this many pixels at most.
 constexpr qint64 MostPixels = 16 << 20;
-/// Larger pictures are not read at all.
-constexpr qint64 MostPixelsToRead = 600'000'000;
+/// Larger pictures are not read at all, because the user would wait for seconds.
+constexpr qint64 MostJpegPixels = 600'000'000;
+constexpr qint64 MostPngPixels = 32 << 20;
 /// Longer files are not read at all.
 constexpr qint64 MostBytes = 256LL << 20;
 
