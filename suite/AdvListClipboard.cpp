@@ -54,10 +54,12 @@ QString TAdvListEditorPer::TPrivate::SelectedText() const
     return texts.join(separator.isNull() ? QChar(u'\n') : separator);
 }
 
-void TAdvListEditorPer::TPrivate::Copy() const
+bool TAdvListEditorPer::TPrivate::Copy() const
 {
-    if (HasSelection() || line->hasSelectedText())
+    const bool selected = HasSelection() || line->hasSelectedText();
+    if (selected)
         QGuiApplication::clipboard()->setText(SelectedText());
+    return selected;
 }
 
 void TAdvListEditorPer::TPrivate::Cut()

@@ -28,7 +28,7 @@ void TAdvListEditorPer::TPrivate::Remove(int first, int last)
         stroke.RemovedItem = removed.DisplayText + u',' + removed.Value;
         KeepStroke();
     }
-    MoveCaret(first, false);
+    HideCompletion();
     values.DeleteRange(first, last);
 }
 

@@ -51,6 +51,8 @@ void TAdvListEditorPer::TPrivate::ItemsChanged(TAdvListValues::TChange change, i
     ShowPlaceholder();
     Invalidate();
     TellItems(change, index);
+    if (change == TChange::Removed)
+        TellFocus();
     Q_EMIT editor->valuesChanged();
 }
 

@@ -81,7 +81,8 @@ public:
     void SetEditText(const QString& text);
     /// Empties the typed text; the items stay.
     void clear();
-    /// Brings the typed text up to date for its owner and decides StateFlag(). Makes no item of the text.
+    /// Settles the typed text for its owner: decides StateFlag(). EditText() is up to date with or without
+    /// it, and the text becomes no item.
     void Getvalue();
     /// True where the typed text may be completed by suggestions: false after a Getvalue() on a disabled or
     /// read-only editor, true after any other and before the first.
@@ -120,8 +121,7 @@ public:
 
     /// The direction of the row; from right to left is the default.
     void SetRightToLeft(bool on);
-    /// The pictures that items show by their ImageIndex, scaled down to the height of the text. The images
-    /// are implicitly shared; handing over the same list again costs nothing.
+    /// The pictures that items show by their ImageIndex, scaled down to the height of the text.
     void SetImages(const QVector<QImage>& images);
     const QVector<QImage>& Images() const;
     /// The ground as 0x00BBGGRR, taken as it is, except white (0xFFFFFF, the default), which is the look's

@@ -44,7 +44,6 @@ struct TAdvListEditorPer::TPrivate
     // AdvListEditorPer.cpp
     void ItemsChanged(TAdvListValues::TChange change, int index, int count);
     bool CanChange() const { return editor->isEnabled() && !readOnly; }
-    bool Follows(const QMouseEvent* event);
 
     // AdvListView.cpp: from the items to the screen
     void Invalidate();
@@ -65,6 +64,7 @@ struct TAdvListEditorPer::TPrivate
     TAdvListBubble Bubble(int index);
     int BubbleAt(const QPoint& point, bool* onMark = nullptr);
     void Paint(QPainter& painter);
+    void PaintCaret(QPainter& painter, const TAdvListColors& colors) const;
     void PaintFades(QPainter& painter, const TAdvListColors& colors) const;
     QString ToolTipAt(const QPoint& point);
 
@@ -102,7 +102,7 @@ struct TAdvListEditorPer::TPrivate
 
     // AdvListClipboard.cpp
     QString SelectedText() const;
-    void Copy() const;
+    bool Copy() const;
     void Cut();
     void DeleteSelected();
     void Paste(const QString& text);
@@ -110,6 +110,7 @@ struct TAdvListEditorPer::TPrivate
     void ShowMenu(const QPoint& position);
 
     // AdvListMouse.cpp
+    bool TellPress(const QMouseEvent& event) const;
     void Press(const QMouseEvent& event);
     void PressBubble(int bubble, bool extends);
     void Drag(const QPoint& point);

@@ -43,8 +43,9 @@ void TAdvListEditorPer::TPrivate::KeepStroke()
 
 void TAdvListEditorPer::TPrivate::EndStroke(const QKeyEvent& event)
 {
-    if (!event.isAutoRepeat() && held.contains(event.key()))
-        stroke = held.take(event.key());
+    // A key that was pressed elsewhere has done nothing here.
+    if (!event.isAutoRepeat())
+        stroke = held.contains(event.key()) ? held.take(event.key()) : TStroke{values.Count(), -1, {}, false};
 }
 
 bool TAdvListEditorPer::TPrivate::HandleKey(QKeyEvent* event)
@@ -83,6 +84,9 @@ bool TAdvListEditorPer::TPrivate::HandleCommand(const QKeyEvent& event)
         SelectAll();
     else if (event.matches(QKeySequence::Copy))
         Copy();
+    else if (event.matches(QKeySequence::Cut) && event.key() == Qt::Key_Delete)
+        // Shift+Delete is a stroke of Delete already: it goes on to erase what is copied here.
+        return !Copy();
     else if (event.matches(QKeySequence::Cut))
         Cut();
     else if (event.matches(QKeySequence::Paste))

@@ -56,8 +56,10 @@ void TAdvListLine::focusInEvent(QFocusEvent* event)
 {
     const QPointer<TAdvListLine> alive = this;
     QLineEdit::focusInEvent(event);
-    // A caret that Tab brings comes to a text to go on with, not to replace.
-    deselect();
+    // The caret comes to a text to go on with it, not to replace it.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::ShortcutFocusReason)
+        deselect();
     editor_->update();
     ControlDispatch::FocusIn(editor_, *editor_, event);
     if (alive)
@@ -72,27 +74,21 @@ void TAdvListLine::focusOutEvent(QFocusEvent* event)
         return;
     TAdvListEditorPer::TPrivate& d = *editor_->d;
     d.HideCompletion();
-    d.held.clear();
-    if (ControlDispatch::MovesBetweenControls(event))
+    if (ControlDispatch::MovesBetweenControls(event)) {
+        d.held.clear();
         d.MoveCaret(d.caret, false);
+    }
     editor_->update();
     ControlDispatch::FocusOut(editor_, *editor_, event);
 }
 
 void TAdvListLine::mousePressEvent(QMouseEvent* event)
 {
-    const QPointer<TAdvListLine> alive = this;
-    if (!editor_->d->Follows(event) || !alive)
+    if (!editor_->d->TellPress(*event))
         return;
     if (event->button() == Qt::LeftButton)
         editor_->d->MoveCaret(editor_->d->caret, event->modifiers().testFlag(Qt::ShiftModifier));
     QLineEdit::mousePressEvent(event);
-}
-
-void TAdvListLine::mouseMoveEvent(QMouseEvent* event)
-{
-    QLineEdit::mouseMoveEvent(event);
-    event->accept();
 }
 
 void TAdvListLine::mouseReleaseEvent(QMouseEvent* event)

@@ -3,16 +3,16 @@
 #include <QApplication>
 #include <QMouseEvent>
 
-// Whether the editor is still there and the press still its own after the owner has heard of it.
-bool TAdvListEditorPer::TPrivate::Follows(const QMouseEvent* event)
+// Whether the editor is still there after its owner has heard of the press.
+bool TAdvListEditorPer::TPrivate::TellPress(const QMouseEvent& event) const
 {
     // A copy, because the handler may replace or clear itself, or destroy the editor.
     const TMouseDownEvent running = editor->OnMouseDown;
     if (!running)
         return true;
     const QPointer<TAdvListEditorPer> alive = editor;
-    const QPoint point = editor->mapFromGlobal(event->globalPosition().toPoint());
-    running(editor, event->button(), event->modifiers(), point.x(), point.y());
+    const QPoint point = editor->mapFromGlobal(event.globalPosition().toPoint());
+    running(editor, event.button(), event.modifiers(), point.x(), point.y());
     return alive;
 }
 
@@ -23,7 +23,7 @@ void TAdvListEditorPer::TPrivate::Press(const QMouseEvent& event)
     bool onMark = false;
     BubbleAt(point, &onMark);
     onMark = onMark && event.button() == Qt::LeftButton && CanChange();
-    if (!onMark && !Follows(&event))
+    if (!onMark && !TellPress(event))
         return;
     if (event.button() != Qt::LeftButton)
         return;

@@ -212,6 +212,7 @@ void TAdvListEditorPer::TPrivate::Paint(QPainter& painter)
     const auto [first, last] = layout.Within({scroll, inner.size()});
     for (int index = first; index < last; ++index)
         Bubble(index).Paint(painter, editor->palette(), colors);
+    PaintCaret(painter, colors);
     PaintFades(painter, colors);
     if (press.DropPlace >= 0) {
         const int count = values.Count();
@@ -221,6 +222,16 @@ void TAdvListEditorPer::TPrivate::Paint(QPainter& painter)
                                       Look::Color(Look::TRole::Accent));
     }
     painter.restore();
+}
+
+// The toolkit's line shows none while it is read-only.
+void TAdvListEditorPer::TPrivate::PaintCaret(QPainter& painter, const TAdvListColors& colors) const
+{
+    if (!readOnly || !line->hasFocus() || HasSelection() || values.IsEmpty())
+        return;
+    const QRect box = layout.Box();
+    const int x = caret < values.Count() ? box.center().x() : box.left();
+    painter.fillRect(OnScreen({x, box.top() + Look::Unit, 1, box.height() - 2 * Look::Unit}), colors.Text);
 }
 
 void TAdvListEditorPer::TPrivate::PaintFades(QPainter& painter, const TAdvListColors& colors) const
