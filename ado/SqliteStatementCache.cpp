@@ -2,6 +2,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr qsizetype MostCharacters = 1'000'000;
+
+} // namespace
+
 TSqliteStatementCache::TSqliteStatementCache(int capacity, TPrepare prepare)
     : capacity_(static_cast<std::size_t>(capacity)), prepare_(std::move(prepare))
 {
@@ -17,12 +23,11 @@ TSqliteStatement* TSqliteStatementCache::Take(const QString& text)
         statement = found->second.get();
     } else {
         std::unique_ptr<TSqliteStatement> prepared = prepare_(text);
-        if (kept_.size() >= capacity_)
-            EvictOldest();
-        if (kept_.size() >= capacity_)
+        if (!MakeRoom(text.size()))
             return Lend(std::move(prepared));
         statement = prepared.get();
         statement->Kept = true;
+        characters_ += text.size();
         kept_.emplace(text, std::move(prepared));
     }
     statement->InUse = true;
@@ -49,7 +54,17 @@ void TSqliteStatementCache::Give(TSqliteStatement* statement)
     std::erase_if(lent_, [statement](const auto& lent) { return lent.get() == statement; });
 }
 
-void TSqliteStatementCache::EvictOldest()
+bool TSqliteStatementCache::MakeRoom(qsizetype characters)
+{
+    if (characters > MostCharacters)
+        return false;
+    bool isRoom = true;
+    while (isRoom && (kept_.size() >= capacity_ || characters_ + characters > MostCharacters))
+        isRoom = EvictOldest();
+    return isRoom;
+}
+
+bool TSqliteStatementCache::EvictOldest()
 {
     auto oldest = kept_.end();
     for (auto candidate = kept_.begin(); candidate != kept_.end(); ++candidate) {
@@ -57,8 +72,11 @@ void TSqliteStatementCache::EvictOldest()
         if (!candidate->second->InUse && older)
             oldest = candidate;
     }
-    if (oldest != kept_.end())
-        kept_.erase(oldest);
+    if (oldest == kept_.end())
+        return false;
+    characters_ -= oldest->first.size();
+    kept_.erase(oldest);
+    return true;
 }
 
 void TSqliteStatementCache::Clear()
@@ -70,4 +88,5 @@ void TSqliteStatementCache::Clear()
         }
     }
     kept_.clear();
+    characters_ = 0;
 }

@@ -7,7 +7,8 @@
 #include <vector>
 
 /// Prepared statements by the text they were prepared from, the longest unused one leaving first. A statement
-/// in use is never handed out twice: a second user gets one of his own.
+/// in use is never handed out twice: a second user gets one of his own. The texts are bounded together too: a
+/// statement on 100,000 keys takes some ten megabytes.
 class TSqliteStatementCache
 {
 public:
@@ -24,9 +25,12 @@ public:
 
 private:
     TSqliteStatement* Lend(std::unique_ptr<TSqliteStatement> statement);
-    void EvictOldest();
+    /// False where there is none to be had.
+    bool MakeRoom(qsizetype characters);
+    bool EvictOldest();
 
     std::size_t capacity_;
+    qsizetype characters_ = 0; ///< of the kept texts
     TPrepare prepare_;
     quint64 uses_ = 0;
     std::unordered_map<QString, std::unique_ptr<TSqliteStatement>> kept_;

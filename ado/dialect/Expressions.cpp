@@ -2,6 +2,8 @@
 
 #include "Select.h"
 
+#include <algorithm>
+
 namespace Dialect {
 
 namespace {
@@ -35,6 +37,15 @@ bool IsSumSign(const TToken& token)
 bool IsProductSign(const TToken& token)
 {
     return token.Is(TSymbol::Star) || token.Is(TSymbol::Slash) || token.Is(TSymbol::Percent);
+}
+
+/// A whole number that stands for an int as it is written.
+bool IsPlainKey(const TToken& token)
+{
+    constexpr qsizetype SurelyInt = 9;
+    return token.Kind == TTokenKind::Number && token.Raw.size() <= SurelyInt &&
+           std::all_of(token.Raw.begin(), token.Raw.end(),
+                       [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
 }
 
 bool StartsSelect(const TToken& token)
@@ -146,6 +157,9 @@ TPiece TExpressions::InList(const TPiece& left, bool isNegated)
     cursor_.Expect(TSymbol::OpenBracket);
     if (StartsSelect(cursor_.Peek()))
         return InSelect(left, operation);
+    const bool comparesWhole = left.CarriesCollation && left.Type.IsWhole();
+    if (const QString keys = comparesWhole ? KeysInBrackets() : QString(); !keys.isEmpty())
+        return ConditionPiece(left.Sql + operation + keys + u')');
     const QVector<TPiece> others = ValuesInBrackets();
     TType common = left.Type;
     for (const TPiece& other : others)
@@ -399,6 +413,26 @@ TPiece TExpressions::Case()
     if (results.size() > conditions.size())
         sql += QLatin1String(" ELSE ") + Unified(results.last(), common).Sql;
     return WholePiece(sql + QLatin1String(" END"), common);
+}
+
+/// Keys come by the hundred thousand; a piece for each would take as long as the statement itself.
+QString TExpressions::KeysInBrackets()
+{
+    const std::size_t start = cursor_.Position();
+    QString keys;
+    do {
+        if (!IsPlainKey(cursor_.Peek())) {
+            cursor_.MoveTo(start);
+            return {};
+        }
+        if (!keys.isEmpty())
+            keys += QLatin1String(", ");
+        keys += cursor_.Take().Raw;
+    } while (cursor_.Accept(TSymbol::Comma));
+    if (cursor_.Accept(TSymbol::CloseBracket))
+        return keys;
+    cursor_.MoveTo(start);
+    return {};
 }
 
 QVector<TPiece> TExpressions::ValuesInBrackets()

@@ -22,6 +22,9 @@ public:
     const TScope& Scope() const { return scope_; }
     /// Values up to and including the closing bracket.
     QVector<TPiece> ValuesInBrackets();
+    /// A list of plain whole numbers up to its closing bracket. Empty, and nothing is read, where it is
+    /// another list.
+    QString KeysInBrackets();
     /// A server type with its length; the next tokens must be one.
     TType TypeName(int textLength);
 

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void theRowsWrittenAreCounted();
     void aTextRunsAgainWithOtherValues();
     void manyTextsAreKeptAndTheOldestLeave();
+    void longTextsComeAndGo();
     void aSecondStatementInATextIsRefused_data();
     void aSecondStatementInATextIsRefused();
     void anEmptyTextIsRefused();
@@ -106,6 +107,20 @@ void StatementsTest::manyTextsAreKeptAndTheOldestLeave()
             const QString text = QStringLiteral("SELECT Code FROM Goods WHERE Code = %1").arg(i);
             QCOMPARE(Column(text).size(), i >= 1 && i <= 3 ? 1 : 0);
         }
+    }
+}
+
+void StatementsTest::longTextsComeAndGo()
+{
+    QStringList keys;
+    for (int code = 1; code <= 100000; ++code)
+        keys.append(QString::number(code));
+    const QString all = keys.join(u',');
+    const QString text = QStringLiteral("SELECT Code FROM Goods WHERE Code IN(%1) ORDER BY Code");
+    // More than are kept together, and one that alone is too long for that.
+    for (const QString& list : {all, QStringLiteral("7,") + all, all + u',' + all, all}) {
+        const QVariantList codes = Column(text.arg(list));
+        QCOMPARE(codes, (QVariantList{1, 2, 3}));
     }
 }
 

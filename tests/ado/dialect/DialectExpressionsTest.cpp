@@ -178,6 +178,11 @@ void DialectExpressionsTest::aConditionFindsTheServersRows_data()
     StatementRow("not like", QStringLiteral("name NOT LIKE N'%ا%' AND id > 3"), {"4", "7", "9"});
     StatementRow("in", QStringLiteral("name IN (N'گل', N'AXB')"), {"4", "9"});
     StatementRow("not in", QStringLiteral("id NOT IN (1,2,3,4,5,6,7)"), {"8", "9"});
+    StatementRow("in among keys with leading zeros", QStringLiteral("id IN (002,3)"), {"2", "3"});
+    StatementRow("in among keys and others", QStringLiteral("id IN (2, 3.0, '4', 4+1, 12345678901)"),
+                 {"2", "3", "4", "5"});
+    StatementRow("in among keys and NULL", QStringLiteral("id IN (2, NULL)"), {"2"});
+    StatementRow("text in among keys", QStringLiteral("id < 3 AND '00' + '2' IN (2, 3)"), {"1", "2"});
     StatementRow("number in text", QStringLiteral("id = '4'"), {"4"});
     StatementRow("like on a number", QStringLiteral("id LIKE '[12]'"), {"1", "2"});
     StatementRow("order of letters", QStringLiteral("name > N'ک' AND name < N'ل'"), {"4", "5", "6"});
