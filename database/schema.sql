@@ -423,6 +423,17 @@ CREATE TABLE dbo.TradeRows (
   PRIMARY KEY (TradeId, RowNo)
 )
 GO
+-- Goods found missing (below 0) or left over when the stock was counted.
+CREATE TABLE dbo.StockCorrections (
+  Id int IDENTITY(1,1) NOT NULL PRIMARY KEY,
+  KalaCode int NOT NULL REFERENCES dbo.kala (Code),
+  CorrectionDate nvarchar(10) NOT NULL,
+  Quantity decimal(18,3) NOT NULL,
+  Sharh nvarchar(200) NULL,
+  UserCode int NOT NULL REFERENCES dbo.users (Code),
+  RegisteredAt datetime NOT NULL
+)
+GO
 CREATE TABLE dbo.AutoVoucherSetting (
   Id int IDENTITY(1,1) NOT NULL PRIMARY KEY,
   Operation nvarchar(100) NOT NULL,
@@ -553,6 +564,8 @@ GO
 CREATE INDEX IX_Trades_Person ON dbo.Trades (PersonCode, Id)
 GO
 CREATE INDEX IX_TradeRows_Kala ON dbo.TradeRows (KalaCode, TradeId)
+GO
+CREATE INDEX IX_StockCorrections_Kala ON dbo.StockCorrections (KalaCode, CorrectionDate)
 GO
 
 -- Views: what lists and reports read.

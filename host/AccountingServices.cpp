@@ -2,10 +2,11 @@
 
 #include "AccountLevels.h"
 #include "AccountNames.h"
+#include "AutoVoucherRun.h"
 #include "Codes.h"
-#include "NotOffered.h"
 
-THostAccounting::THostAccounting(TADOConnection& connection) : connection_(&connection)
+THostAccounting::THostAccounting(TADOConnection& connection)
+    : connection_(&connection), conflictCheck_(connection)
 {
 }
 
@@ -40,21 +41,21 @@ QString THostAccounting::GetHesabName(const QString& total, const QString& assis
 
 bool THostAccounting::VoucherConflicts()
 {
-    throw EServiceNotOffered("VoucherConflicts");
+    return conflictCheck_.Conflicts();
 }
 
 bool THostAccounting::ExistRefreshAutoVoucher()
 {
-    throw EServiceNotOffered("ExistRefreshAutoVoucher");
+    return TAutoVouchers::AnyAwaiting(*connection_);
 }
 
-void THostAccounting::SaveAutoVouchersAgain(const QString& /*from*/, const QString& /*to*/,
-                                            const QString& /*kinds*/, int /*number*/)
+void THostAccounting::SaveAutoVouchersAgain(const QString& from, const QString& to, const QString& kinds,
+                                            int number)
 {
-    throw EServiceNotOffered("SaveAutoVouchersAgain");
+    AutoVoucherRun::SaveAgain({from, to, kinds, number});
 }
 
-void THostAccounting::VoucherConflictThread_Start(QWidget* /*control*/)
+void THostAccounting::VoucherConflictThread_Start(QWidget* control)
 {
-    throw EServiceNotOffered("VoucherConflictThread_Start");
+    conflictCheck_.Start(control);
 }

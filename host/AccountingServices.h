@@ -2,10 +2,11 @@
 
 #include "HostAccounting.h"
 #include "HostExport.h"
+#include "VoucherConflictCheck.h"
 
 class TADOConnection;
 
-/// Codes of the chart of accounts. The services around automatic vouchers throw EServiceNotOffered.
+/// Codes of the chart of accounts, and automatic vouchers.
 class HOST_EXPORT THostAccounting : public IAccounting
 {
 public:
@@ -23,10 +24,16 @@ public:
                          THesabType kind, bool& found) override;
     bool VoucherConflicts() override;
     bool ExistRefreshAutoVoucher() override;
+    /// `from` and `to` are dates of the operations, yyyy/mm/dd; `kinds` their ordinals between commas;
+    /// `number` that of the voucher. The user sees progress where it takes long, and a message about what was
+    /// left.
     void SaveAutoVouchersAgain(const QString& from, const QString& to, const QString& kinds,
                                int number) override;
     void VoucherConflictThread_Start(QWidget* control) override;
 
+    TVoucherConflictCheck& ConflictCheck() { return conflictCheck_; }
+
 private:
     TADOConnection* connection_;
+    TVoucherConflictCheck conflictCheck_;
 };

@@ -29,6 +29,7 @@ public:
     THostClock& Clock() { return clock_; }
     THostMessages& Messages() { return messages_; }
     TCodeLocks& CodeLocks() { return codeLocks_; }
+    TVoucherConflictCheck& VoucherConflictCheck() { return accounting_.ConflictCheck(); }
 
 private:
     THostSettings* settings_;

@@ -81,7 +81,6 @@ private Q_SLOTS:
         THostSettings settings(folder_.filePath(QStringLiteral("settings.ini")));
         const TReferenceHost host(connection, settings);
         QVERIFY(MissingService([] { Host().Pickers.Call_insert_tags({}, 1); }).contains("Call_insert_tags"));
-        QVERIFY(MissingService([] { Host().Accounting.VoucherConflicts(); }).contains("VoucherConflicts"));
     }
 
 private:
