@@ -10,10 +10,18 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# The target all_verify_interface_header_sets compiles every public header alone.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+# The target all_verify_interface_header_sets compiles every public header alone.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 # Libraries and programs stand in two folders, as they do when installed, so that
 # run-time libraries are found the same way in both places.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+# Installed programs find the libraries beside them wherever the whole is put.
+file(RELATIVE_PATH library_folder "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${library_folder}")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

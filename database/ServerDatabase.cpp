@@ -69,12 +69,15 @@ QString ServerDatabase::CollationWarning(TADOConnection& connection)
             return {};
         const QString name = rows->Text(0);
         const qint64 codePage = rows->Int64(1);
-        if (codePage == PersianCodePage || codePage == Utf8CodePage)
+        if (codePage == Utf8CodePage)
             return {};
-        return QStringLiteral(
-                   "کولیشن پایگاه دادهٔ سرور «%1» است و حرف‌های فارسی در بخشی از نوشته‌ها به نشانهٔ پرسش "
-                   "بدل می‌شود. پایگاه داده را با کولیشن Persian_100_CI_AS بسازید.")
-            .arg(name);
+        // Code page 1256 has ک, گ, چ, پ and ژ, but of the two letters that look like ی only the Arabic one.
+        const QString loss = codePage == PersianCodePage
+                                 ? QStringLiteral("حرف «ی» در بخشی از نوشته‌ها به «ي» بدل می‌شود")
+                                 : QStringLiteral("حرف‌های فارسی در بخشی از نوشته‌ها به نشانهٔ پرسش بدل می‌شود");
+        return QStringLiteral("کولیشن پایگاه دادهٔ سرور «%1» است و %2. پایگاه داده را با کولیشن "
+                              "Persian_100_CI_AS_SC_UTF8 بسازید.")
+            .arg(name, loss);
     } catch (const EADOError& error) {
         if (!IsAnswerOfTheDatabase(error))
             throw;

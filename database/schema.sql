@@ -1,4 +1,5 @@
--- The tables of the accounting database: SQL Server 2017 and later, in a database of collation Persian_100_CI_AS.
+-- The tables of the accounting database: SQL Server 2019 and later, in a database of collation
+-- Persian_100_CI_AS_SC_UTF8.
 -- One statement to a batch. Tables come first, then indexes, then views, so that a large database can be filled
 -- between the tables and the indexes. functions.sql is run after this file on SQL Server.
 --

@@ -5,9 +5,14 @@
 #include <algorithm>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QScopeGuard>
+
+#if defined(Q_OS_UNIX)
+#include <dlfcn.h>
+#endif
 
 namespace {
 
@@ -46,11 +51,13 @@ THostLibraries::~THostLibraries() = default;
 
 QString THostLibraries::DefaultFolder()
 {
-#if defined(Q_OS_WIN)
-    return QCoreApplication::applicationDirPath();
-#else
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib"));
+#if defined(Q_OS_UNIX)
+    static const char inThisLibrary = 0;
+    Dl_info place{};
+    if (dladdr(&inThisLibrary, &place) != 0)
+        return QFileInfo(QFile::decodeName(place.dli_fname)).absolutePath();
 #endif
+    return QCoreApplication::applicationDirPath();
 }
 
 // The whole path, and only of a file that is there: a bare name would be sought along the system's paths.

@@ -23,8 +23,8 @@ public:
     THostLibraries& operator=(const THostLibraries&) = delete;
     ~THostLibraries() override;
 
-    /// Where the application's own libraries stand: `lib` beside the program's folder, on Windows the
-    /// program's folder itself.
+    /// The folder that the reference host itself was loaded from, with which these libraries are installed; on
+    /// Windows the program's folder.
     static QString DefaultFolder();
 
     /// Each call that succeeds answers a handle of its own.
