@@ -1,5 +1,5 @@
-// A list of goods with a search bar, an entity selector and the condition in words: what an application needs to place
-// frames on a form of its own. The services that frames call come from the reference host.
+// A list of goods with a search bar, an entity selector and the condition in words: what an application needs
+// to place frames on a form of its own. The services that frames call come from the reference host.
 
 #include "DatabaseFile.h"
 #include "General_Search_UNT.h"
@@ -13,14 +13,15 @@
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 
+#include <chrono>
 #include <cstdio>
-#include <QStandardPaths>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize windowSize{900, 560};
-constexpr int answerMilliseconds = 10000;
+constexpr std::chrono::seconds patience{30};
 
 TSearchItem Item(const QString& title, const QString& column, TSearchDataType type)
 {
@@ -61,9 +62,10 @@ public:
                 [this] { words_->setText(manager_.ConditionInWords()); });
         TSearchItem name = Item(QStringLiteral("نام"), QStringLiteral("Name"), TSearchDataType::idtString);
         name.FoldedName = QStringLiteral("SearchName");
-        search_->TarvaSearch_General->SearchItems.Add(name);
-        search_->TarvaSearch_General->SearchItems.Add(
-            Item(QStringLiteral("قیمت"), QStringLiteral("Price"), TSearchDataType::idtMoney));
+        TSearchCollection& items = search_->TarvaSearch_General->SearchItems;
+        items.Clear();
+        items.Add(name);
+        items.Add(Item(QStringLiteral("قیمت"), QStringLiteral("Price"), TSearchDataType::idtMoney));
         search_->Refrenc_SearchManager = &manager_;
         search_->init();
 
@@ -82,15 +84,17 @@ public:
         rows_.SetDataSet(nullptr);
     }
 
-    // Types a word as the user would and tells what the list has become.
-    bool Describe(const QString& word)
+    // Searches for a word, tells how many goods hold it and ends the program.
+    void FindAndEnd(const QString& word)
     {
+        connect(&list_, &TPagedDataSet::countChanged, this, [this](int count, bool exact) {
+            if (!exact || manager_.Condition().isEmpty())
+                return;
+            std::printf("%s: %d\n", qUtf8Printable(manager_.ConditionInWords()), count);
+            QCoreApplication::exit(0);
+        });
+        QTimer::singleShot(patience, [] { QCoreApplication::exit(1); });
         search_->Search_EDT->SetText(word);
-        manager_.Flush();
-        if (!list_.WaitForFirstPage(answerMilliseconds))
-            return false;
-        std::printf("%s: %lld\n", qUtf8Printable(manager_.ConditionInWords()), qlonglong(list_.RecordCount()));
-        return true;
     }
 
 private:
@@ -119,6 +123,6 @@ int main(int argumentCount, char** arguments)
     TGoodsWindow window(connection);
     window.show();
     if (options.size() > 1)
-        return window.Describe(options[1]) ? 0 : 1;
+        window.FindAndEnd(options[1]);
     return QCoreApplication::exec();
 }
