@@ -1,21 +1,24 @@
 # Installs the build into a clean prefix, moves it, builds the example against it and runs it there.
 
-function(run)
-  cmake_parse_arguments(RUN "" "OUTPUT" "COMMAND" ${ARGN})
-  execute_process(COMMAND ${RUN_COMMAND} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE errors)
-  if(NOT code EQUAL 0)
-    message(FATAL_ERROR "${RUN_COMMAND}\nended with ${code}\n${output}\n${errors}")
-  endif()
-  if(RUN_OUTPUT)
-    set(${RUN_OUTPUT} "${output}" PARENT_SCOPE)
-  endif()
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 
 set(prefix "${WORK}/prefix")
 file(REMOVE_RECURSE "${prefix}" "${WORK}/first-prefix" "${WORK}/goods_list")
 run(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${WORK}/first-prefix")
 # Whatever remembers the first place does not work in the second one.
 file(RENAME "${WORK}/first-prefix" "${prefix}")
+
+# An installed header includes nothing that was left behind.
+file(GLOB headers "${prefix}/include/BaseFrame_PKG/*.h")
+foreach(header IN LISTS headers)
+  file(STRINGS "${header}" includes REGEX "^#include \"")
+  foreach(line IN LISTS includes)
+    string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" name "${line}")
+    if(NOT EXISTS "${prefix}/include/BaseFrame_PKG/${name}")
+      message(FATAL_ERROR "${header} includes ${name}, which is not installed: cmake/PublicHeaders.cmake")
+    endif()
+  endforeach()
+endforeach()
 
 run(COMMAND "${CMAKE_COMMAND}" -G Ninja -S "${SOURCE}/examples/goods_list" -B "${WORK}/goods_list"
   "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"

@@ -1,0 +1,27 @@
+# Packs the build as a Debian package, unpacks it and starts the workbench from there.
+
+include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
+
+set(folder "${WORK}/debian")
+file(REMOVE_RECURSE "${folder}")
+file(MAKE_DIRECTORY "${folder}")
+run(COMMAND "${CMAKE_CPACK_COMMAND}" -G DEB --config "${BUILD}/CPackConfig.cmake" -B "${folder}")
+file(GLOB package "${folder}/baseframe-pkg_*.deb")
+run(COMMAND dpkg-deb --field "${package}" Depends OUTPUT depends)
+foreach(needed IN ITEMS libqt6widgets6 libsqlite3-0 libodbc)
+  if(NOT depends MATCHES "${needed}")
+    message(FATAL_ERROR "The package does not depend on ${needed}: ${depends}")
+  endif()
+endforeach()
+run(COMMAND dpkg-deb --extract "${package}" "${folder}/root")
+set(ENV{QT_QPA_PLATFORM} offscreen)
+run(COMMAND "${folder}/root/usr/bin/workbench" --help OUTPUT help)
+if(NOT help MATCHES "--tour")
+  message(FATAL_ERROR "The packed workbench says: ${help}")
+endif()
+foreach(file IN ITEMS lib/cmake/BaseFrame_PKG/BaseFrame_PKGConfig.cmake include/BaseFrame_PKG/HostServices.h
+    share/BaseFrame_PKG/schema.sql)
+  if(NOT EXISTS "${folder}/root/usr/${file}")
+    message(FATAL_ERROR "The package lacks /usr/${file}")
+  endif()
+endforeach()

@@ -1,0 +1,11 @@
+# run(COMMAND ... [OUTPUT variable]): runs a program that must end with 0.
+function(run)
+  cmake_parse_arguments(RUN "" "OUTPUT" "COMMAND" ${ARGN})
+  execute_process(COMMAND ${RUN_COMMAND} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+  if(NOT code EQUAL 0)
+    message(FATAL_ERROR "${RUN_COMMAND}\nended with ${code}\n${output}\n${errors}")
+  endif()
+  if(RUN_OUTPUT)
+    set(${RUN_OUTPUT} "${output}" PARENT_SCOPE)
+  endif()
+endfunction()
