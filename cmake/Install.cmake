@@ -22,7 +22,7 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/BaseFrame_PKGConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/BaseFrame_PKGConfigVersion.cmake" DESTINATION "${package_folder}")
 
 # The libraries that the host loads by name stand where it looks for them, with the others.
-install(TARGETS ExpenseCenter_TRV
+install(TARGETS ExpenseCenter_TRV AutoVoucher_TRV
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS workbench RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS BaseFrame_Designer LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer")

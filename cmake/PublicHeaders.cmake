@@ -18,7 +18,8 @@ baseframe_public_headers(Ado ado
   Field.h
   FieldType.h
   NotifyEvent.h
-  PagedDataSet.h)
+  PagedDataSet.h
+  QueryThread.h)
 baseframe_public_headers(Component_TRV suite
   Balloon.h
   CalendarKind.h
@@ -138,4 +139,5 @@ baseframe_public_headers(ReferenceHost host
   PickerDialogs.h
   PictureServices.h
   ReferenceHost.h
-  RunTimeLibraries.h)
+  RunTimeLibraries.h
+  VoucherConflictCheck.h)
