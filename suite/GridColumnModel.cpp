@@ -64,8 +64,11 @@ QString TGridColumnModel::CopiedRow(int row) const
 {
     QStringList cells;
     for (int column = 0; column < shown_.size(); ++column) {
-        if (shown_[column].Visible)
-            cells += GridCellText::Copied(data(index(row, column), Qt::EditRole), shown_[column].Kind);
+        if (!shown_[column].Visible)
+            continue;
+        const QModelIndex cell = index(row, column);
+        cells += shown_[column].Dots ? cell.data().toString()
+                                     : GridCellText::Copied(cell.data(Qt::EditRole), shown_[column].Kind);
     }
     return cells.join(u'\t');
 }
@@ -125,6 +128,12 @@ QVariant TGridColumnModel::data(const QModelIndex& index, int role) const
 
 QString TGridColumnModel::Text(const QModelIndex& source, const TGridColumn& column) const
 {
+    if (column.Dots) {
+        QStringList names;
+        for (const TGridDot& dot : column.Dots(sourceModel()->data(source, Qt::EditRole)))
+            names += dot.Name;
+        return names.join(QStringLiteral("، "));
+    }
     const QString text = GridCellText::Shown(sourceModel()->data(source, Qt::EditRole), column.Kind);
     return text.isEmpty() ? text : text.rightJustified(column.Digits, u'0');
 }

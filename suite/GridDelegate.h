@@ -3,6 +3,7 @@
 #include <QStyledItemDelegate>
 
 class TGridColumnModel;
+class TGridMarks;
 
 /// Paints the cells of a grid by hand: a list of large tables is scrolled all day.
 class TGridDelegate : public QStyledItemDelegate
@@ -10,7 +11,7 @@ class TGridDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    explicit TGridDelegate(const TGridColumnModel* model, QObject* parent = nullptr);
+    TGridDelegate(const TGridColumnModel* model, const TGridMarks* marks, QObject* parent = nullptr);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -19,5 +20,8 @@ public:
                    const QModelIndex& index) override;
 
 private:
+    void PaintText(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+                   bool chosen) const;
     const TGridColumnModel* model_;
+    const TGridMarks* marks_;
 };

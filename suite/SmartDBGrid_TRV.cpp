@@ -3,9 +3,12 @@
 #include "ControlDispatch.h"
 #include "GridColumnModel.h"
 #include "GridDelegate.h"
+#include "GridMarks.h"
 #include "Look.h"
 #include "PagedDataSet.h"
 
+#include <algorithm>
+#include <array>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -15,6 +18,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <utility>
 
 namespace {
 
@@ -45,6 +49,8 @@ struct TSmartDBGrid_TRV::TPrivate
 
     TDataSetModel source;
     TGridColumnModel columns{&source};
+    TGridMarks marks;
+    bool multiSelect = false;
     QPointer<TPagedDataSet> followed;
     QString emptyText = QStringLiteral("ردیفی برای نمایش نیست.");
     QPoint scrollBefore; // of a reset
@@ -55,7 +61,7 @@ struct TSmartDBGrid_TRV::TPrivate
 TSmartDBGrid_TRV::TSmartDBGrid_TRV(QWidget* parent) : QTableView(parent), d(std::make_unique<TPrivate>())
 {
     setModel(&d->columns);
-    setItemDelegate(new TGridDelegate(&d->columns, this));
+    setItemDelegate(new TGridDelegate(&d->columns, &d->marks, this));
     setFont(SizedFont(false));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -85,6 +91,9 @@ TSmartDBGrid_TRV::TSmartDBGrid_TRV(QWidget* parent) : QTableView(parent), d(std:
     });
     connect(&d->columns, &QAbstractItemModel::modelReset, this, &TSmartDBGrid_TRV::FollowDataSet);
     connect(&d->columns, &QAbstractItemModel::rowsInserted, this, &TSmartDBGrid_TRV::ShowCurrentRow);
+    connect(&d->marks, &TGridMarks::changed, viewport(), qOverload<>(&QWidget::update));
+    connect(&d->marks, &TGridMarks::changed, this, &TSmartDBGrid_TRV::marksChanged);
+    connect(&d->marks, &TGridMarks::limited, this, &TSmartDBGrid_TRV::marksLimited);
 }
 
 TSmartDBGrid_TRV::~TSmartDBGrid_TRV()
@@ -162,6 +171,7 @@ void TSmartDBGrid_TRV::FollowDataSet()
         if (paged != nullptr)
             connect(paged, &TPagedDataSet::busyChanged, viewport(), qOverload<>(&QWidget::update));
     }
+    d->marks.SetDataSet(paged);
     horizontalHeader()->setSectionsClickable(paged != nullptr);
     ApplyColumns();
     ShowSortMark();
@@ -222,6 +232,8 @@ bool TSmartDBGrid_TRV::HandleOwnKey(const QKeyEvent& event)
             QGuiApplication::clipboard()->setText(d->columns.CopiedRow(currentIndex().row()));
         return true;
     }
+    if (d->multiSelect && HandleMarkKey(event))
+        return true;
     TDataSet* dataSet = d->DataSet();
     const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ControlModifier | Qt::KeypadModifier);
     if (dataSet == nullptr || others != Qt::NoModifier)
@@ -233,6 +245,108 @@ bool TSmartDBGrid_TRV::HandleOwnKey(const QKeyEvent& event)
     else
         return false;
     return true;
+}
+
+bool TSmartDBGrid_TRV::HandleMarkKey(const QKeyEvent& event)
+{
+    if (event.matches(QKeySequence::SelectAll)) {
+        d->marks.MarkAll();
+        return true;
+    }
+    if (event.key() == Qt::Key_Space && (event.modifiers() & ~Qt::ControlModifier) == Qt::NoModifier) {
+        d->marks.Toggle(currentIndex().row());
+        return true;
+    }
+    return ExtendsMarks(event);
+}
+
+bool TSmartDBGrid_TRV::ExtendsMarks(const QKeyEvent& event)
+{
+    constexpr std::array movements{Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                   Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    if (std::find(movements.begin(), movements.end(), event.key()) == movements.end())
+        return false;
+    if (!event.modifiers().testFlag(Qt::ShiftModifier)) {
+        d->marks.SetAnchor(-1);
+        return false;
+    }
+    const int before = currentIndex().row();
+    if (!d->marks.HasAnchor())
+        d->marks.SetAnchor(before);
+    QKeyEvent plain(QEvent::KeyPress, event.key(), event.modifiers() & ~Qt::ShiftModifier);
+    if (event.key() == Qt::Key_Home)
+        setCurrentIndex(d->columns.index(0, currentIndex().column()));
+    else if (event.key() == Qt::Key_End)
+        setCurrentIndex(d->columns.index(d->columns.rowCount() - 1, currentIndex().column()));
+    else
+        QTableView::keyPressEvent(&plain);
+    d->marks.ExtendTo(currentIndex().row());
+    return true;
+}
+
+void TSmartDBGrid_TRV::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->position().toPoint());
+    const bool marks = d->multiSelect && index.isValid() && event->button() == Qt::LeftButton;
+    if (!marks) {
+        QTableView::mousePressEvent(event);
+        return;
+    }
+    if (event->modifiers().testFlag(Qt::ShiftModifier)) {
+        if (!d->marks.HasAnchor())
+            d->marks.SetAnchor(currentIndex().row());
+        setCurrentIndex(index);
+        d->marks.ExtendTo(index.row());
+    } else if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        setCurrentIndex(index);
+        d->marks.Toggle(index.row());
+    } else {
+        QTableView::mousePressEvent(event);
+        d->marks.Clear();
+        d->marks.SetAnchor(index.row());
+    }
+}
+
+bool TSmartDBGrid_TRV::MultiSelect() const
+{
+    return d->multiSelect;
+}
+
+void TSmartDBGrid_TRV::SetMultiSelect(bool on)
+{
+    d->multiSelect = on;
+    if (!on)
+        d->marks.Clear();
+}
+
+void TSmartDBGrid_TRV::SetReadKeys(TReadKeysEvent reader)
+{
+    d->marks.SetReader(std::move(reader));
+}
+
+int TSmartDBGrid_TRV::MarkLimit() const
+{
+    return d->marks.Limit();
+}
+
+void TSmartDBGrid_TRV::SetMarkLimit(int limit)
+{
+    d->marks.SetLimit(limit);
+}
+
+QStringList TSmartDBGrid_TRV::MarkedKeys() const
+{
+    return d->marks.Keys();
+}
+
+void TSmartDBGrid_TRV::SetMarkedKeys(const QStringList& keys)
+{
+    d->marks.SetKeys(keys);
+}
+
+bool TSmartDBGrid_TRV::IsMarked(int row) const
+{
+    return d->marks.IsMarked(row);
 }
 
 bool TSmartDBGrid_TRV::event(QEvent* event)

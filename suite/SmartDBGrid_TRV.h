@@ -4,8 +4,17 @@
 #include "DataSource.h"
 #include "SuiteExport.h"
 
+#include <functional>
 #include <memory>
+#include <QColor>
 #include <QTableView>
+
+/// A coloured mark in a cell, and what it stands for.
+struct TGridDot
+{
+    QColor Color;
+    QString Name;
+};
 
 /// A column of a TSmartDBGrid_TRV.
 struct SUITE_EXPORT TGridColumn
@@ -19,11 +28,23 @@ struct SUITE_EXPORT TGridColumn
     TKind Kind = ckText;
     bool Visible = true;
     int Digits = 0; ///< codes shorter than this are shown with leading zeros
+    /// The coloured marks that a value stands for, painted in place of its text; their names are what is
+    /// copied and read out. Empty for a column of text.
+    std::function<QVector<TGridDot>(const QVariant& value)> Dots = {};
 };
+
+/// The keys of up to `count` rows of a paged list from a place on, in its order, as text; read at once.
+using TReadKeysEvent = std::function<QStringList(int first, int count)>;
 
 /// Data-aware grid, right to left: the first column stands at the right. A header click orders a paged data
 /// set. Shows its EmptyText, which says why it is empty and what to press, when there is no row. Home and End
 /// go to the first and last row, Ctrl+C copies the row, Enter is the owner's.
+///
+/// With MultiSelect any number of rows of a paged data set can be marked, besides the current one: Space and
+/// Ctrl+click turn a row's mark, Shift with arrows, Home, End, page keys or a click marks a range, Ctrl+A
+/// marks all rows of the list. A plain click takes the marks off, plain arrows leave them. Marks belong to
+/// keys and stay through ordering and reading again; their owner clears them when the list becomes another
+/// one.
 class SUITE_EXPORT TSmartDBGrid_TRV : public QTableView, public TControlEvents
 {
     Q_OBJECT
@@ -49,6 +70,24 @@ public:
 
     TNotifyEvent OnDblClick; ///< on a row
 
+    bool MultiSelect() const;
+    void SetMultiSelect(bool on);
+    /// Reads the keys of rows that are not here; without it only rows that are here can be marked.
+    void SetReadKeys(TReadKeysEvent reader);
+    /// The most rows that can be marked; 100,000 at first.
+    int MarkLimit() const;
+    void SetMarkLimit(int limit);
+    /// In no order; empty where nothing is marked.
+    QStringList MarkedKeys() const;
+    void SetMarkedKeys(const QStringList& keys);
+    void ClearMarks() { SetMarkedKeys({}); }
+    bool IsMarked(int row) const;
+
+Q_SIGNALS:
+    void marksChanged();
+    /// More rows were to be marked than MarkLimit; the first ones are.
+    void marksLimited();
+
 protected:
     bool event(QEvent* event) override;
 
@@ -56,6 +95,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -67,6 +107,8 @@ private:
     void ShowCurrentRow();
     void SortByColumn(int column);
     bool HandleOwnKey(const QKeyEvent& event);
+    bool HandleMarkKey(const QKeyEvent& event);
+    bool ExtendsMarks(const QKeyEvent& event);
     struct TPrivate;
     std::unique_ptr<TPrivate> d;
 };
