@@ -59,7 +59,8 @@ TListDescription GoodsList()
     };
     list.Columns = {
         Column(QStringLiteral("Code"), QStringLiteral("کد"), 80, TGridColumn::ckCode),
-        Column(QStringLiteral("Name"), QStringLiteral("نام کالا"), 320),
+        Column(QStringLiteral("Name"), QStringLiteral("نام کالا"), 300),
+        Column(QStringLiteral("tags"), QStringLiteral("برچسب"), 90),
         Column(QStringLiteral("Barcode"), QStringLiteral("بارکد"), 140, TGridColumn::ckCode),
         Column(QStringLiteral("UnitName"), QStringLiteral("واحد"), 90),
         Column(QStringLiteral("Price"), QStringLiteral("قیمت"), 130, TGridColumn::ckMoney),
@@ -73,12 +74,15 @@ TListDescription GoodsList()
         {QStringLiteral("UnitName"), QStringLiteral("واحد")},
         {QStringLiteral("GroupCode"), QStringLiteral("کد گروه"), TGridColumn::ckCode},
         {QStringLiteral("GroupName"), QStringLiteral("گروه")},
+        {QStringLiteral("CategoryName"), QStringLiteral("دسته")},
         {QStringLiteral("Price"), QStringLiteral("قیمت"), TGridColumn::ckMoney},
         {QStringLiteral("Stock"), QStringLiteral("موجودی"), TGridColumn::ckNumber},
         {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
         {QStringLiteral("Active"), QStringLiteral("فعال")},
     };
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.KalaList"), QStringLiteral("Code")};
+    list.Labels = {QStringLiteral("dbo.kala"), QStringLiteral("dbo.kala_category"),
+                   QStringLiteral("kala_code"), TCategoryStore::TListKind::Goods};
     list.OrderField = QStringLiteral("Code");
     return list;
 }
@@ -100,7 +104,8 @@ TListDescription PersonsList()
     };
     list.Columns = {
         Column(QStringLiteral("Code"), QStringLiteral("کد"), 80, TGridColumn::ckCode),
-        Column(QStringLiteral("FullName"), QStringLiteral("نام"), 280),
+        Column(QStringLiteral("FullName"), QStringLiteral("نام"), 260),
+        Column(QStringLiteral("tags"), QStringLiteral("برچسب"), 90),
         Column(QStringLiteral("NationalCode"), QStringLiteral("کد ملی"), 120, TGridColumn::ckCode),
         Column(QStringLiteral("Phone"), QStringLiteral("تلفن"), 130, TGridColumn::ckCode),
         Column(QStringLiteral("City"), QStringLiteral("شهر"), 120),
@@ -115,11 +120,14 @@ TListDescription PersonsList()
         {QStringLiteral("City"), QStringLiteral("شهر")},
         {QStringLiteral("Address"), QStringLiteral("نشانی")},
         {QStringLiteral("GroupName"), QStringLiteral("گروه")},
+        {QStringLiteral("CategoryName"), QStringLiteral("دسته")},
         {QStringLiteral("Balance"), QStringLiteral("مانده"), TGridColumn::ckMoney},
         {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
         {QStringLiteral("Active"), QStringLiteral("فعال")},
     };
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.PersonList"), QStringLiteral("Code")};
+    list.Labels = {QStringLiteral("dbo.Persons"), QStringLiteral("dbo.Person_category"),
+                   QStringLiteral("person_code"), TCategoryStore::TListKind::Persons};
     list.OrderField = QStringLiteral("Code");
     return list;
 }

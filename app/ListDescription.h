@@ -1,9 +1,11 @@
 #pragma once
 
+#include "CategoryStore.h"
 #include "PagedDataSet.h"
 #include "SmartDBGrid_TRV.h"
 #include "TarvaSearch.h"
 
+#include <optional>
 #include <QString>
 #include <QVector>
 
@@ -13,6 +15,15 @@ struct TCardField
     QString FieldName;
     QString Title;
     TGridColumn::TKind Kind = TGridColumn::ckText;
+};
+
+/// Where the tags and the category of a list's records are written. All names are the database's.
+struct TLabelTables
+{
+    QString Table;         ///< of the records; has a column `tags`
+    QString CategoryTable; ///< a row for each record that has a category, with its `category_code`
+    QString CategoryKey;   ///< the record's key in it
+    TCategoryStore::TListKind Kind = TCategoryStore::TListKind::Goods;
 };
 
 /// Everything that makes a list a list of goods and not of persons. All names are columns of the database.
@@ -26,7 +37,8 @@ struct TListDescription
     QVector<TSearchItem> SearchItems;
     QVector<TGridColumn> Columns;
     QVector<TCardField> CardFields;
-    QString OrderField; ///< in force until the user orders otherwise
+    QString OrderField;                 ///< in force until the user orders otherwise
+    std::optional<TLabelTables> Labels; ///< without them its records carry neither tags nor categories
 };
 
 TListDescription GoodsList();

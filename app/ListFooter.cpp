@@ -36,6 +36,7 @@ void PrepareDelay(QTimer& timer, int milliseconds)
 TListFooter::TListFooter(TPagedDataSet& dataSet, QWidget* parent)
     : QWidget(parent), dataSet_(&dataSet), words_(NewLabel(this, QStringLiteral("ConditionInWords"))),
       patience_(NewLabel(this, QStringLiteral("Patience"))),
+      marked_(NewLabel(this, QStringLiteral("MarkedCount"))),
       count_(NewLabel(this, QStringLiteral("RowCount"))), sign_(new TBusySign(this))
 {
     auto* row = new QHBoxLayout(this);
@@ -44,7 +45,10 @@ TListFooter::TListFooter(TPagedDataSet& dataSet, QWidget* parent)
     row->addWidget(words_, 1);
     row->addWidget(patience_);
     row->addWidget(sign_);
+    row->addWidget(marked_);
     row->addWidget(count_);
+    marked_->setFont(RelativeFonts::SmallBold());
+    marked_->hide();
     words_->setForegroundRole(QPalette::Link);
     words_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     patience_->SetCaption(QStringLiteral("کلید %1 این جستجو را رها می‌کند")
@@ -77,6 +81,17 @@ QString TListFooter::ConditionInWords() const
 QString TListFooter::CountText() const
 {
     return count_->Caption();
+}
+
+void TListFooter::SetMarkedCount(qsizetype count)
+{
+    marked_->setVisible(count > 0);
+    marked_->SetCaption(QStringLiteral("%1 ردیف برگزیده").arg(count));
+}
+
+QString TListFooter::MarkedText() const
+{
+    return marked_->isHidden() ? QString() : marked_->Caption();
 }
 
 bool TListFooter::ShowsBusy() const

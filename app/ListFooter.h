@@ -23,6 +23,9 @@ public:
     /// "12٬345 ردیف", or "در حال شمارش…" until the number is exact.
     QString CountText() const;
     bool ShowsBusy() const;
+    /// How many rows are marked, besides the current one; 0 says nothing.
+    void SetMarkedCount(qsizetype count);
+    QString MarkedText() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -34,6 +37,7 @@ private:
     TPagedDataSet* dataSet_;
     TSmartLabel_TRV* words_;
     TSmartLabel_TRV* patience_;
+    TSmartLabel_TRV* marked_;
     TSmartLabel_TRV* count_;
     TBusySign* sign_;
     QTimer signDelay_;

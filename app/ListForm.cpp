@@ -4,6 +4,7 @@
 #include "HostApplication.h"
 #include "ListFooter.h"
 #include "ListKeys.h"
+#include "ListLabels.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "RecordCard.h"
@@ -27,8 +28,10 @@ struct TListForm::TParts
     TTarvaSearchManager Manager;
     TGeneral_Search_Frame* Search = nullptr;
     TSmartDBGrid_TRV* Grid = nullptr;
+    QHBoxLayout* Body = nullptr; ///< the grid, and what stands beside it
     TListFooter* Footer = nullptr;
     TListKeys* Keys = nullptr;
+    std::unique_ptr<TListLabels> Labels;
 };
 
 TListForm::TListForm(const TListDescription& list, TReferenceHost& host, QWidget* parent)
@@ -38,6 +41,8 @@ TListForm::TListForm(const TListDescription& list, TReferenceHost& host, QWidget
     setWindowTitle(list_.Title);
     Lay();
     ConnectData();
+    if (list_.Labels)
+        ConnectLabels();
     ConnectKeys();
     RestoreState();
     StartSearch();
@@ -48,6 +53,7 @@ TListForm::~TListForm()
     // The controls outlive parts_, with the data set and the manager that they refer to.
     parts_->Search->Refrenc_SearchManager = nullptr;
     parts_->Search->doselection = nullptr;
+    parts_->Labels.reset();
     parts_->Source.SetDataSet(nullptr);
     delete card_;
     delete parts_->Footer;
@@ -55,6 +61,8 @@ TListForm::~TListForm()
 
 void TListForm::Enter()
 {
+    if (parts_->Labels != nullptr)
+        parts_->Labels->Enter();
     if (!parts_->DataSet.Active())
         Refresh();
     FocusSearchEdit();
@@ -62,7 +70,7 @@ void TListForm::Enter()
 
 QVector<TKeyHelp> TListForm::Keys() const
 {
-    return {
+    QVector<TKeyHelp> keys{
         {QStringLiteral("F10"),
          QStringLiteral("رفتن به فیلد جستجو؛ با ↑ و ↓ فیلد را برگزینید و با Tab به جای نوشتن بروید")},
         {QStringLiteral("Enter"),
@@ -77,6 +85,9 @@ QVector<TKeyHelp> TListForm::Keys() const
              "مرتب‌سازی؛ انتخاب دوبارهٔ همان ستون ترتیب را وارونه می‌کند")},
         {QStringLiteral("PageDown PageUp"), QStringLiteral("صفحهٔ بعدی و قبلی؛ در کارت، رکورد بعدی و قبلی")},
     };
+    if (parts_->Labels != nullptr)
+        keys += parts_->Labels->Keys();
+    return keys;
 }
 
 TPagedDataSet& TListForm::DataSet()
@@ -99,6 +110,11 @@ const TListFooter& TListForm::Footer() const
     return *parts_->Footer;
 }
 
+TListLabels* TListForm::Labels() const
+{
+    return parts_->Labels.get();
+}
+
 TRecordCard* TListForm::Card() const
 {
     return card_;
@@ -119,7 +135,9 @@ void TListForm::Lay()
     parts_->Grid = new TSmartDBGrid_TRV(this);
     parts_->Footer = new TListFooter(parts_->DataSet, this);
     column->addWidget(band);
-    column->addWidget(parts_->Grid, 1);
+    parts_->Body = new QHBoxLayout;
+    parts_->Body->addWidget(parts_->Grid, 1);
+    column->addLayout(parts_->Body, 1);
     column->addWidget(parts_->Footer);
 }
 
@@ -136,6 +154,29 @@ void TListForm::ConnectData()
     parts.Manager.SetDataSet(&parts.DataSet);
     connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, this, &TListForm::ShowCondition);
     connect(&parts.DataSet, &TPagedDataSet::failed, this, &TListForm::ReportFailure);
+}
+
+void TListForm::ConnectLabels()
+{
+    TParts& parts = *parts_;
+    parts.Labels = std::make_unique<TListLabels>(
+        list_, TListSelection::TList{parts.DataSet, parts.Source, *parts.Grid, host_->Connection()}, *host_,
+        this);
+    auto* column = static_cast<QVBoxLayout*>(layout());
+    column->insertWidget(1, &parts.Labels->Filters());
+    parts.Body->addWidget(&parts.Labels->Panel());
+    parts.Labels->Filters().AddTo(parts.Manager);
+    connect(parts.Labels.get(), &TListLabels::written, this, &TListForm::Refresh);
+    connect(&parts.Labels->Selection(), &TListSelection::changed, this, &TListForm::ShowSelection);
+    // What is no longer listed would be written to unseen.
+    connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, parts.Grid,
+            &TSmartDBGrid_TRV::ClearMarks);
+    const auto onKey = [this](const QKeySequence& key, void (TListLabels::*action)()) {
+        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, parts_->Labels.get(), action);
+    };
+    onKey(QKeySequence(Qt::Key_F8), &TListLabels::TogglePanel);
+    onKey(QKeySequence(Qt::Key_F9), &TListLabels::ToggleFilters);
 }
 
 void TListForm::ConnectKeys()
@@ -189,6 +230,8 @@ void TListForm::RestoreState()
     const bool descending = settings.Value(SettingKey(QStringLiteral("Descending")), false).toBool();
     parts_->DataSet.SetOrder(known ? field : list_.OrderField,
                              descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    if (parts_->Labels != nullptr)
+        parts_->Labels->Restore(settings.Value(SettingKey(QStringLiteral("Labels"))).toByteArray());
 }
 
 void TListForm::SaveState() const
@@ -198,6 +241,8 @@ void TListForm::SaveState() const
     settings.SetValue(SettingKey(QStringLiteral("Order")), parts_->DataSet.OrderField());
     settings.SetValue(SettingKey(QStringLiteral("Descending")),
                       parts_->DataSet.Order() == Qt::DescendingOrder);
+    if (parts_->Labels != nullptr)
+        settings.SetValue(SettingKey(QStringLiteral("Labels")), parts_->Labels->State());
     settings.SetValue(SettingKey(QStringLiteral("Field")), parts_->Search->TarvaSearch_General->ItemIndex());
 }
 
@@ -207,6 +252,8 @@ void TListForm::Refresh()
         parts_->DataSet.Refresh();
     else
         parts_->DataSet.Open();
+    if (parts_->Labels != nullptr && !host_->Connection().IsLost())
+        parts_->Labels->ReadPalette();
 }
 
 void TListForm::ReportFailure(const QString& message, const QString& serverMessage)
@@ -234,6 +281,11 @@ void TListForm::ShowCondition()
                   .arg(PersianText::Isolated(QStringLiteral("Escape"))));
 }
 
+void TListForm::ShowSelection()
+{
+    parts_->Footer->SetMarkedCount(parts_->Labels->Selection().MarkedCount());
+}
+
 void TListForm::FocusSearchField()
 {
     parts_->Search->Search_CMB->setFocus(Qt::ShortcutFocusReason);
@@ -246,7 +298,11 @@ void TListForm::FocusSearchEdit()
 
 void TListForm::ClearSearch()
 {
+    if (parts_->Labels != nullptr && parts_->Labels->ClearMarks())
+        return;
     parts_->Search->Clear();
+    if (parts_->Labels != nullptr)
+        parts_->Labels->Filters().Clear();
     FocusSearchEdit();
 }
 

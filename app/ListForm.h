@@ -10,6 +10,7 @@ class QMenu;
 class TGeneral_Search_Frame;
 class TListFooter;
 class TListKeys;
+class TListLabels;
 class TRecordCard;
 class TReferenceHost;
 
@@ -34,6 +35,8 @@ public:
     TSmartDBGrid_TRV& Grid();
     TGeneral_Search_Frame& SearchFrame();
     const TListFooter& Footer() const;
+    /// Tags and categories of the records; null where the list's records carry none.
+    TListLabels* Labels() const;
     /// The card now open; null when none is.
     TRecordCard* Card() const;
 
@@ -42,7 +45,7 @@ public:
     void Refresh();
     void FocusSearchField(); ///< F10: the field to search by
     void FocusSearchEdit();  ///< where the value is typed
-    void ClearSearch();      ///< Escape
+    void ClearSearch();      ///< Escape: the marks of rows, and where there are none the search
     void OpenCard();         ///< of the current row; nothing happens on an empty list
     /// Reads its rows from elsewhere, with the search in force. The fields are the same.
     void SetSource(const TPagedSource& source);
@@ -54,10 +57,12 @@ public:
 private:
     void Lay();
     void ConnectData();
+    void ConnectLabels();
     void ConnectKeys();
     void StartSearch();
     void RestoreState();
     void ShowCondition();
+    void ShowSelection();
     void ReportFailure(const QString& message, const QString& serverMessage);
     void SelectFirstRow();
     void OrderBy(const QString& field);

@@ -85,7 +85,9 @@ bool TListKeys::GridKey(const QKeyEvent& event)
         Q_EMIT rowChosen();
         return true;
     }
-    if (!IsTyped(event) || CurrentEdit() == nullptr)
+    // A space marks the row where rows can be marked.
+    const bool marks = event.key() == Qt::Key_Space && grid_->MultiSelect();
+    if (marks || !IsTyped(event) || CurrentEdit() == nullptr)
         return false;
     FocusEdit();
     const std::unique_ptr<QKeyEvent> stroke(event.clone());

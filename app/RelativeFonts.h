@@ -21,4 +21,11 @@ inline QFont Bold()
     return font;
 }
 
+inline QFont SmallBold()
+{
+    QFont font = Small();
+    font.setBold(true);
+    return font;
+}
+
 } // namespace RelativeFonts

@@ -48,6 +48,8 @@ TSearchCondition::TSearchCondition(const TTarvaSearch& criterion, const TSearchI
 {
     if (title_.isEmpty())
         title_ = column_;
+    if (item.Words)
+        words_ = item.Words(criterion);
 }
 
 bool TSearchCondition::ReadSingle(const TTarvaSearch& criterion, const TSearchItem& item)

@@ -67,6 +67,7 @@ private:
     QString RangeWords() const;
     QString ValueInWords(const QString& value) const;
 
+    QString words_; ///< the owner's own; empty where there are none
     QString title_;
     QString field_;
     QString foldedField_;

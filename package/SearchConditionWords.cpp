@@ -30,6 +30,8 @@ QString Grouped(const QString& number)
 
 QString TSearchCondition::Words() const
 {
+    if (!words_.isEmpty() && operator_ != TOperator::Nothing)
+        return words_;
     const QString verb = reversed_ ? QStringLiteral("نباشد") : QStringLiteral("باشد");
     const QString blank = QStringLiteral(" ");
     switch (operator_) {

@@ -3,6 +3,7 @@
 #include "NotifyEvent.h"
 #include "PackageExport.h"
 
+#include <functional>
 #include <memory>
 #include <QObject>
 #include <QPointer>
@@ -34,6 +35,8 @@ enum class TSearchItemResult {
     irProc,  ///< a procedure of the owner does the filtering
 };
 
+class TTarvaSearch;
+
 /// A field that a criterion can apply to.
 struct BASEFRAME_EXPORT TSearchItem {
     QString Title;      ///< caption for the user
@@ -44,6 +47,9 @@ struct BASEFRAME_EXPORT TSearchItem {
     TSearchItemResult ItemResult = TSearchItemResult::irSQL;
     int MaxLength = 0;    ///< longest value; 0 means no limit
     QVariant ItemValue;   ///< fixed value that comes with the item (an entity kind, a tab's state)
+    /// Says the condition in the owner's words, where codes have names that the manager does not know. An empty
+    /// answer leaves it to the manager's own words, as does a value that does not fit the item.
+    std::function<QString(const TTarvaSearch& criterion)> Words = {};
 };
 
 /// The fields of a criterion, in order.

@@ -21,4 +21,5 @@ QVector<TTourStep> VoucherSteps();
 QVector<TTourStep> DetailAccountSteps();
 QVector<TTourStep> ReportSteps();
 QVector<TTourStep> CategorySteps();
+QVector<TTourStep> LabelSteps();
 QVector<TTourStep> WindowSteps();

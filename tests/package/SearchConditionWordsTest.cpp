@@ -62,6 +62,16 @@ private Q_SLOTS:
         QTest::newRow("code list") << tags << text(u",5,12,") << none << stGeneral
                                    << QStringLiteral("برچسب دارای کد ۵ یا ۱۲ باشد")
                                    << QStringLiteral("برچسب دارای کد ۵ یا ۱۲ نباشد");
+        TSearchItem named = tags;
+        named.Words = [](const TTarvaSearch& criterion) {
+            return criterion.Value1().toInt() == 5 ? QStringLiteral("برچسب «ویژه» باشد") : QString();
+        };
+        QTest::newRow("owner's words")
+            << named << QVariant(5) << none << stGeneral << QStringLiteral("برچسب «ویژه» باشد")
+            << QStringLiteral("برچسب «ویژه» باشد");
+        QTest::newRow("owner without words")
+            << named << QVariant(6) << none << stGeneral << QStringLiteral("برچسب دارای کد ۶ باشد")
+            << QStringLiteral("برچسب دارای کد ۶ نباشد");
         const QString refused = QStringLiteral("ردیفی پیدا نشود، چون «\u2068abc\u2069» برای کد عدد نیست");
         QTest::newRow("no number") << code << text(u"abc") << none << stGeneral << refused << refused;
         QTest::newRow("no title") << Item({}, QStringLiteral("k.City")) << text(u"قم") << none << stGeneral

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ListDescription.h"
+#include "SmartPanel_TRV.h"
+
+#include <QJsonObject>
+
+class TCategorysearchframe;
+class TSmartCheckBox_TRV;
+class TTagPalette;
+class TTarvaSearchManager;
+
+/// The line above a list that narrows it by one tag and by one category, or to the records that have none.
+class TListFilters : public TSmartPanel_TRV
+{
+    Q_OBJECT
+
+public:
+    /// `list` has labels; the palette must outlive the line.
+    TListFilters(const TListDescription& list, const TTagPalette& palette, QWidget* parent);
+    ~TListFilters() override;
+
+    /// All criteria of the line; the manager forgets them when the line is destroyed.
+    void AddTo(TTarvaSearchManager& manager) const;
+    /// Fills the frames and starts from the user's default category; to be called when he is signed in.
+    void Start();
+    /// Nothing of the line filters any more.
+    void Clear();
+    void FocusTags() const;
+
+    QJsonObject State() const;
+    /// After Start(). The user's default category stays in force where he has one.
+    void Restore(const QJsonObject& state);
+
+    TCategorysearchframe* Category = nullptr;
+    TSmartCheckBox_TRV* NoTag = nullptr;
+    TSmartCheckBox_TRV* NoCategory = nullptr;
+
+private:
+    void Lay();
+    void AddItems();
+    TSmartCheckBox_TRV* NewBox(const QString& name, const QString& caption);
+    TTarvaSearch* NewNoneCriterion(const QString& column, const QString& words);
+    void SwitchNoCategory();
+    int CategoryId() const;
+
+    TListDescription list_;
+    const TTagPalette* palette_;
+    TTarvaSearch* noTag_ = nullptr;
+    TTarvaSearch* noCategory_ = nullptr;
+};
