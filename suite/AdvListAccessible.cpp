@@ -194,7 +194,7 @@ QString TAdvListAccessible::text(QAccessible::Text text) const
 
 void TAdvListEditorPer::TPrivate::TellFocus() const
 {
-    if (!QAccessible::isActive() || !line->hasFocus())
+    if (!line->hasFocus())
         return;
     // The bubble before the caret is what the user has come to.
     QAccessibleEvent focus(editor, QAccessible::Focus);
@@ -204,16 +204,12 @@ void TAdvListEditorPer::TPrivate::TellFocus() const
 
 void TAdvListEditorPer::TPrivate::TellSelection() const
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessibleEvent selection(editor, QAccessible::SelectionWithin);
     QAccessible::updateAccessibility(&selection);
 }
 
 void TAdvListEditorPer::TPrivate::TellItems(TAdvListValues::TChange change, int index) const
 {
-    if (!QAccessible::isActive())
-        return;
     if (auto* list = dynamic_cast<TAdvListAccessible*>(QAccessible::queryAccessibleInterface(editor)))
         list->Forget();
     if (change == TAdvListValues::TChange::Changed) {
