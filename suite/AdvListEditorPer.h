@@ -51,7 +51,8 @@ using TValueEditDoneEvent = std::function<void(QObject* Sender, int ValueIndex, 
 /// after it), so that an owner who looks for removals in OnKeyUp sees all of them. An OnKeyDown that swallows
 /// the key prevents the removal.
 ///
-/// A handler may change the items and destroy the editor.
+/// A handler may change the items. It may destroy the editor too, except in OnEnter and OnExit, which come
+/// while the toolkit moves the focus.
 class SUITE_EXPORT TAdvListEditorPer : public QWidget, public TControlEvents
 {
     Q_OBJECT
