@@ -77,7 +77,7 @@ TListDescription GoodsList()
         {QStringLiteral("CategoryName"), QStringLiteral("دسته")},
         {QStringLiteral("Price"), QStringLiteral("قیمت"), TGridColumn::ckMoney},
         {QStringLiteral("Stock"), QStringLiteral("موجودی"), TGridColumn::ckNumber},
-        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
+        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها")},
         {QStringLiteral("Active"), QStringLiteral("فعال")},
     };
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.KalaList"), QStringLiteral("Code")};
@@ -122,7 +122,7 @@ TListDescription PersonsList()
         {QStringLiteral("GroupName"), QStringLiteral("گروه")},
         {QStringLiteral("CategoryName"), QStringLiteral("دسته")},
         {QStringLiteral("Balance"), QStringLiteral("مانده"), TGridColumn::ckMoney},
-        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها"), TGridColumn::ckCode},
+        {QStringLiteral("tags"), QStringLiteral("برچسب‌ها")},
         {QStringLiteral("Active"), QStringLiteral("فعال")},
     };
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.PersonList"), QStringLiteral("Code")};

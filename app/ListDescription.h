@@ -5,6 +5,7 @@
 #include "SmartDBGrid_TRV.h"
 #include "TarvaSearch.h"
 
+#include <functional>
 #include <optional>
 #include <QString>
 #include <QVector>
@@ -15,6 +16,8 @@ struct TCardField
     QString FieldName;
     QString Title;
     TGridColumn::TKind Kind = TGridColumn::ckText;
+    /// Puts a value into words; without it the value reads as its kind does.
+    std::function<QString(const QVariant& value)> Words = {};
 };
 
 /// Where the tags and the category of a list's records are written. All names are the database's.

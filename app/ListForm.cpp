@@ -321,7 +321,8 @@ void TListForm::OpenCard()
         OnOpenRecord();
         return;
     }
-    card_ = new TRecordCard(list_, parts_->DataSet, this);
+    card_ = new TRecordCard(parts_->Labels != nullptr ? parts_->Labels->CardDescription() : list_,
+                            parts_->DataSet, this);
     card_->setAttribute(Qt::WA_DeleteOnClose);
     card_->open();
 }

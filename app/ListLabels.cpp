@@ -33,9 +33,8 @@ TListLabels::TListLabels(const TListDescription& list, const TListSelection::TLi
 
 TListLabels::~TListLabels()
 {
-    // They refer to the selection and the palette, and the form would destroy them later.
+    // The panel refers to the selection, and the form would destroy it later.
     delete panel_;
-    delete filters_;
 }
 
 void TListLabels::ShowMarkColumn()
@@ -46,6 +45,16 @@ void TListLabels::ShowMarkColumn()
             column.Dots = [this](const QVariant& tags) { return palette_.DotsOf(tags); };
     }
     parts_.Grid.SetColumns(columns);
+}
+
+TListDescription TListLabels::CardDescription() const
+{
+    TListDescription list = list_;
+    for (TCardField& field : list.CardFields) {
+        if (field.FieldName == u"tags")
+            field.Words = [palette = palette_](const QVariant& tags) { return palette.NamesOf(tags); };
+    }
+    return list;
 }
 
 void TListLabels::Enter()

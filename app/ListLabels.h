@@ -27,6 +27,8 @@ public:
     void ReadPalette();
     void TogglePanel();   ///< F8
     void ToggleFilters(); ///< F9: the line is shown or hidden; hidden, it stays in force
+    /// The list with the words for tags that its cards show.
+    TListDescription CardDescription() const;
     /// Escape: takes the marks off; false where there are none.
     bool ClearMarks();
 

@@ -10,16 +10,22 @@ namespace {
 
 constexpr int settlingTime = 300; // milliseconds
 
-bool IsNumber(const QString& key)
+QStringList InAscendingOrder(const QStringList& keys)
 {
-    bool isNumber = false;
-    key.toLongLong(&isNumber);
-    return isNumber;
-}
-
-bool ComesBefore(const QString& first, const QString& second)
-{
-    return first.toLongLong() < second.toLongLong();
+    QVector<qint64> numbers;
+    numbers.reserve(keys.size());
+    for (const QString& key : keys) {
+        bool isNumber = false;
+        const qint64 number = key.toLongLong(&isNumber);
+        if (isNumber)
+            numbers.append(number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    QStringList ordered;
+    ordered.reserve(numbers.size());
+    for (const qint64 number : qAsConst(numbers))
+        ordered.append(QString::number(number));
+    return ordered;
 }
 
 } // namespace
@@ -57,10 +63,7 @@ QStringList TListSelection::Keys() const
     QStringList keys = list_.Grid.MarkedKeys();
     if (keys.isEmpty() && list_.DataSet.Active() && list_.DataSet.RecNo() > 0)
         keys.append(list_.DataSet.CurrentKey().toString());
-    keys.erase(std::remove_if(keys.begin(), keys.end(), [](const QString& key) { return !IsNumber(key); }),
-               keys.end());
-    std::sort(keys.begin(), keys.end(), ComesBefore);
-    return keys;
+    return InAscendingOrder(keys);
 }
 
 QStringList TListSelection::ReadKeys(int first, int count) const

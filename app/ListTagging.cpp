@@ -64,9 +64,9 @@ void TListTagging::Lay()
     column->setSpacing(Look::Margin);
     column->addWidget(NewHead());
     column->addWidget(tags_);
-    column->addSpacing(Look::Margin);
-    column->addWidget(NewCategoryLines());
+    // The tags grow and shrink with their suggestions; the category keeps its place.
     column->addStretch(1);
+    column->addWidget(NewCategoryLines());
 }
 
 QWidget* TListTagging::NewHead()

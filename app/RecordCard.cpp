@@ -115,9 +115,11 @@ void TRecordCard::ShowRecord()
 {
     const int row = dataSet_->RecNo();
     for (qsizetype i = 0; i < edits_.size(); ++i) {
-        const TField* field = dataSet_->FindField(list_.CardFields.at(i).FieldName);
+        const TCardField& described = list_.CardFields.at(i);
+        const TField* field = dataSet_->FindField(described.FieldName);
         const QVariant value = field != nullptr && row > 0 ? field->Value() : QVariant();
-        QString text = DisplayText::FieldValue(value, list_.CardFields.at(i).Kind);
+        QString text =
+            described.Words ? described.Words(value) : DisplayText::FieldValue(value, described.Kind);
         if (field != nullptr && field->DataType() == TFieldType::ftBoolean && !value.isNull())
             text = DisplayText::FieldValue(value.toBool(), TGridColumn::ckText);
         edits_.at(i)->setText(text);

@@ -27,3 +27,11 @@ QVector<TGridDot> TTagPalette::DotsOf(const QVariant& tags) const
     }
     return dots;
 }
+
+QString TTagPalette::NamesOf(const QVariant& tags) const
+{
+    QStringList names;
+    for (const TGridDot& dot : DotsOf(tags))
+        names.append(dot.Name);
+    return names.join(QStringLiteral("، "));
+}

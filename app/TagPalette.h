@@ -14,6 +14,8 @@ public:
 
     /// The marks for a text of codes between commas, in its order; codes that are no tags are left out.
     QVector<TGridDot> DotsOf(const QVariant& tags) const;
+    /// The same in words.
+    QString NamesOf(const QVariant& tags) const;
     QString NameOf(const QString& code) const { return tags_.value(code).Name; }
 
 private:

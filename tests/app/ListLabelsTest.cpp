@@ -7,6 +7,7 @@
 #include "ListFooter.h"
 #include "ListForm.h"
 #include "ListLabels.h"
+#include "RecordCard.h"
 #include "RecordCategories.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartEdit_TRV.h"
@@ -252,6 +253,19 @@ private Q_SLOTS:
         shop_->Press(Qt::Key_F9);
         QVERIFY(!Filters().isHidden());
         list_->SaveState();
+    }
+
+    void theCardNamesTagsAndCategory()
+    {
+        FocusGrid();
+        shop_->Press(Qt::Key_Down);
+        shop_->Press(Qt::Key_Down);
+        list_->OpenCard();
+        QVERIFY(list_->Card() != nullptr);
+        QCOMPARE(list_->Card()->FieldText(QStringLiteral("tags")),
+                 TagName(1) + QStringLiteral("، ") + TagName(3));
+        QCOMPARE(IdOf(list_->Card()->FieldText(QStringLiteral("CategoryName"))), CategoryOf(3));
+        list_->Card()->close();
     }
 
     void personsAreTaggedInTheirOwnTable()
