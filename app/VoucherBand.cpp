@@ -1,11 +1,15 @@
 #include "VoucherBand.h"
 
+#include "CurrencyConversion.h"
+#include "CurrencyFrame_UNT.h"
 #include "EnterChain.h"
 #include "Look.h"
 #include "Select_AccountCode_UNT.h"
 #include "SmartButton_TRV.h"
+#include "SmartComboBox_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
+#include "VoucherCurrency.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -13,8 +17,7 @@
 namespace {
 
 constexpr int amountWidth = 190;
-constexpr int amountDigits = 19; // those of the money columns, decimals included
-constexpr int amountDecimals = 4;
+constexpr int amountDigits = 19;     // those of the money columns, decimals included
 constexpr double amountBound = 1e15; // keeps the sign away; the exact bound is that of the draft
 
 TSmartLabel_TRV* NewLabel(const QString& caption, QWidget* control, QWidget* parent)
@@ -37,7 +40,8 @@ TVoucherBand::TVoucherBand(QWidget* parent)
     : TSmartPanel_TRV(parent), selector_(new TSelect_AccountCode(this)),
       debit_(NewAmount(QStringLiteral("Debit_EDT"), QStringLiteral("بدهکار"))),
       credit_(NewAmount(QStringLiteral("Credit_EDT"), QStringLiteral("بستانکار"))),
-      description_(new TSmartEdit_TRV(this)), put_(new TSmartButton_TRV(this))
+      description_(new TSmartEdit_TRV(this)), put_(new TSmartButton_TRV(this)),
+      currency_(new TVoucherCurrency(this))
 {
     SetGround(gBand);
     selector_->SetCodeItem(
@@ -57,10 +61,15 @@ TVoucherBand::TVoucherBand(QWidget* parent)
     Lay();
     chain_ =
         new TEnterChain({selector_->TotalCode_EDT, selector_->AssistantCode_EDT, selector_->DetailCode_EDT,
-                         selector_->ExpenseCenterCode_EDT, debit_, credit_, description_},
+                         selector_->ExpenseCenterCode_EDT, currency_->Frame().CurrencyType_CMB,
+                         currency_->Frame().CurrencyRate_EDT, debit_, credit_, description_},
                         this);
-    // A line that debits has no credit.
-    chain_->Skips = [this](const QWidget* control) { return control == credit_ && !IsZero(*debit_); };
+    // A line that debits has no credit, and most lines are of the currency of the one before.
+    chain_->Skips = [this](const QWidget* control) {
+        return (control == credit_ && !IsZero(*debit_)) || control == currency_->Frame().CurrencyType_CMB;
+    };
+    for (TSmartEdit_TRV* amount : {debit_, credit_})
+        amount->OnChange = [this](QObject*) { ShowAmount(); };
     connect(chain_, &TEnterChain::finished, this, &TVoucherBand::lineEntered);
 }
 
@@ -72,7 +81,7 @@ TSmartEdit_TRV* TVoucherBand::NewAmount(const QString& name, const QString& capt
     amount->setObjectName(name);
     amount->setAccessibleName(caption);
     amount->SetEditType(TSmartEdit_TRV::etCurrency);
-    amount->SetPrecision(amountDecimals);
+    amount->SetPrecision(CurrencyConversion::MoneyDecimals);
     amount->SetMaxLength(amountDigits);
     amount->SetMaxValue(amountBound);
     amount->SetCalculator(true);
@@ -90,6 +99,7 @@ void TVoucherBand::Lay()
     accountRow->addWidget(NewLabel(QStringLiteral("&حساب:"), selector_->TotalCode_EDT, this));
     accountRow->addWidget(selector_, 1);
     column->addLayout(accountRow);
+    column->addWidget(currency_);
     auto* amountRow = new QHBoxLayout;
     amountRow->setSpacing(Look::Margin);
     amountRow->addWidget(NewLabel(QStringLiteral("&بدهکار:"), debit_, this));
@@ -101,13 +111,15 @@ void TVoucherBand::Lay()
     amountRow->addWidget(put_);
     column->addLayout(amountRow);
     QWidget* before = selector_->ExpenseCenterCode_EDT;
-    for (QWidget* control : {debit_, credit_, description_}) {
+    const TCurrency_FRAME& currency = currency_->Frame();
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             currency.CurrencyType_CMB, currency.CurrencyRate_EDT, debit_, credit_, description_}) {
         setTabOrder(before, control);
         before = control;
     }
 }
 
-TVoucherLine TVoucherBand::Line() const
+TVoucherLine TVoucherBand::Typed() const
 {
     TVoucherLine line;
     line.Account = {selector_->GetTotalCode(), selector_->GetAssistantCode(), selector_->GetDetailCode(),
@@ -115,23 +127,49 @@ TVoucherLine TVoucherBand::Line() const
     line.Description = description_->Text().trimmed();
     line.Debit = debit_->Text();
     line.Credit = credit_->Text();
+    line.Currency = currency_->Chosen();
+    return line;
+}
+
+TVoucherLine TVoucherBand::Line() const
+{
+    const TVoucherLine typed = Typed();
+    const bool amountsStay = shown_ && typed.Debit == typedOfShown_.Debit &&
+                             typed.Credit == typedOfShown_.Credit && typed.Currency == typedOfShown_.Currency;
+    if (!amountsStay)
+        return CurrencyConversion::InBase(typed);
+    // Converted anew, amounts that were rounded otherwise would move.
+    TVoucherLine line = typed;
+    line.Debit = shown_->Debit;
+    line.Credit = shown_->Credit;
+    line.Currency = shown_->Currency;
     return line;
 }
 
 void TVoucherBand::Show(const TVoucherLine& line)
 {
     Clear();
+    const TVoucherLine typed = CurrencyConversion::AsTyped(line);
     selector_->SetTotalCode(line.Account.Total);
     selector_->SetAssistantCode(line.Account.Assistant);
     selector_->SetDetailCode(line.Account.Detail);
     selector_->SetExpCenterCode(line.Account.ExpenseCenter);
-    debit_->SetText(line.Debit);
-    credit_->SetText(line.Credit);
+    currency_->Show(line.Currency);
+    debit_->SetText(typed.Debit);
+    credit_->SetText(typed.Credit);
     description_->SetText(line.Description);
+    shown_ = line;
+    typedOfShown_ = Typed();
+}
+
+void TVoucherBand::ShowAmount()
+{
+    currency_->ShowAmount(IsZero(*debit_) ? credit_->Text() : debit_->Text());
 }
 
 void TVoucherBand::Clear()
 {
+    shown_.reset();
     selector_->SetAllowClear(false);
     selector_->Clear();
     debit_->Clear();
@@ -147,7 +185,9 @@ void TVoucherBand::Clear()
 
 bool TVoucherBand::IsEmpty() const
 {
-    return Line() == TVoucherLine();
+    TVoucherLine line = Typed();
+    line.Currency = {};
+    return line == TVoucherLine();
 }
 
 void TVoucherBand::SetCorrecting(bool correcting)
@@ -158,13 +198,18 @@ void TVoucherBand::SetCorrecting(bool correcting)
 void TVoucherBand::SetEnabled(bool enabled)
 {
     selector_->Enabled(enabled, false);
-    for (QWidget* control : std::initializer_list<QWidget*>{debit_, credit_, description_, put_})
+    for (QWidget* control : std::initializer_list<QWidget*>{currency_, debit_, credit_, description_, put_})
         control->setEnabled(enabled);
 }
 
 void TVoucherBand::FocusTotal()
 {
     selector_->TotalCode_EDT->setFocus(Qt::ShortcutFocusReason);
+}
+
+void TVoucherBand::FocusCurrency()
+{
+    currency_->Frame().CurrencyType_CMB->setFocus(Qt::ShortcutFocusReason);
 }
 
 TSmartEdit_TRV* TVoucherBand::ControlOf(TVoucherField field) const

@@ -194,23 +194,6 @@ std::optional<TVoucherFault> TVoucherDraft::CheckLine(const TVoucherLine& line, 
     return {};
 }
 
-std::optional<TVoucherFault> TVoucherDraft::CheckExchange(const TVoucherLine& before,
-                                                          const TVoucherLine& after)
-{
-    const auto differ = [](const QString& first, const QString& second) {
-        return !(TDecimal(first) - TDecimal(second)).IsZero();
-    };
-    if (!before.Currency.IsForeign())
-        return {};
-    const QString message = QStringLiteral(
-        "مبلغ ردیف ارزی در اینجا عوض نمی‌شود، زیرا با نرخ ارز آن جور نمی‌ماند؛ ردیف را حذف کنید و از نو بنویسید.");
-    if (differ(before.Debit, after.Debit))
-        return Fault(TVoucherField::Debit, message);
-    if (differ(before.Credit, after.Credit))
-        return Fault(TVoucherField::Credit, message);
-    return {};
-}
-
 std::optional<TVoucherFault> TVoucherDraft::CheckHead(const TVoucherHead& head, const TFiscalYear* year,
                                                       bool gregorian)
 {

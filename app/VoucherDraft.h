@@ -132,8 +132,6 @@ public:
 
     /// What is wrong with a line; nothing where it may stand in the voucher.
     static std::optional<TVoucherFault> CheckLine(const TVoucherLine& line, const TAccountFacts& facts);
-    /// What forbids to put a line in the place of another: the amounts of a line in foreign currency stay.
-    static std::optional<TVoucherFault> CheckExchange(const TVoucherLine& before, const TVoucherLine& after);
     /// What is wrong with the head, `year` being the fiscal year of its code; null where there is none.
     static std::optional<TVoucherFault> CheckHead(const TVoucherHead& head, const TFiscalYear* year,
                                                   bool gregorian);

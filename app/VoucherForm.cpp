@@ -6,6 +6,7 @@
 #include "SmartButton_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "UnsavedQuestion.h"
+#include "VoucherCurrency.h"
 #include "VoucherFormParts.h"
 
 #include <QDateTime>
@@ -23,10 +24,12 @@ QVector<TGridColumn> Columns()
     return {
         {QStringLiteral("RowNo"), QStringLiteral("ردیف"), 45, TGridColumn::ckCode},
         {QStringLiteral("Account"), QStringLiteral("کد حساب"), 170, TGridColumn::ckCode},
-        {QStringLiteral("AccountName"), QStringLiteral("نام حساب"), 330},
-        {QStringLiteral("Bed"), QStringLiteral("بدهکار"), 150, TGridColumn::ckMoney},
-        {QStringLiteral("Bes"), QStringLiteral("بستانکار"), 150, TGridColumn::ckMoney},
-        {QStringLiteral("Sharh"), QStringLiteral("شرح"), 180},
+        {QStringLiteral("AccountName"), QStringLiteral("نام حساب"), 240},
+        {QStringLiteral("Bed"), QStringLiteral("بدهکار"), 140, TGridColumn::ckMoney},
+        {QStringLiteral("Bes"), QStringLiteral("بستانکار"), 140, TGridColumn::ckMoney},
+        {QStringLiteral("CurrTitle"), QStringLiteral("ارز"), 50},
+        {QStringLiteral("CurrAmount"), QStringLiteral("مبلغ ارزی"), 100, TGridColumn::ckMoney},
+        {QStringLiteral("Sharh"), QStringLiteral("شرح"), 140},
     };
 }
 
@@ -131,6 +134,7 @@ void TVoucherForm::ConnectParts()
     parts.Grid->installEventFilter(this);
     connect(parts.Head, &TVoucherHeadBar::yearChosen, this, &TVoucherForm::ChooseYear);
     connect(parts.Head, &TVoucherHeadBar::numberEntered, this, &TVoucherForm::OpenVoucher);
+    connect(parts.Head, &TVoucherHeadBar::dayChanged, &parts.Band->Currency(), &TVoucherCurrency::SetDate);
     connect(parts.Head, &TVoucherHeadBar::finished, parts.Band, &TVoucherBand::FocusTotal);
     connect(parts.Band, &TVoucherBand::lineEntered, this, &TVoucherForm::PutLine);
 }
@@ -147,6 +151,7 @@ void TVoucherForm::ConnectKeys()
     onKey(QKeySequence(Qt::Key_F3), [this] { parts_->Head->FocusNumber(); });
     onKey(QKeySequence(Qt::CTRL | Qt::Key_O), [this] { parts_->Head->FocusNumber(); });
     onKey(QKeySequence(Qt::Key_F6), &TVoucherForm::SwitchBetweenBandAndGrid);
+    onKey(QKeySequence(Qt::Key_F8), [this] { parts_->Band->FocusCurrency(); });
     onKey(QKeySequence(Qt::Key_Escape), &TVoucherForm::ClearBand);
 }
 
@@ -164,6 +169,9 @@ QVector<TKeyHelp> TVoucherForm::Keys() const
         {QStringLiteral("F3  Ctrl+O"),
          QStringLiteral("رفتن به شماره؛ شماره را بنویسید و Enter بزنید تا سند باز شود")},
         {QStringLiteral("F6"), QStringLiteral("از نوار به ردیف‌ها و برگشت")},
+        {QStringLiteral("F8"),
+         QStringLiteral(
+             "برگزیدن ارز ردیف؛ مبلغ‌ها به همان ارز نوشته می‌شوند")},
         {QStringLiteral("Enter"), QStringLiteral("در ردیف‌ها: اصلاح ردیف")},
         {QStringLiteral("Delete"), QStringLiteral("در ردیف‌ها: حذف ردیف")},
         {QStringLiteral("Ctrl+Z"),
@@ -183,6 +191,7 @@ void TVoucherForm::Enter()
 {
     if (!parts_->Started) {
         parts_->Head->SetYears(parts_->Store.FiscalYears());
+        parts_->Lines.SetCurrencyTitles(parts_->Store.CurrencyTitles());
         StartNew();
         parts_->Started = true;
         parts_->Head->FocusDate();
@@ -305,6 +314,7 @@ void TVoucherForm::ShowVoucher(const QString& sentence)
     const bool writable = IsWritable();
     parts.Head->SetWritable(writable, parts.Draft.Head.Id == 0);
     parts.Band->Clear();
+    parts.Band->Currency().ChooseBase();
     parts.Band->SetCorrecting(false);
     parts.Band->SetEnabled(writable);
     ShowLines(0);

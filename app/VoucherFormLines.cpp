@@ -1,6 +1,7 @@
 #include "AccountBook.h"
 #include "ReferenceHost.h"
 #include "SmartEdit_TRV.h"
+#include "VoucherCurrency.h"
 #include "VoucherFormParts.h"
 
 #include <QKeyEvent>
@@ -11,7 +12,7 @@ void TVoucherForm::PutLine()
 {
     TParts& parts = *parts_;
     TVoucherLine line;
-    if (!IsWritable() || !IsAccepted(parts.Band->Line(), line))
+    if (!IsWritable() || parts.Band->Currency().IsRefused() || !IsAccepted(parts.Band->Line(), line))
         return;
     const int row = correcting_ >= 0 ? correcting_ : parts.Draft.Count();
     if (correcting_ >= 0)
@@ -33,9 +34,6 @@ bool TVoucherForm::IsAccepted(const TVoucherLine& line, TVoucherLine& accepted)
     if (correcting_ >= 0) {
         const TVoucherLine& before = parts_->Draft.Lines().at(correcting_);
         sameAccount = before.Account == line.Account;
-        accepted.Currency = before.Currency;
-        if (!fault)
-            fault = TVoucherDraft::CheckExchange(before, line);
     }
     if (!fault && !facts.DetailIsActive && !sameAccount)
         fault = TVoucherFault{TVoucherField::Detail,

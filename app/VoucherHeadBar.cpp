@@ -37,6 +37,10 @@ TVoucherHeadBar::TVoucherHeadBar(QWidget* parent)
     year_->setObjectName(QStringLiteral("Year_CMB"));
     date_->setObjectName(QStringLiteral("Date_EDT"));
     date_->SetCalendarButton(true);
+    connect(date_, &QLineEdit::textChanged, this, [this] {
+        if (const QString day = date_->GetValue(); !day.isEmpty())
+            Q_EMIT dayChanged(day);
+    });
     year_->OnChange = [this](QObject*) { Q_EMIT yearChosen(); };
     number_->OnKeyPress = [](QObject*, QChar& key) {
         if (key.isPrint() && !key.isDigit())

@@ -47,7 +47,8 @@ public:
 Q_SIGNALS:
     void yearChosen();
     void numberEntered(int number);
-    void finished(); ///< Enter in the title
+    void dayChanged(const QString& day); ///< another day, by the user or by another voucher
+    void finished();                     ///< Enter in the title
 
 private:
     void Lay();

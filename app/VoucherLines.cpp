@@ -2,7 +2,7 @@
 
 namespace {
 
-enum TColumn { Number, Account, AccountName, Description, Debit, Credit };
+enum TColumn { Number, Account, AccountName, Description, Debit, Credit, CurrencyTitle, CurrencyAmount };
 
 QString Code(int code, int length)
 {
@@ -39,7 +39,9 @@ TVoucherLines::TVoucherLines(const TVoucherDraft& draft, QObject* parent) : TDat
                                                               {u"AccountName", TFieldType::ftWideString},
                                                               {u"Sharh", TFieldType::ftWideString},
                                                               {u"Bed", TFieldType::ftBCD},
-                                                              {u"Bes", TFieldType::ftBCD}};
+                                                              {u"Bes", TFieldType::ftBCD},
+                                                              {u"CurrTitle", TFieldType::ftWideString},
+                                                              {u"CurrAmount", TFieldType::ftBCD}};
     int index = 0;
     for (const auto& [name, type] : columns)
         fields_.push_back(
@@ -83,6 +85,10 @@ QVariant TVoucherLines::ValueAt(int row, int index) const
         return Amount(line.Debit);
     case Credit:
         return Amount(line.Credit);
+    case CurrencyTitle:
+        return line.Currency.IsForeign() ? currencyTitles_.value(line.Currency.Code) : QString();
+    case CurrencyAmount:
+        return line.Currency.IsForeign() ? Amount(line.Currency.Amount) : QVariant();
     default:
         return {};
     }

@@ -4,6 +4,7 @@
 #include "VoucherDraft.h"
 
 #include <memory>
+#include <QHash>
 #include <vector>
 
 /// The lines of a draft as a data set, so that a grid shows them.
@@ -16,6 +17,8 @@ public:
     explicit TVoucherLines(const TVoucherDraft& draft, QObject* parent = nullptr);
     ~TVoucherLines() override;
 
+    /// The titles of the foreign currencies, by code.
+    void SetCurrencyTitles(const QHash<int, QString>& titles) { currencyTitles_ = titles; }
     /// The lines have changed; `row` (from 0) becomes the current one, as far as there is such a row.
     void Announce(int row);
     /// The current line, counted from 0; -1 where there is none.
@@ -44,6 +47,7 @@ private:
     void MoveTo(int row);
 
     const TVoucherDraft* draft_;
+    QHash<int, QString> currencyTitles_;
     std::vector<std::unique_ptr<TField>> fields_;
     int current_ = -1;
     bool beforeFirst_ = false; // the last move wanted to go further than the first or the last line

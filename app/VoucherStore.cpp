@@ -62,6 +62,16 @@ QVector<TFiscalYear> TVoucherStore::FiscalYears() const
     return years;
 }
 
+QHash<int, QString> TVoucherStore::CurrencyTitles() const
+{
+    TADOQuery query;
+    OpenQuery(query, connection_, QStringLiteral("SELECT CurCode, CurTitle FROM dbo.AccCurrency"));
+    QHash<int, QString> titles;
+    for (query.First(); !query.Eof(); query.Next())
+        titles.insert(IntegerOf(query, u"CurCode"), TextOf(query, u"CurTitle"));
+    return titles;
+}
+
 int TVoucherStore::NextNumber(int fiscalYear) const
 {
     TADOQuery query;

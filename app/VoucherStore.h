@@ -2,6 +2,7 @@
 
 #include "VoucherDraft.h"
 
+#include <QHash>
 #include <QVariantList>
 #include <stdexcept>
 
@@ -39,6 +40,8 @@ public:
 
     /// The newest first.
     QVector<TFiscalYear> FiscalYears() const;
+    /// By code.
+    QHash<int, QString> CurrencyTitles() const;
     /// The number that a voucher saved now would get.
     int NextNumber(int fiscalYear) const;
     /// Reads a voucher as it was saved; false where there is none of the number.

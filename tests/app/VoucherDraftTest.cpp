@@ -192,19 +192,6 @@ private Q_SLOTS:
         QCOMPARE(!TVoucherDraft::CheckLine(Line(debit, credit), Known()).has_value(), taken);
     }
 
-    void theAmountOfAForeignLineStays()
-    {
-        TVoucherLine before = Line(QStringLiteral("100"), QStringLiteral("0"));
-        before.Currency = {2, QStringLiteral("50"), QStringLiteral("2")};
-        TVoucherLine after = before;
-        after.Description = QStringLiteral("شرح تازه");
-        QVERIFY(!TVoucherDraft::CheckExchange(before, after).has_value());
-        after.Debit = QStringLiteral("101");
-        QVERIFY(TVoucherDraft::CheckExchange(before, after).has_value());
-        before.Currency = {};
-        QVERIFY(!TVoucherDraft::CheckExchange(before, after).has_value());
-    }
-
     void theHeadIsChecked_data()
     {
         QTest::addColumn<TVoucherHead>("head");
