@@ -113,8 +113,7 @@ void TCategorysearchframe::DrawDefaultItems(quint8 kind)
             QString::number(Host().Settings.UserInfo().Code) + QStringLiteral(" and ") + column +
             QStringLiteral("=1"),
         QStringLiteral("Code_category"));
-    if (category)
-        create_bubble(*category, TCategoryPicker::WholePath);
+    ShowCategory(category);
     const QPointer<QWidget> guard(this);
     Publish(picker_->LastValue());
     if (!guard)
@@ -127,9 +126,7 @@ void TCategorysearchframe::DrawDefaultItems(quint8 kind)
 void TCategorysearchframe::active_checker(const QString& code, quint8 kind)
 {
     const QString statement = CategoryOfRecord(kind) + TCategoryTree::Digits(code);
-    if (const std::optional<int> category =
-            picker_->Tree().FirstId(statement, QStringLiteral("category_code")))
-        create_bubble(*category, TCategoryPicker::WholePath);
+    ShowCategory(picker_->Tree().FirstId(statement, QStringLiteral("category_code")));
     Publish(ValueBetweenCommas());
 }
 
@@ -236,6 +233,17 @@ void TCategorysearchframe::EditorValueEditDone(const QString& text)
     }
     // Intended: the bare id, and the criterion is not switched on.
     TarvaSearch1->SetValue1(picker_->LastValue());
+}
+
+/// Nothing stays of the category of another record.
+void TCategorysearchframe::ShowCategory(std::optional<int> category)
+{
+    if (category) {
+        create_bubble(*category, TCategoryPicker::WholePath);
+    } else if (!Editor->Values().IsEmpty()) {
+        Editor->Values().Clear();
+        Runfirst();
+    }
 }
 
 QString TCategorysearchframe::ValueBetweenCommas() const

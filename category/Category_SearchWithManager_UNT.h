@@ -36,11 +36,12 @@ public:
 
     /// Starts from the user's default category for this kind of lists; to be called when he is signed in.
     void open(quint8 kind);
-    /// Shows the user's default category, publishes its bare id and fills the auto-completion. Throws
-    /// std::invalid_argument for a `kind` that is no TListKind.
+    /// Shows the user's default category, or none, publishes its bare id and fills the auto-completion.
+    /// Throws std::invalid_argument for a `kind` that is no TListKind.
     void DrawDefaultItems(quint8 kind);
-    /// Shows the category of a record and publishes it. Throws std::invalid_argument for a `code` that is not
-    /// made of ASCII digits, and for a `kind` that is no TRecordKind.
+    /// Shows the category of a record and publishes it; a record without one empties the path. Throws
+    /// std::invalid_argument for a `code` that is not made of ASCII digits, and for a `kind` that is no
+    /// TRecordKind.
     void active_checker(const QString& code, quint8 kind);
 
     void Runfirst() { picker_->Runfirst(); }
@@ -82,6 +83,7 @@ private:
     void FollowRemoval();
     void OfferUnderRemoved();
 
+    void ShowCategory(std::optional<int> category);
     QString ValueBetweenCommas() const;
     void Publish(const QString& value);
 
