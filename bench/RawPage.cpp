@@ -5,11 +5,14 @@
 
 #include <sqlite3.h>
 
-TRawPage::TRawPage(const QString& file, const QString& statement)
+TRawPage::TRawPage(const QString& file, const QString& statement,
+                   const std::function<void(sqlite3*)>& prepare)
 {
     if (sqlite3_open_v2(file.toUtf8().constData(), &handle_, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK)
         qFatal("%s", sqlite3_errmsg(handle_));
     Dialect::Register(handle_);
+    if (prepare)
+        prepare(handle_);
     const Dialect::TSqliteSchema schema(handle_);
     sql_ = Dialect::Translate(statement, schema).toUtf8();
 }

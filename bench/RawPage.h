@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <QString>
 
 struct sqlite3;
@@ -10,8 +10,10 @@ struct sqlite3;
 class TRawPage
 {
 public:
-    /// `statement` is T-SQL; its translation is not part of what is measured.
-    TRawPage(const QString& file, const QString& statement);
+    /// `statement` is T-SQL; its translation is not part of what is measured. `prepare` may give the
+    /// connection what else the statement needs.
+    TRawPage(const QString& file, const QString& statement,
+             const std::function<void(sqlite3*)>& prepare = {});
     ~TRawPage();
     /// Prepares, steps through all rows and reads all columns; returns the rows.
     int Read();
