@@ -1,5 +1,6 @@
 #include "PickerDialogs.h"
 
+#include "HostSettingsFile.h"
 #include "TagDialog.h"
 
 #include <QApplication>
