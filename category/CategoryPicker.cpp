@@ -143,6 +143,7 @@ QStringList TCategoryPicker::Offer(const QVector<TCategoryRow>& categories)
     QStringList ids;
     ids.reserve(categories.size());
     TAdvListValues entries;
+    entries.Reserve(static_cast<int>(categories.size()));
     for (const TCategoryRow& category : categories) {
         ids.append(QString::number(category.Id));
         entries.AddPair(category.Name, QString(), category.ParentId);

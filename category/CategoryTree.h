@@ -15,6 +15,7 @@ struct TCategoryRow
     int ParentId = 0; ///< 0 or less at the top level
     QString Name;
 };
+Q_DECLARE_TYPEINFO(TCategoryRow, Q_RELOCATABLE_TYPE);
 
 /// What a bubble of the path shows and carries.
 struct TCategoryBubble

@@ -17,6 +17,7 @@ struct TAdvListValueItem
 
     bool operator==(const TAdvListValueItem&) const = default;
 };
+Q_DECLARE_TYPEINFO(TAdvListValueItem, Q_RELOCATABLE_TYPE);
 
 /// The items of a token editor in reading order, or the entries of its auto-completion. Equal texts and equal
 /// values may occur more than once. An index that no item has throws std::out_of_range.
@@ -40,6 +41,8 @@ public:
     const TAdvListValueItem& GetItem(int index) const;
     /// The last item; an empty one where there is none.
     const TAdvListValueItem& Last() const;
+    /// Makes room for that many items at once.
+    void Reserve(int count) { items_.reserve(count); }
     /// Adds an item behind the others.
     void AddPair(const QString& displayText, const QString& value, int imageIndex = -1);
     /// Adds an item before the one at `index`; behind all at Count().
