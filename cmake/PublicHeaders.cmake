@@ -99,6 +99,7 @@ baseframe_public_headers(BaseFrame_PKG select
 baseframe_public_headers(BaseFrame_PKG tags
   TagPictures.h
   tags_frame.h
+  Tags_search_UNT.h
   TagStore.h)
 baseframe_public_headers(BaseFrame_PKG category
   Category_Search_UNT.h
@@ -125,6 +126,7 @@ baseframe_public_headers(Database database
 baseframe_public_headers(ReferenceHost host
   AccountingServices.h
   AccountPickers.h
+  CodeListItems.h
   CodeLocks.h
   EntityPickers.h
   HostApplication.h

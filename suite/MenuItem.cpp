@@ -2,12 +2,19 @@
 
 #include "PersianText.h"
 
+#include <algorithm>
+
 namespace {
 
-/// The text of an action that shows the caption as it stands, on one line.
+/// The text of an action that shows the caption as it stands, on one line. A name that begins in Latin
+/// letters keeps its signs at its ends.
 QString ShownAsItStands(const QString& caption)
 {
-    return PersianText::SingleLine(caption).replace(u'&', QLatin1String("&&"));
+    QString line = caption;
+    std::replace_if(
+        line.begin(), line.end(), [](QChar sign) { return sign.category() == QChar::Other_Control; }, u' ');
+    line.replace(u'&', QLatin1String("&&"));
+    return line.isRightToLeft() ? line : PersianText::Isolated(line);
 }
 
 } // namespace

@@ -1,10 +1,13 @@
 #include "PopupMenu.h"
 
+#include "Look.h"
 #include "PersianText.h"
 
 #include <QActionEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPixmap>
+#include <QWidgetAction>
 #include <stdexcept>
 #include <string>
 
@@ -27,11 +30,15 @@ QString WithoutLast(const QString& text)
 
 } // namespace
 
-TPopupMenu::TPopupMenu(QWidget* parent) : QMenu(parent), findRow_(addAction(QString()))
+TPopupMenu::TPopupMenu(QWidget* parent)
+    : QMenu(parent), findLabel_(new QLabel), findRow_(new QWidgetAction(this))
 {
     setLayoutDirection(Qt::RightToLeft);
-    findRow_->setEnabled(false);
+    findLabel_->setMargin(Look::Margin);
+    findLabel_->setTextFormat(Qt::PlainText);
+    findRow_->setDefaultWidget(findLabel_); // owns the label from here on
     findRow_->setVisible(false);
+    addAction(findRow_);
 }
 
 TPopupMenu::~TPopupMenu() = default;
@@ -144,9 +151,13 @@ QAction* TPopupMenu::ShowMatches()
         if (matches && first == nullptr)
             first = item;
     }
-    findRow_->setText(first != nullptr
-                          ? QStringLiteral("جستجو: %1").arg(PersianText::Isolated(findText_))
-                          : QStringLiteral("«%1» پیدا نشد").arg(PersianText::Isolated(findText_)));
+    const QString typed = PersianText::Isolated(findText_);
+    findLabel_->setText(first != nullptr ? QStringLiteral("جستجو: %1").arg(typed)
+                                         : QStringLiteral("«%1» پیدا نشد").arg(typed));
+    const QColor color = Look::Color(first != nullptr ? Look::TRole::SecondaryText : Look::TRole::Wrong);
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, color);
+    findLabel_->setPalette(colors);
     isBusy_ = false;
     // This one change is told to the menu, and with it all others.
     findRow_->setVisible(findText_.isEmpty());

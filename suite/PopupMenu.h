@@ -8,6 +8,9 @@
 #include <QMenu>
 #include <QVector>
 
+class QLabel;
+class QWidgetAction;
+
 /// A right-to-left menu of names that stays usable with a thousand of them: it scrolls, and what the user
 /// types narrows it to the captions that hold the typed text as a Persian reader compares them. Backspace
 /// widens it again, Escape first empties the typed text and then closes the menu. Captions are names: they
@@ -50,7 +53,8 @@ private:
 
     QVector<QIcon> icons_;
     QVector<TMenuItem*> items_;
-    QAction* findRow_;
+    QLabel* findLabel_;
+    QWidgetAction* findRow_;
     QString findText_;
     int top_ = 0;   ///< where the menu was opened, on the screen
     int right_ = 0; ///< its right edge

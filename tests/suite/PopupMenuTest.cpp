@@ -4,6 +4,7 @@
 #include "Look.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QScreen>
 #include <QStringList>
 #include <QTest>
@@ -66,7 +67,7 @@ private Q_SLOTS:
     void anAmpersandIsASignAndNoHotKey()
     {
         Add(QStringLiteral("R&D"), 1);
-        QCOMPARE(menu_->Item(0)->text(), QStringLiteral("R&&D"));
+        QCOMPARE(menu_->Item(0)->text(), QStringLiteral("\u2068R&&D\u2069"));
         QCOMPARE(menu_->Item(0)->Caption(), QStringLiteral("R&D"));
         Add(QStringLiteral("یک\tدو\nسه"), 2);
         QVERIFY(!menu_->Item(1)->text().contains(u'\t'));
@@ -138,8 +139,9 @@ private Q_SLOTS:
         Open();
         Type(*menu_, QStringLiteral("گیلاس"));
         QVERIFY(ShownCaptions(*menu_).isEmpty());
-        QVERIFY(menu_->actions().constFirst()->isVisible());
-        QVERIFY(menu_->actions().constFirst()->text().contains(QStringLiteral("پیدا نشد")));
+        const auto* label = menu_->findChild<QLabel*>();
+        QVERIFY(label->isVisible());
+        QVERIFY(label->text().contains(QStringLiteral("پیدا نشد")));
         QTest::keyClick(menu_, Qt::Key_Return);
         QVERIFY(chosen_.isEmpty());
     }
