@@ -28,6 +28,8 @@ baseframe_public_headers(Component_TRV suite
   EntityType.h
   FlowLines.h
   Look.h
+  MenuItem.h
+  PopupMenu.h
   SectionEdit.h
   SectionText.h
   SmartButton_TRV.h
