@@ -243,6 +243,11 @@ QVariant TADOQuery::ValueAt(int row, int index) const
     return SourceValue(SourceRow(row), index);
 }
 
+QStringView TADOQuery::TextAt(int row, int index) const
+{
+    return d->Store.Text(SourceRow(row), index);
+}
+
 QVariant TADOQuery::SourceValue(int sourceRow, int index) const
 {
     return d->Store.Value(sourceRow, index);

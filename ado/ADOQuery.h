@@ -62,6 +62,9 @@ public:
     void SetRecNo(int recNo) override;
     QVariant FieldValue(int index) const override;
     QVariant ValueAt(int row, int index) const override;
+    /// The same for texts without a copy, until the query is closed or opened again; a null view for NULL and
+    /// for what is no text.
+    QStringView TextAt(int row, int index) const;
 
     /// Moves to the first row whose fields (";" between names) have the values; stays and returns false
     /// otherwise.

@@ -119,13 +119,32 @@ void TRowStore::AppendVariant(const QVariant& value)
     }
 }
 
-QVariant TRowStore::Value(int row, int column) const
+const TRowStore::TCell* TRowStore::Cell(int row, int column) const
 {
     if (row < 0 || row >= rowCount_ || column < 0 || column >= columns_.size())
-        return {};
+        return nullptr;
     const std::size_t index = static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_.size()) +
                               static_cast<std::size_t>(column);
-    const TCell& cell = cells_[index];
+    return &cells_[index];
+}
+
+QStringView TRowStore::TextOf(const TCell& cell) const
+{
+    return {texts_.data() + cell.Number, static_cast<qsizetype>(cell.Length)};
+}
+
+QStringView TRowStore::Text(int row, int column) const
+{
+    const TCell* const cell = Cell(row, column);
+    return cell != nullptr && cell->Kind == TKind::Text ? TextOf(*cell) : QStringView();
+}
+
+QVariant TRowStore::Value(int row, int column) const
+{
+    const TCell* const place = Cell(row, column);
+    if (place == nullptr)
+        return {};
+    const TCell& cell = *place;
     switch (cell.Kind) {
     case TKind::Boolean:
         return cell.Number != 0;
@@ -136,7 +155,7 @@ QVariant TRowStore::Value(int row, int column) const
     case TKind::Float:
         return cell.Real;
     case TKind::Text:
-        return QString(reinterpret_cast<const QChar*>(texts_.data()) + cell.Number, cell.Length);
+        return TextOf(cell).toString();
     case TKind::Blob:
         return QByteArray(bytes_.data() + cell.Number, cell.Length);
     case TKind::Null:

@@ -18,6 +18,8 @@ public:
     int RowCount() const { return rowCount_; }
     /// Invalid for NULL, and outside of the rows and columns.
     QVariant Value(int row, int column) const;
+    /// A text without a copy, until the rows are cleared; a null view where the value is none.
+    QStringView Text(int row, int column) const;
 
 private:
     enum class TKind : quint32 { Null, Boolean, Integer, Largeint, Float, Text, Blob };
@@ -31,6 +33,8 @@ private:
         };
     };
 
+    const TCell* Cell(int row, int column) const; ///< null outside of the rows and columns
+    QStringView TextOf(const TCell& cell) const;
     void AppendCell(IEngineRows& rows, int column);
     void AppendColumnText(IEngineRows& rows, int column);
     TCell TextCell(std::size_t begin) const;

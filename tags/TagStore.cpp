@@ -50,9 +50,9 @@ QStringList CutAtCommas(const QString& text, qsizetype begin)
     return result;
 }
 
-QStringList CodesOf(const QString& tags)
+QStringList CodesOf(QStringView tags)
 {
-    QStringList codes = TagCodes::Split(tags);
+    QStringList codes = TagCodes::Split(tags.toString());
     codes.removeIf([](const QString& code) { return !SplicedText::IsDigits(code); });
     return codes;
 }
@@ -195,30 +195,32 @@ void TSelectedTags::ReadCommon(TADOQuery& records)
     records.Requery();
     const int tags = records.FieldByName(QStringLiteral("TAGS"))->Index();
     const int count = records.RecordCount();
-    common_ = CodesOf(records.ValueAt(0, tags).toString());
-    QString before;
-    for (int row = 0; row < count && !common_.isEmpty(); ++row) {
-        const QString text = records.ValueAt(row, tags).toString();
-        if (row > 0 && text == before)
-            continue;
-        common_.removeIf([&](const QString& code) { return !text.contains(u',' + code + u','); });
-        before = text;
+    QStringList members = CodesOf(records.TextAt(0, tags));
+    for (QString& code : members)
+        code = u',' + code + u',';
+    for (int row = 0; row < count && !members.isEmpty(); ++row) {
+        const QStringView text = records.TextAt(row, tags);
+        members.removeIf([text](const QString& member) { return !text.contains(member); });
     }
+    common_.clear();
+    for (const QString& member : std::as_const(members))
+        common_.append(member.mid(1, member.size() - 2));
 }
 
 void TSelectedTags::ReadPartial(TADOQuery& records)
 {
     records.Requery();
     const int tags = records.FieldByName(QStringLiteral("TAGS"))->Index();
+    const int count = records.RecordCount();
     partial_.clear();
-    QSet<QString> seen;
-    QVariant last;
-    for (int row = 0; row < records.RecordCount(); ++row) {
-        const QVariant value = records.ValueAt(row, tags);
-        if (value.isNull())
+    snapshot_ = common_;
+    QSet<QStringView> seen;
+    QStringView last;
+    for (int row = 0; row < count; ++row) {
+        const QStringView text = records.TextAt(row, tags);
+        if (text.isNull())
             continue;
-        last = value;
-        const QString text = value.toString();
+        last = text;
         if (seen.contains(text))
             continue;
         seen.insert(text);
@@ -227,6 +229,7 @@ void TSelectedTags::ReadPartial(TADOQuery& records)
                 partial_.append(code);
         }
     }
-    snapshot_ = last.isValid() ? CodesOf(last.toString()) : common_;
+    if (!last.isNull())
+        snapshot_ = CodesOf(last);
     partial_.removeIf([this](const QString& code) { return common_.contains(code); });
 }

@@ -274,6 +274,10 @@ void QueryTest::valuesOfAnyRowAreReadWithoutMoving()
     QVERIFY(!query_->ValueAt(3, 0).isValid());
     QVERIFY(!query_->ValueAt(-1, 0).isValid());
     QVERIFY(!query_->ValueAt(0, 9).isValid());
+    QCOMPARE(query_->TextAt(1, 1), QStringView(u"خودکار"));
+    QVERIFY(query_->TextAt(2, 1).isNull());
+    QVERIFY(query_->TextAt(1, 0).isNull()); // a number
+    QVERIFY(query_->TextAt(3, 1).isNull());
     QCOMPARE(query_->RecNo(), 1);
 }
 

@@ -229,6 +229,8 @@ private Q_SLOTS:
             << QString() << QStringLiteral("5,15,51") << QStringLiteral("5");
         QTest::newRow("a lone comma at the end") << QStringList{QStringLiteral(",5,"), QStringLiteral(",")}
                                                  << QString() << QStringLiteral("5") << QString();
+        QTest::newRow("an empty text at the end")
+            << QStringList{QStringLiteral(",5,"), QString()} << QString() << QStringLiteral("5") << QString();
         QTest::newRow("what is no code") << QStringList{QStringLiteral(",x,5,,"), QStringLiteral(",5,x,,")}
                                          << QStringLiteral("5") << QString() << QStringLiteral("5");
         QTest::newRow("equal records again")
@@ -245,7 +247,9 @@ private Q_SLOTS:
         QFETCH(const QString, snapshot);
         TTagTables tables;
         for (int i = 0; i < records.size(); ++i)
-            tables.AddGoods(i + 1, records[i] == QStringLiteral("NULL") ? QVariant() : QVariant(records[i]));
+            tables.AddGoods(i + 1, records[i] == QStringLiteral("NULL")
+                                       ? QVariant()
+                                       : QVariant(QStringLiteral("") + records[i]));
         tables.Query.SQL.SetText(QStringLiteral("SELECT TAGS FROM Goods ORDER BY Id"));
         TSelectedTags selected;
         selected.ReadCommon(tables.Query);
