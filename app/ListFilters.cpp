@@ -2,37 +2,37 @@
 
 #include "AdvListEditorPer.h"
 #include "Category_SearchWithManager_UNT.h"
+#include "CodeListItems.h"
 #include "Look.h"
-#include "PersianText.h"
+#include "PopupMenu.h"
+#include "ReferenceHost.h"
 #include "SmartCheckBox_TRV.h"
-#include "TagPalette.h"
+#include "Tags_search_UNT.h"
 #include "TarvaSearchManager.h"
 
 #include <QHBoxLayout>
 
 namespace {
 
+constexpr QLatin1String tagsKey("Tags");
 constexpr QLatin1String categoryKey("Category");
 constexpr QLatin1String noTagKey("NoTag");
 constexpr QLatin1String noCategoryKey("NoCategory");
 
-QString Is(const QString& title, const QString& name)
-{
-    return QStringLiteral("%1 «%2» باشد").arg(title, PersianText::Isolated(name));
-}
-
 } // namespace
 
-TListFilters::TListFilters(const TListDescription& list, const TTagPalette& palette, QWidget* parent)
-    : TSmartPanel_TRV(parent), list_(list), palette_(&palette)
+TListFilters::TListFilters(const TListDescription& list, TReferenceHost& host, QWidget* parent)
+    : TSmartPanel_TRV(parent), list_(list)
 {
     SetGround(gBand);
+    Tags = new TTags_search_FRM(this);
+    Tags->SetSearchble(true);
     Category = new TCategorysearchframe(this);
     NoTag = NewBox(QStringLiteral("NoTag_CHK"), QStringLiteral("بی‌برچسب"));
     NoCategory = NewBox(QStringLiteral("NoCategory_CHK"), QStringLiteral("بی‌دسته"));
-    AddItems();
+    AddItems(host);
     Lay();
-    NoTag->OnClick = [this](QObject*) { noTag_->SetActive(NoTag->Checked()); };
+    NoTag->OnClick = [this](QObject*) { SwitchNoTag(); };
     NoCategory->OnClick = [this](QObject*) { SwitchNoCategory(); };
 }
 
@@ -55,6 +55,7 @@ void TListFilters::Lay()
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(Look::Margin, 0, Look::Margin, Look::Unit);
     row->setSpacing(Look::Margin);
+    row->addWidget(Tags);
     row->addWidget(NoTag);
     row->addSpacing(Look::GroupGap);
     row->addWidget(Category);
@@ -62,17 +63,11 @@ void TListFilters::Lay()
     row->addStretch(1);
 }
 
-void TListFilters::AddItems()
+void TListFilters::AddItems(TReferenceHost& host)
 {
-    TSearchItem category;
-    category.Title = QStringLiteral("دسته");
-    category.FiledName = QStringLiteral("Categories");
-    category.DataType = TSearchDataType::idtCodeList;
-    category.Words = [this, title = category.Title](const TTarvaSearch&) {
-        const TAdvListValues& path = Category->Editor->Values();
-        return path.IsEmpty() ? QString() : Is(title, path.Last().DisplayText);
-    };
-    Category->TarvaSearch1->SearchItems.Add(category);
+    Tags->TarvaSearch_tags->SearchItems.Add(CodeListItems::Tags(host.Connection()));
+    Tags->TarvaSearch_tags->SetItemIndex(0);
+    Category->TarvaSearch1->SearchItems.Add(CodeListItems::Categories(host.Connection()));
     Category->TarvaSearch1->SetItemIndex(0);
     noTag_ = NewNoneCriterion(QStringLiteral("tags"), QStringLiteral("برچسب نداشته باشد"));
     noCategory_ = NewNoneCriterion(QStringLiteral("Categories"), QStringLiteral("دسته نداشته باشد"));
@@ -95,18 +90,22 @@ TTarvaSearch* TListFilters::NewNoneCriterion(const QString& column, const QStrin
 
 void TListFilters::AddTo(TTarvaSearchManager& manager) const
 {
-    for (TTarvaSearch* criterion : {Category->TarvaSearch1, noTag_, noCategory_})
+    for (TTarvaSearch* criterion : {Tags->TarvaSearch_tags, Category->TarvaSearch1, noTag_, noCategory_})
         manager.Add(criterion);
 }
 
 void TListFilters::Start()
 {
+    Tags->frame_load();
     const bool goods = list_.Labels->Kind == TCategoryStore::TListKind::Goods;
     Category->open(goods ? TCategorysearchframe::GoodsLists : TCategorysearchframe::PersonLists);
 }
 
 void TListFilters::Clear()
 {
+    Tags->Tag_editor->Values().Clear();
+    Tags->Tag_editor->clear();
+    Tags->Filter();
     Category->Editor->Values().Clear();
     Category->createmenuItemByCode(0);
     Category->TarvaSearch1->SetValue1(QString());
@@ -116,7 +115,15 @@ void TListFilters::Clear()
 
 void TListFilters::FocusTags() const
 {
-    Category->Editor->setFocus(Qt::ShortcutFocusReason);
+    Tags->Tag_editor->setFocus(Qt::ShortcutFocusReason);
+}
+
+void TListFilters::SwitchNoTag()
+{
+    const bool none = NoTag->Checked();
+    noTag_->SetActive(none);
+    Tags->TarvaSearch_tags->SetActive(!none);
+    Tags->setEnabled(!none);
 }
 
 void TListFilters::SwitchNoCategory()
@@ -127,6 +134,15 @@ void TListFilters::SwitchNoCategory()
     Category->setEnabled(!none);
 }
 
+QJsonArray TListFilters::ChosenTags() const
+{
+    QJsonArray codes;
+    const TAdvListValues& tags = Tags->Tag_editor->Values();
+    for (int item = 0; item < tags.Count(); ++item)
+        codes.append(tags.GetItem(item).Value.toInt());
+    return codes;
+}
+
 int TListFilters::CategoryId() const
 {
     const TAdvListValues& path = Category->Editor->Values();
@@ -135,12 +151,22 @@ int TListFilters::CategoryId() const
 
 QJsonObject TListFilters::State() const
 {
-    return {
-        {categoryKey, CategoryId()}, {noTagKey, NoTag->Checked()}, {noCategoryKey, NoCategory->Checked()}};
+    return {{tagsKey, ChosenTags()},
+            {categoryKey, CategoryId()},
+            {noTagKey, NoTag->Checked()},
+            {noCategoryKey, NoCategory->Checked()}};
 }
 
 void TListFilters::Restore(const QJsonObject& state)
 {
+    // As if the user picked them again; a tag that is gone is not in the menu.
+    const QJsonArray tags = state.value(tagsKey).toArray();
+    for (const QJsonValue& code : tags) {
+        for (int item = 0; item < Tags->tags_list_pop->Count(); ++item) {
+            if (Tags->tags_list_pop->Item(item)->Tag == code.toInt())
+                Tags->POP_click(Tags->tags_list_pop->Item(item));
+        }
+    }
     const int category = state.value(categoryKey).toInt();
     if (category > 0 && CategoryId() == 0) {
         Category->create_bubble(category, TCategoryPicker::WholePath);

@@ -3,11 +3,13 @@
 #include "ListDescription.h"
 #include "SmartPanel_TRV.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 class TCategorysearchframe;
 class TSmartCheckBox_TRV;
-class TTagPalette;
+class TReferenceHost;
+class TTags_search_FRM;
 class TTarvaSearchManager;
 
 /// The line above a list that narrows it by one tag and by one category, or to the records that have none.
@@ -16,8 +18,8 @@ class TListFilters : public TSmartPanel_TRV
     Q_OBJECT
 
 public:
-    /// `list` has labels; the palette must outlive the line.
-    TListFilters(const TListDescription& list, const TTagPalette& palette, QWidget* parent);
+    /// `list` has labels.
+    TListFilters(const TListDescription& list, TReferenceHost& host, QWidget* parent);
     ~TListFilters() override;
 
     /// All criteria of the line; the manager forgets them when the line is destroyed.
@@ -32,20 +34,22 @@ public:
     /// After Start(). The user's default category stays in force where he has one.
     void Restore(const QJsonObject& state);
 
+    TTags_search_FRM* Tags = nullptr;
     TCategorysearchframe* Category = nullptr;
     TSmartCheckBox_TRV* NoTag = nullptr;
     TSmartCheckBox_TRV* NoCategory = nullptr;
 
 private:
     void Lay();
-    void AddItems();
+    void AddItems(TReferenceHost& host);
     TSmartCheckBox_TRV* NewBox(const QString& name, const QString& caption);
     TTarvaSearch* NewNoneCriterion(const QString& column, const QString& words);
+    void SwitchNoTag();
     void SwitchNoCategory();
+    QJsonArray ChosenTags() const;
     int CategoryId() const;
 
     TListDescription list_;
-    const TTagPalette* palette_;
     TTarvaSearch* noTag_ = nullptr;
     TTarvaSearch* noCategory_ = nullptr;
 };

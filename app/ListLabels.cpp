@@ -15,7 +15,7 @@ constexpr QLatin1String lineKey("Line");
 TListLabels::TListLabels(const TListDescription& list, const TListSelection::TList& parts,
                          TReferenceHost& host, QWidget* form)
     : list_(list), parts_(parts), host_(&host), selection_(parts, this),
-      panel_(new TListTagging(list, selection_, host, form)), filters_(new TListFilters(list, palette_, form))
+      panel_(new TListTagging(list, selection_, host, form)), filters_(new TListFilters(list, host, form))
 {
     panel_->hide();
     ShowMarkColumn();

@@ -76,7 +76,7 @@ void AssignCategory(TTourPlayer& player)
                  QStringLiteral("Escape برگزیده‌ها را برنداشت"));
 }
 
-void FilterByCategory(TTourPlayer& player)
+void Filter(TTourPlayer& player)
 {
     TListFilters& filters = Labels(player).Filters();
     const int all = player.List().DataSet().RecordCount();
@@ -93,6 +93,14 @@ void FilterByCategory(TTourPlayer& player)
     player.WaitForAnswer();
     player.Check(player.List().DataSet().RecordCount() == all,
                  QStringLiteral("Escape فیلتر دسته را پاک نکرد"));
+    filters.FocusTags();
+    player.Type(QStringLiteral("پرفروش"));
+    player.Press(Qt::Key_Return);
+    player.WaitForAnswer();
+    player.Check(player.List().DataSet().RecordCount() < all, QStringLiteral("فیلتر برچسب کاری نکرد"));
+    player.Screenshot(QStringLiteral("tag-filter"));
+    player.List().ClearSearch();
+    player.WaitForAnswer();
     player.Click(filters.NoTag, {filters.NoTag->width() - 10, filters.NoTag->height() / 2});
     player.WaitForAnswer();
     const int without = player.List().DataSet().RecordCount();
@@ -111,6 +119,6 @@ QVector<TTourStep> LabelSteps()
         {u"برگزیدن چند ردیف", MarkRows},
         {u"برچسب گذاشتن و برداشتن", TagRows},
         {u"گذاشتن کالاها در دسته", AssignCategory},
-        {u"فیلتر دسته و بی‌برچسب‌ها", FilterByCategory},
+        {u"فیلتر دسته و برچسب", Filter},
     };
 }

@@ -12,6 +12,7 @@
 #include "SmartCheckBox_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "tags_frame.h"
+#include "Tags_search_UNT.h"
 #include "TarvaSearchManager.h"
 
 /// Tags and categories on the lists of goods and persons: the choice of rows, the panel, the filters.
@@ -203,6 +204,46 @@ private Q_SLOTS:
         QCOMPARE(list_->DataSet().RecordCount(), Number(QStringLiteral("SELECT COUNT(*) FROM dbo.kala")));
     }
 
+    void theTagLineNarrowsTheList()
+    {
+        Filters().FocusTags();
+        QVERIFY(Filters().Tags->Tag_editor->hasFocus());
+        shop_->Type(TagName(1));
+        shop_->Press(Qt::Key_Return);
+        WaitForRows();
+        const int tagged = Number(QStringLiteral("SELECT COUNT(*) FROM dbo.kala WHERE tags LIKE N'%,1,%'"));
+        QVERIFY(tagged > 0);
+        QCOMPARE(list_->DataSet().RecordCount(), tagged);
+        QVERIFY2(list_->Footer().ConditionInWords().contains(TagName(1)),
+                 qPrintable(list_->Footer().ConditionInWords()));
+        list_->SaveState();
+        Open(GoodsList());
+        QCOMPARE(list_->DataSet().RecordCount(), tagged);
+        QCOMPARE(Filters().Tags->Tag_editor->Values().GetItem(0).DisplayText, TagName(1));
+        shop_->Press(Qt::Key_Escape);
+        WaitForRows();
+        QCOMPARE(list_->DataSet().RecordCount(), Number(QStringLiteral("SELECT COUNT(*) FROM dbo.kala")));
+        QVERIFY(Filters().Tags->Tag_editor->Values().IsEmpty());
+        list_->SaveState();
+    }
+
+    void rowsThatLeaveTheFilterStayChosen()
+    {
+        Filters().NoTag->click();
+        WaitForRows();
+        QVERIFY(!Filters().Tags->isEnabled());
+        FocusGrid();
+        shop_->Press(Qt::Key_Space);
+        const QString chosen = Keys();
+        OpenPanel();
+        shop_->Type(TagName(2));
+        shop_->Press(Qt::Key_Return);
+        WaitForRows();
+        QCOMPARE(Tags(chosen.toInt()), QStringLiteral(",2,"));
+        QCOMPARE(Keys(), chosen);
+        QVERIFY(Text(0, QStringLiteral("Code")) != chosen);
+    }
+
     void rowsWithoutATagOrACategoryAreFound()
     {
         shop_->Connection.Execute(QStringLiteral("DELETE FROM dbo.kala_category WHERE kala_code = 7"));
@@ -357,6 +398,10 @@ private:
                 return model->index(row, column).data().toString();
         }
         return {};
+    }
+    QString Text(int row, const QString& field)
+    {
+        return list_->DataSet().ValueAt(row, list_->DataSet().FieldByName(field)->Index()).toString();
     }
     int Number(const QString& statement) { return shop_->Text(statement).toInt(); }
     QString TagName(int code)
