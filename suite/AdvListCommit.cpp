@@ -33,7 +33,7 @@ void TAdvListEditorPer::TPrivate::Remove(int first, int last)
 }
 
 // The owner looks for removals in OnKeyUp of Delete.
-bool TAdvListEditorPer::TPrivate::RemoveAsDelete(const std::function<void()>& removal)
+void TAdvListEditorPer::TPrivate::RemoveAsDelete(const std::function<void()>& removal)
 {
     const QPointer<TAdvListEditorPer> alive = editor;
     const auto raise = [this](const TKeyEvent& handler) {
@@ -47,11 +47,10 @@ bool TAdvListEditorPer::TPrivate::RemoveAsDelete(const std::function<void()>& re
     stroke = {values.Count(), -1, {}, false};
     const int before = revision;
     if (!raise(editor->OnKeyDown) || !alive || revision != before)
-        return false;
+        return;
     removal();
     if (alive)
         raise(editor->OnKeyUp);
-    return true;
 }
 
 void TAdvListEditorPer::TPrivate::RemoveSelected()

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int MostRows = 8;
+constexpr int LeastWidth = 60 * Look::Unit;
 constexpr int EntryHeight = Look::ControlHeight;
 constexpr int EntryPictureSide = 4 * Look::Unit;
 
@@ -141,9 +142,15 @@ void TAdvListCompletion::Place()
     const QRect edit(editor_->mapToGlobal(QPoint(0, 0)), editor_->size());
     const QRect screen = editor_->screen()->availableGeometry();
     const int rows = qMin(MostRows, model_->rowCount());
-    const int height = rows * EntryHeight + 2 * frameWidth();
-    const bool below = edit.bottom() + 1 + height <= screen.bottom() || edit.top() - height < screen.top();
-    setGeometry(edit.left(), below ? edit.bottom() + 1 : edit.top() - height, edit.width(), height);
+    const QSize size(qMax(edit.width(), LeastWidth), rows * EntryHeight + 2 * frameWidth());
+    const bool below =
+        edit.bottom() + 1 + size.height() <= screen.bottom() || edit.top() - size.height() < screen.top();
+    // Its entries begin where the row of the editor begins.
+    const bool fromRight = editor_->layoutDirection() == Qt::RightToLeft;
+    const int left = fromRight ? edit.right() + 1 - size.width() : edit.left();
+    const int last = qMax(screen.left(), screen.right() + 1 - size.width());
+    setGeometry(
+        {{qBound(screen.left(), left, last), below ? edit.bottom() + 1 : edit.top() - size.height()}, size});
 }
 
 void TAdvListCompletion::Watch(bool on)

@@ -89,7 +89,7 @@ struct TAdvListEditorPer::TPrivate
     int SelectionEnd() const { return qMax(anchor, caret); }
     bool HasSelection() const { return anchor != caret; }
     void Remove(int first, int last);
-    bool RemoveAsDelete(const std::function<void()>& removal);
+    void RemoveAsDelete(const std::function<void()>& removal);
     void RemoveSelected();
     bool Commit(const QString& text);
     void Choose(int entry);

@@ -54,7 +54,6 @@ void TAdvListLine::inputMethodEvent(QInputMethodEvent* event)
 
 void TAdvListLine::focusInEvent(QFocusEvent* event)
 {
-    const QPointer<TAdvListLine> alive = this;
     QLineEdit::focusInEvent(event);
     // The caret comes to a text to go on with it, not to replace it.
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
@@ -62,8 +61,6 @@ void TAdvListLine::focusInEvent(QFocusEvent* event)
         deselect();
     editor_->update();
     ControlDispatch::FocusIn(editor_, *editor_, event);
-    if (alive)
-        editor_->d->TellFocus();
 }
 
 void TAdvListLine::focusOutEvent(QFocusEvent* event)

@@ -28,26 +28,37 @@ void TAdvListMatches::Forget()
     byReading_.clear();
 }
 
-void TAdvListMatches::Fold() const
+const QStringList& TAdvListMatches::FoldedEntries() const
 {
-    if (folded_.size() == entries_.Count())
-        return;
-    folded_.clear();
-    byReading_.clear();
-    folded_.reserve(entries_.Count());
-    for (int entry = 0; entry < entries_.Count(); ++entry) {
-        folded_ << Folded(entries_[entry].DisplayText);
-        byReading_[folded_.constLast()] << entry;
+    if (folded_.size() != entries_.Count()) {
+        folded_.clear();
+        folded_.reserve(entries_.Count());
+        for (int entry = 0; entry < entries_.Count(); ++entry)
+            folded_ << Folded(entries_[entry].DisplayText);
     }
+    return folded_;
+}
+
+const QMultiHash<QString, int>& TAdvListMatches::ByReading() const
+{
+    if (byReading_.size() != entries_.Count()) {
+        const QStringList& folded = FoldedEntries();
+        byReading_.clear();
+        byReading_.reserve(folded.size());
+        // Backwards, because the hash gives equal ones in the reverse of their order.
+        for (int entry = entries_.Count() - 1; entry >= 0; --entry)
+            byReading_.insert(folded.at(entry), entry);
+    }
+    return byReading_;
 }
 
 QVector<int> TAdvListMatches::BeginningWith(const QString& text) const
 {
-    Fold();
     const QString beginning = Folded(text);
+    const QStringList& folded = FoldedEntries();
     QVector<int> found;
-    for (int entry = 0; entry < folded_.size(); ++entry) {
-        if (folded_.at(entry).startsWith(beginning))
+    for (int entry = 0; entry < folded.size(); ++entry) {
+        if (folded.at(entry).startsWith(beginning))
             found << entry;
     }
     return found;
@@ -58,8 +69,7 @@ int TAdvListMatches::Reading(const QString& text) const
     const QString reading = Folded(text);
     if (reading.isEmpty())
         return -1;
-    Fold();
-    const QVector<int> alike = byReading_.value(reading);
+    const QList<int> alike = ByReading().values(reading);
     const auto same = std::find_if(alike.cbegin(), alike.cend(),
                                    [&](int entry) { return entries_[entry].DisplayText == text; });
     if (same != alike.cend())

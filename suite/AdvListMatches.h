@@ -23,10 +23,11 @@ public:
     static QString Folded(const QString& text);
 
 private:
-    void Fold() const;
+    const QStringList& FoldedEntries() const;
+    const QMultiHash<QString, int>& ByReading() const;
 
     const TAdvListValues& entries_;
     // Made when first asked for.
     mutable QStringList folded_;
-    mutable QHash<QString, QVector<int>> byReading_;
+    mutable QMultiHash<QString, int> byReading_;
 };

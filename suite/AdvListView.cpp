@@ -182,7 +182,6 @@ TAdvListBubble TAdvListEditorPer::TPrivate::Bubble(int index)
     bubble.HasMark = closeMarks && !readOnly;
     bubble.IsSelected = index >= SelectionStart() && index < SelectionEnd();
     bubble.IsMarkHot = index == hotMark;
-    bubble.IsEnabled = editor->isEnabled();
     return bubble;
 }
 

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void tabTakesAnEntryGoneToAndStays();
     void escapeClosesTheListAndNothingElse();
     void aClickTakesAnEntry();
+    void theListStandsBelowTheRowsBeginning();
     void aPressElsewhereAndLeavingCloseTheList();
     void clearingTheTextClosesTheList();
     void altAndDownListsAllEntries();
@@ -170,6 +171,22 @@ void AdvListEditorPerCompletionTest::aClickTakesAnEntry()
     QCOMPARE(form.editor.EditText(), QString());
     QVERIFY(!form.List());
     QVERIFY(form.editor.hasFocus());
+}
+
+void AdvListEditorPerCompletionTest::theListStandsBelowTheRowsBeginning()
+{
+    TCompletionForm form;
+    form.editor.setFixedWidth(120);
+    form.window.move(300, 60);
+    QVERIFY(form.Show());
+    form.Type(QStringLiteral("ل"));
+    QVERIFY(form.List());
+    const QRect edit(form.editor.mapToGlobal(QPoint(0, 0)), form.editor.size());
+    QCOMPARE(form.List()->geometry().right(), edit.right());
+    QCOMPARE(form.List()->geometry().top(), edit.bottom() + 1);
+    QVERIFY(form.List()->width() > edit.width());
+    form.window.move(310, 80);
+    QTRY_COMPARE(form.List()->geometry().top(), form.editor.mapToGlobal(QPoint(0, form.editor.height())).y());
 }
 
 void AdvListEditorPerCompletionTest::aPressElsewhereAndLeavingCloseTheList()

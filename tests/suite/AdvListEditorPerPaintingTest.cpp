@@ -48,6 +48,7 @@ private Q_SLOTS:
     void anIndexWithoutAPictureShowsNone();
     void textsCanBeReadOnEveryGround_data();
     void textsCanBeReadOnEveryGround();
+    void theSchemeMayChangeWhileItIsShown();
     void theFocusIsSeen();
     void selectedBubblesTakeTheSelectionsColour();
     void aLongNameIsElidedWithinItsBubble();
@@ -146,6 +147,22 @@ void AdvListEditorPerPaintingTest::textsCanBeReadOnEveryGround()
     const QImage box = form.Grab().copy(form.editor.focusProxy()->geometry().adjusted(0, 3, 0, -3));
     QCOMPARE(Ink::Ground(box), shown);
     QVERIFY(Look::Contrast(Ink::Ground(box), Ink::Foreground(box)) >= 4.5);
+}
+
+void AdvListEditorPerPaintingTest::theSchemeMayChangeWhileItIsShown()
+{
+    TPaintedForm form;
+    form.Fill(QStringLiteral("آب"));
+    form.editor.SetEditText(QStringLiteral("نوشته"));
+    form.other.setFocus();
+    QVERIFY(form.ShowWith(form.other));
+    for (const bool dark : {true, false}) {
+        Look::SetScheme(dark ? Look::TScheme::Dark : Look::TScheme::Light);
+        QCoreApplication::processEvents();
+        const QImage box = form.Grab().copy(form.editor.focusProxy()->geometry().adjusted(0, 3, 0, -3));
+        QCOMPARE(Ink::Ground(box), Look::ColorOf(Look::TRole::Base, dark));
+        QVERIFY(Look::Contrast(Ink::Ground(box), Ink::Foreground(box)) >= 4.5);
+    }
 }
 
 void AdvListEditorPerPaintingTest::theFocusIsSeen()
