@@ -21,6 +21,7 @@ TCategoryPicker::TCategoryPicker(TAdvListEditorPer& editor, TPopupMenu& menu, TA
 {
     editor_.SetSeparator(u';');
     editor_.SetPopupMenu(&menu_);
+    menu_.SetCentred(true);
 }
 
 void TCategoryPicker::createmenuItemByCode(int code)

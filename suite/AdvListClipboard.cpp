@@ -113,7 +113,9 @@ void TAdvListEditorPer::TPrivate::PasteIntoLine(const QString& text)
 void TAdvListEditorPer::TPrivate::ShowMenu(const QPoint& position)
 {
     if (popupMenu) {
-        popupMenu->popup(position);
+        // An empty one would be an invisible window that takes the next key or click.
+        if (!popupMenu->isEmpty())
+            popupMenu->popup(position);
         return;
     }
     TEditCommands commands;

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
+#include <QScreen>
 #include <QWidgetAction>
 #include <stdexcept>
 #include <string>
@@ -81,8 +82,21 @@ TMenuItem* TPopupMenu::Item(int index) const
 
 void TPopupMenu::Popup(const QPoint& screenPosition)
 {
+    // It would be an invisible window that takes the next key or click.
+    if (items_.isEmpty())
+        return;
     popup(screenPosition);
     top_ = screenPosition.y();
+    if (isCentred_)
+        CentreAt(screenPosition.x());
+}
+
+void TPopupMenu::CentreAt(int x)
+{
+    const QRect room = screen()->availableGeometry();
+    const int rightmost = qMax(room.left(), room.right() + 1 - width());
+    move(qBound(room.left(), x - width() / 2, rightmost), y());
+    right_ = geometry().right();
 }
 
 void TPopupMenu::actionEvent(QActionEvent* event)

@@ -33,8 +33,10 @@ public:
     /// In the order of adding; throws std::out_of_range.
     TMenuItem* Item(int index) const;
 
-    /// Opens the menu at a point of the screen and returns at once. At the mouse pointer the menu lies to its
-    /// left.
+    /// Whether the menu lies in the middle under the point that it is opened at. False by default: then it
+    /// lies beside it, at the mouse pointer to its left.
+    void SetCentred(bool centred) { isCentred_ = centred; }
+    /// Opens the menu at a point of the screen and returns at once. A menu without items stays closed.
     void Popup(const QPoint& screenPosition);
     /// What the user has typed since the menu was opened.
     QString FindText() const { return findText_; }
@@ -50,6 +52,7 @@ private:
     void SetFindText(const QString& text);
     QAction* ShowMatches();
     void FitToItems(QAction* active);
+    void CentreAt(int x);
 
     QVector<QIcon> icons_;
     QVector<TMenuItem*> items_;
@@ -59,4 +62,5 @@ private:
     int top_ = 0;   ///< where the menu was opened, on the screen
     int right_ = 0; ///< its right edge
     bool isBusy_ = false;
+    bool isCentred_ = false;
 };

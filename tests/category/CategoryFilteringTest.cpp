@@ -30,6 +30,9 @@ private Q_SLOTS:
     void backspaceWithoutBubblesOffersTheTopLevel();
     void backspaceInTheTypedTextPublishesThePath();
     void aNameCompletedAtTheEndPublishesTheBareValue();
+    void aMenuWithoutEntriesDoesNotOpen();
+    void theRightButtonOpensTheMenuToo();
+    void aCircleInTheTreeLeavesAFrameThatWorks();
 
 private:
     using TForm = TCategoryForm<TCategorysearchframe>;
@@ -87,6 +90,7 @@ void CategoryFilteringTest::theButtonOpensTheMenuAtThePointer()
     QTest::mouseClick(form_->Frame->select_BTN, Qt::LeftButton);
     QVERIFY(form_->Menu().isVisible());
     QCOMPARE(form_->Menu().y(), pointer.y());
+    QVERIFY(qAbs(form_->Menu().geometry().center().x() - pointer.x()) <= 1);
     QCOMPARE(Sent(), QStringList());
     TForm::Press(Qt::Key_Escape);
 }
@@ -244,6 +248,49 @@ void CategoryFilteringTest::aNameCompletedAtTheEndPublishesTheBareValue()
                          Menu(7, "(12)") + Menu(7, "(12)"));
     QCOMPARE(Criterion().Value1(), QVariant(QStringLiteral("7")));
     QVERIFY(!Criterion().Active());
+}
+
+void CategoryFilteringTest::aMenuWithoutEntriesDoesNotOpen()
+{
+    ShowPath(4);
+    TForm::Type(QStringLiteral("+"));
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    const QPoint place(40, 12);
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, place, form_->Editor().mapToGlobal(place));
+    QApplication::sendEvent(&form_->Editor(), &request);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    TForm::Type(QStringLiteral("م"));
+    QCOMPARE(form_->Editor().EditText(), QStringLiteral("م"));
+}
+
+void CategoryFilteringTest::theRightButtonOpensTheMenuToo()
+{
+    const QPoint place(40, 12);
+    QCursor::setPos(form_->Editor().mapToGlobal(place));
+    QTest::mouseClick(&form_->Editor(), Qt::RightButton, Qt::NoModifier, place);
+    QVERIFY(form_->Menu().isVisible());
+    QContextMenuEvent request(QContextMenuEvent::Mouse, place, form_->Editor().mapToGlobal(place));
+    QApplication::sendEvent(&form_->Editor(), &request);
+    QVERIFY(form_->Menu().isVisible());
+    Typing::Press(&form_->Menu(), Qt::Key_Down);
+    Typing::Press(&form_->Menu(), Qt::Key_Return);
+    QCOMPARE(form_->Bubbles(), QStringList("کالا|1|0"));
+    QVERIFY(!form_->Menu().isVisible());
+}
+
+void CategoryFilteringTest::aCircleInTheTreeLeavesAFrameThatWorks()
+{
+    ShowPath(4);
+    form_->Frame->createmenuItemByCode(2);
+    form_->Tables.Execute(QStringLiteral("UPDATE category SET parent_code = 7 WHERE id = 1"));
+    QVERIFY_THROWS_EXCEPTION(EADOError, form_->Choose(QStringLiteral("چکش")));
+    QCOMPARE(form_->Bubbles(), QStringList("خدمات|4|0"));
+    QCOMPARE(values_, QStringList());
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    form_->Tables.Execute(QStringLiteral("UPDATE category SET parent_code = 0 WHERE id = 1"));
+    QVERIFY(form_->Choose(QStringLiteral("چکش")));
+    QCOMPARE(form_->Bubbles().size(), 3);
+    QCOMPARE(values_, QStringList(",7,"));
 }
 
 QTEST_MAIN(CategoryFilteringTest)

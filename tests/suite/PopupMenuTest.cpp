@@ -64,6 +64,29 @@ private Q_SLOTS:
         QCOMPARE(chosen_.last(), QStringLiteral("یک:5"));
     }
 
+    void aCentredMenuLiesUnderItsPointAndOnTheScreen()
+    {
+        Add(QStringLiteral("یک دستهٔ بسیار بلند"), 1);
+        menu_->SetCentred(true);
+        const QRect room = menu_->screen()->availableGeometry();
+        menu_->Popup(room.center());
+        QVERIFY(qAbs(menu_->geometry().center().x() - room.center().x()) <= 1);
+        menu_->close();
+        menu_->Popup(room.topLeft());
+        QCOMPARE(menu_->geometry().left(), room.left());
+        menu_->close();
+        menu_->Popup(room.topRight());
+        QCOMPARE(menu_->geometry().right(), room.right());
+        menu_->close();
+    }
+
+    void aMenuWithoutItemsStaysClosed()
+    {
+        menu_->Popup(window_->mapToGlobal(QPoint(10, 10)));
+        QVERIFY(!menu_->isVisible());
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
     void anAmpersandIsASignAndNoHotKey()
     {
         Add(QStringLiteral("R&D"), 1);
