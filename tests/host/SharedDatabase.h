@@ -4,6 +4,7 @@
 #include "DatabaseFile.h"
 
 #include <memory>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QVariant>
 
@@ -11,23 +12,13 @@
 class TSharedDatabase
 {
 public:
-    TSharedDatabase() { Connect(); }
+    TSharedDatabase() { QFile::copy(Pattern(), File(QStringLiteral("shared.db"))); }
 
-    QString ConnectionString() const
-    {
-        return QStringLiteral("sqlite:") + folder_.filePath(QStringLiteral("shared.db"));
-    }
+    QString ConnectionString() const { return QStringLiteral("sqlite:") + File(QStringLiteral("shared.db")); }
     QString File(const QString& name) const { return folder_.filePath(name); }
 
-    /// One more user of the file, which is made for the first one.
-    std::unique_ptr<TADOConnection> Connect() const
-    {
-        auto result = std::make_unique<TADOConnection>();
-        TDatabaseOptions options;
-        options.Size = TSampleSize::Small();
-        OpenDatabase(*result, ConnectionString(), options);
-        return result;
-    }
+    /// One more user of the file.
+    std::unique_ptr<TADOConnection> Connect() const { return Open(ConnectionString()); }
 
     /// Moves the moments of all holds into the past, as if the time had gone by without a renewal.
     static void LetPass(TADOConnection& connection, int seconds)
@@ -44,5 +35,23 @@ public:
     }
 
 private:
+    static std::unique_ptr<TADOConnection> Open(const QString& connectionString)
+    {
+        auto result = std::make_unique<TADOConnection>();
+        TDatabaseOptions options;
+        options.Size = TSampleSize::Small();
+        OpenDatabase(*result, connectionString, options);
+        return result;
+    }
+
+    /// The file of which each database of the program is a copy: making one takes far longer.
+    static QString Pattern()
+    {
+        static const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("pattern.db"));
+        Open(QStringLiteral("sqlite:") + file)->Close();
+        return file;
+    }
+
     QTemporaryDir folder_;
 };

@@ -20,11 +20,19 @@ public:
     /// it is cancelled.
     int Define(const QString& name, const TScript& script)
     {
+        int answer = 0;
+        Play([&] { answer = ::Host().Pickers.Call_insert_tags(name, 1); }, script);
+        return answer;
+    }
+
+    /// The same for whatever else opens the dialog.
+    void Play(const std::function<void()>& opening, const TScript& script)
+    {
         Played = 0;
         QTimer timer;
         timer.callOnTimeout([&] { PlayWhenOpen(timer, script); });
         timer.start(10);
-        return ::Host().Pickers.Call_insert_tags(name, 1);
+        opening();
     }
 
     QVariant Value(const QString& statement) { return TSharedDatabase::Value(*Connection, statement); }
@@ -37,7 +45,7 @@ public:
     std::unique_ptr<TADOConnection> Connection = Database.Connect();
     THostSettings Settings{Database.File(QStringLiteral("settings.ini"))};
     TReferenceHost Host{*Connection, Settings};
-    int Played = 0; ///< scripts since the last call of Define
+    int Played = 0; ///< scripts since the last call
 
 private:
     void PlayWhenOpen(QTimer& timer, const TScript& script)
