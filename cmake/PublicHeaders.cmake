@@ -21,6 +21,8 @@ baseframe_public_headers(Ado ado
   PagedDataSet.h
   QueryThread.h)
 baseframe_public_headers(Component_TRV suite
+  AdvListEditorPer.h
+  AdvListValues.h
   Balloon.h
   CalendarKind.h
   ControlEvents.h

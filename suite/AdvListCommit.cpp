@@ -153,7 +153,7 @@ void TAdvListEditorPer::TPrivate::TextTyped()
         Offer(line->text());
 }
 
-void TAdvListEditorPer::TPrivate::HideCompletion()
+void TAdvListEditorPer::TPrivate::HideCompletion() const
 {
     if (completion)
         completion->hide();

@@ -114,7 +114,7 @@ bool TAdvListCompletion::TakeKey(int key)
 {
     const int now = currentIndex().row();
     const int last = model_->rowCount() - 1;
-    int row = now;
+    int row = 0;
     switch (key) {
     case Qt::Key_Up:
         row = now - 1;

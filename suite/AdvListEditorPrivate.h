@@ -58,8 +58,8 @@ struct TAdvListEditorPer::TPrivate
     QRect OnScreen(const QRect& reading) const;
     QPoint Reading(const QPoint& point) const;
     TAdvListColors Colors() const;
-    void ShowColors();
-    void ShowPlaceholder();
+    void ShowColors() const;
+    void ShowPlaceholder() const;
     QPixmap Picture(int imageIndex);
     TAdvListBubble Bubble(int index);
     int BubbleAt(const QPoint& point, bool* onMark = nullptr);
@@ -79,7 +79,7 @@ struct TAdvListEditorPer::TPrivate
     bool HandleErase(QKeyEvent* event);
     bool HandleText(QKeyEvent* event);
     bool LeaveByTab(const QKeyEvent& event);
-    bool MovesInLine(QKeyEvent* event);
+    bool MovesInLine(QKeyEvent* event) const;
     void MoveCaret(int place, bool selecting);
     void SelectAll();
     void Compose(QInputMethodEvent* event);
@@ -98,7 +98,7 @@ struct TAdvListEditorPer::TPrivate
     bool TakeParts(const QString& text);
     void Offer(const QString& beginning);
     void TextTyped();
-    void HideCompletion();
+    void HideCompletion() const;
 
     // AdvListClipboard.cpp
     QString SelectedText() const;

@@ -100,7 +100,7 @@ bool TAdvListEditorPer::TPrivate::HandleCommand(const QKeyEvent& event)
 }
 
 // Whether the key has moved the text's caret or its selection.
-bool TAdvListEditorPer::TPrivate::MovesInLine(QKeyEvent* event)
+bool TAdvListEditorPer::TPrivate::MovesInLine(QKeyEvent* event) const
 {
     if (line->text().isEmpty())
         return false;

@@ -137,7 +137,7 @@ TAdvListColors TAdvListEditorPer::TPrivate::Colors() const
     return TAdvListColors::OnGround(Look::FromColorValue(color));
 }
 
-void TAdvListEditorPer::TPrivate::ShowColors()
+void TAdvListEditorPer::TPrivate::ShowColors() const
 {
     const TAdvListColors colors = Colors();
     QPalette palette = editor->palette();
@@ -148,7 +148,7 @@ void TAdvListEditorPer::TPrivate::ShowColors()
     editor->update();
 }
 
-void TAdvListEditorPer::TPrivate::ShowPlaceholder()
+void TAdvListEditorPer::TPrivate::ShowPlaceholder() const
 {
     line->setPlaceholderText(values.IsEmpty() ? placeholder : QString());
 }
