@@ -1,6 +1,7 @@
 #include "TagsForm.h"
 #include "TestCase.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 
 namespace {
@@ -244,6 +245,22 @@ private Q_SLOTS:
         QCOMPARE(form.Tables.TagsOf(3), QStringLiteral(",5,"));
         const QStringList items{QStringLiteral("عمده=5:red"), QStringLiteral("عمومی=15:(green)")};
         QCOMPARE(form.Items(), items);
+    }
+
+    void aCloseMarkTakesItsTagOff()
+    {
+        TTagsForm form;
+        Fill(form);
+        form.Select({1, 3}); // 5 and 7 are common
+        QVERIFY(form.Show());
+        const QRect bubble = QAccessible::queryAccessibleInterface(form.Editor())->child(0)->rect();
+        constexpr int FromEdge = 11;
+        QTest::mouseClick(
+            form.Editor(), Qt::LeftButton, {},
+            form.Editor()->mapFromGlobal(QPoint(bubble.left() + FromEdge, bubble.center().y())));
+        QCOMPARE(form.Items(), QStringList{QStringLiteral("نقدی=7:blue")});
+        QCOMPARE(form.Tables.TagsOf(1), QStringLiteral(",7,"));
+        QCOMPARE(form.Tables.TagsOf(3), QStringLiteral(",7,"));
     }
 
     void deleteTakesTheTagBehindTheCaretOff()
