@@ -1,8 +1,6 @@
 #include "TagPictures.h"
 
-#include "ADOQuery.h"
-
-#include <QScopeGuard>
+#include "OpenAnew.h"
 
 namespace {
 
@@ -24,9 +22,7 @@ void TTagPictures::Add(TADOQuery& query, const QString& statement, const QString
 {
     query.DisableControls();
     const QScopeGuard enable([&query] { query.EnableControls(); });
-    query.Close();
-    query.SQL.SetText(statement);
-    query.Open();
+    OpenAnew(query, statement);
     const int code = query.FieldByName(codeField)->Index();
     const int picture = query.FieldByName(pictureField)->Index();
     for (int row = 0; row < query.RecordCount(); ++row) {

@@ -5,6 +5,7 @@
 #include "AdvListEditorPer.h"
 #include "HostServices.h"
 #include "Look.h"
+#include "OpenAnew.h"
 #include "PopupMenu.h"
 #include "SmartButton_TRV.h"
 #include "SmartLabel_TRV.h"
@@ -22,13 +23,6 @@ constexpr quint32 EditorColorOutside = 0xFFFFFF;
 constexpr int MostChosenTags = 10;
 constexpr int MostTagsOfPicker = 10;
 constexpr quint8 CreateMode = 1;
-
-void OpenAnew(TADOQuery& query, const QString& statement)
-{
-    query.Close();
-    query.SQL.SetText(statement);
-    query.Open();
-}
 
 } // namespace
 

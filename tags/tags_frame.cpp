@@ -1,16 +1,15 @@
 #include "tags_frame.h"
 
 #include "ADOCommand.h"
-#include "ADOQuery.h"
 #include "AdvListEditorPer.h"
 #include "DataSource.h"
 #include "HostServices.h"
+#include "OpenAnew.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
 #include "ui_tags_frame.h"
 
 #include <QHeaderView>
-#include <QScopeGuard>
 
 namespace {
 
@@ -20,15 +19,6 @@ constexpr int GridFontPixels = 15; // 11 points
 constexpr int GridRowPixels = 24;
 constexpr int NameWidth = 150;
 constexpr int SwatchWidth = 16;
-
-void Reopen(TADOQuery& query, const QString& statement)
-{
-    query.DisableControls();
-    const QScopeGuard enable([&query] { query.EnableControls(); });
-    query.Close();
-    query.SQL.SetText(statement);
-    query.Open();
-}
 
 /// The jump from nine rows to ten is intended.
 int HeightFor(int rows)
@@ -107,7 +97,7 @@ void TTags::frame_load()
     fill_imageList();
     Tags_editor->SetImages(pictures_.Images());
     Tags_panel->show();
-    Reopen(*Tags_qry, TagStatements::AllTags());
+    OpenAnew(*Tags_qry, TagStatements::AllTags());
     fill_adveditor(1);
     fill_adveditor(2);
     Tags_editor->Getvalue();
@@ -146,7 +136,7 @@ void TTags::fill_adveditor(int mode)
     if (list.isEmpty())
         return;
     for (const QString& code : splitter(u',' + list + u',')) {
-        Reopen(*Colors_qry, TagStatements::TagByCode(code));
+        OpenAnew(*Colors_qry, TagStatements::TagByCode(code));
         if (Colors_qry->IsEmpty())
             continue;
         const int strong =
@@ -172,8 +162,8 @@ void TTags::exec_sql()
     QString common;
     if (!Tags_editor->Values().IsEmpty())
         Fill_x(1, common);
-    Reopen(*Tags_qry,
-           TagStatements::Suggestions(common.split(u',', Qt::SkipEmptyParts), Tags_editor->EditText()));
+    OpenAnew(*Tags_qry,
+             TagStatements::Suggestions(common.split(u',', Qt::SkipEmptyParts), Tags_editor->EditText()));
 }
 
 void TTags::Rearrang()
@@ -238,7 +228,7 @@ bool TTags::AddTyped()
 {
     const QPointer<TTags> guard(this);
     const QString name = Tags_editor->EditText();
-    Reopen(*tmp_qry, TagStatements::TagByName(name));
+    OpenAnew(*tmp_qry, TagStatements::TagByName(name));
     const bool written = tmp_qry->IsEmpty() ? AddNew(name) : AddExisting(name);
     if (!guard)
         return false;
@@ -296,7 +286,7 @@ bool TTags::AddNew(const QString& name)
     if (code <= 0 || records.Keys.isEmpty())
         return false;
     const QString number = QString::number(code);
-    Reopen(*Colors_qry, TagStatements::NewTag(number));
+    OpenAnew(*Colors_qry, TagStatements::NewTag(number));
     AddStrong(Colors_qry->FieldByName(QStringLiteral("Name"))->AsString(),
               Colors_qry->FieldByName(QStringLiteral("Code"))->AsString());
     Write(TagStatements::AddUnshown(records, number));
