@@ -1,5 +1,7 @@
 #include "ListDescription.h"
 
+#include "PictureStore.h"
+
 namespace {
 
 constexpr int codeDigits = 9; // the longest number that always fits a 32-bit code
@@ -83,6 +85,7 @@ TListDescription GoodsList()
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.KalaList"), QStringLiteral("Code")};
     list.Labels = {QStringLiteral("dbo.kala"), QStringLiteral("dbo.kala_category"),
                    QStringLiteral("kala_code"), TCategoryStore::TListKind::Goods};
+    list.PictureGroup = TPictureOwner::Goods;
     list.OrderField = QStringLiteral("Code");
     return list;
 }
@@ -128,6 +131,7 @@ TListDescription PersonsList()
     list.Source = {FieldsOf(list.CardFields), QStringLiteral("dbo.PersonList"), QStringLiteral("Code")};
     list.Labels = {QStringLiteral("dbo.Persons"), QStringLiteral("dbo.Person_category"),
                    QStringLiteral("person_code"), TCategoryStore::TListKind::Persons};
+    list.PictureGroup = TPictureOwner::Persons;
     list.OrderField = QStringLiteral("Code");
     return list;
 }

@@ -42,6 +42,7 @@ struct TListDescription
     QVector<TCardField> CardFields;
     QString OrderField;                 ///< in force until the user orders otherwise
     std::optional<TLabelTables> Labels; ///< without them its records carry neither tags nor categories
+    int PictureGroup = 0;               ///< of its records' pictures; 0 where they have none
 };
 
 TListDescription GoodsList();

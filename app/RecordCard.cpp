@@ -1,8 +1,10 @@
 #include "RecordCard.h"
 
 #include "DisplayText.h"
+#include "HostServices.h"
 #include "Look.h"
 #include "PagedDataSet.h"
+#include "RecordPictures.h"
 #include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
 #include "SmartPanel_TRV.h"
@@ -53,7 +55,15 @@ TRecordCard::TRecordCard(const TListDescription& list, TPagedDataSet& dataSet, Q
     form->setVerticalSpacing(Look::LineGap);
     form->setHorizontalSpacing(Look::GroupGap);
     AddFields(form);
-    column->addLayout(form);
+    auto* body = new QHBoxLayout;
+    body->setContentsMargins(0, 0, 0, 0);
+    body->addLayout(form, 1);
+    if (list_.PictureGroup != 0) {
+        pictures_ = new TRecordPictures(*Host().DM.ADOConnection1(), list_.PictureGroup, this);
+        body->addWidget(pictures_);
+        body->addSpacing(Look::GroupGap);
+    }
+    column->addLayout(body, 1);
     column->addWidget(NewButtons());
     connect(dataSet_, &TDataSet::scrolled, this, &TRecordCard::ShowRecord);
     connect(dataSet_, &TDataSet::dataChanged, this, &TRecordCard::ShowRecord);
@@ -129,6 +139,8 @@ void TRecordCard::ShowRecord()
     heading_->SetCaption(QStringLiteral("%1: %2").arg(list_.RecordName, name));
     previous_->setEnabled(row > 1);
     next_->setEnabled(row > 0 && row < dataSet_->RecordCount());
+    if (pictures_ != nullptr)
+        pictures_->ShowRecord(row > 0 ? dataSet_->CurrentKey().toInt() : 0);
 }
 
 void TRecordCard::Move(int step)

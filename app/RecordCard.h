@@ -9,6 +9,7 @@ class QFormLayout;
 class QLineEdit;
 class QPushButton;
 class TPagedDataSet;
+class TRecordPictures;
 class TSmartLabel_TRV;
 
 /// One record with all its fields, to read. Follows the list's current row: PageDown and PageUp (or the
@@ -24,6 +25,8 @@ public:
 
     /// The text that the card shows for a field; empty where it has no such field.
     QString FieldText(const QString& fieldName) const;
+    /// Null where records of the list have no pictures.
+    TRecordPictures* Pictures() const { return pictures_; }
 
 private:
     void AddFields(QFormLayout* form);
@@ -37,4 +40,5 @@ private:
     QVector<QLineEdit*> edits_;
     QPushButton* previous_ = nullptr;
     QPushButton* next_ = nullptr;
+    TRecordPictures* pictures_ = nullptr;
 };
