@@ -16,6 +16,20 @@ TAdvListLine::TAdvListLine(TAdvListEditorPer* editor) : QLineEdit(editor), edito
     setFrame(false);
     setAutoFillBackground(false);
     setCursorMoveStyle(Qt::VisualMoveStyle);
+    StandAtBeginning();
+}
+
+void TAdvListLine::StandAtBeginning()
+{
+    const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
+void TAdvListLine::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        StandAtBeginning();
 }
 
 bool TAdvListLine::TakeKey(QKeyEvent* event)

@@ -23,6 +23,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -33,6 +34,9 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    /// Without this the line follows its content: Latin letters jump to the other end of the row.
+    void StandAtBeginning();
+
     TAdvListEditorPer* editor_;
     QString composed_;
 };

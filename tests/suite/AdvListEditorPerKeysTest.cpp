@@ -12,7 +12,8 @@ private Q_SLOTS:
     void leftGoesForwardFromRightToLeft();
     void theArrowsAreTheOtherWayRoundFromLeftToRight();
     void theArrowsGoThroughTheTextBeforeTheyLeaveIt();
-    void theArrowsLeaveATextOfLatinLetters();
+    void theArrowsLeaveATextOfAnyScript_data();
+    void theArrowsLeaveATextOfAnyScript();
     void homeAndEndGoToTheTextsEndsThenToTheRows();
     void controlHomeAndEndGoToTheRowsEndsAtOnce();
     void backspaceAtTheTextsStartRemovesTheBubbleBefore();
@@ -81,16 +82,31 @@ void AdvListEditorPerKeysTest::theArrowsGoThroughTheTextBeforeTheyLeaveIt()
     QCOMPARE(form.Place(), 2);
 }
 
-void AdvListEditorPerKeysTest::theArrowsLeaveATextOfLatinLetters()
+void AdvListEditorPerKeysTest::theArrowsLeaveATextOfAnyScript_data()
 {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("Latin") << QStringLiteral("abc");
+    QTest::newRow("digits") << QStringLiteral("۱۲۳/45");
+    QTest::newRow("mixed") << QStringLiteral("شیر abc ۱۲ نان");
+    QTest::newRow("Latin ends") << QStringLiteral("ab شیر cd");
+    QTest::newRow("joiners") << QStringLiteral("می‌خک👨‍👩‍👧لا");
+    QTest::newRow("marks") << QStringLiteral("\u202Eabc\u202C\u200F");
+    QTest::newRow("blanks") << QStringLiteral("   ");
+}
+
+void AdvListEditorPerKeysTest::theArrowsLeaveATextOfAnyScript()
+{
+    QFETCH(QString, text);
     TTokenForm form;
     form.Fill(QStringLiteral("آب نان"));
+    form.editor.SetEditText(text);
     QVERIFY(form.Show());
-    form.Type(QStringLiteral("abc"));
-    form.Strokes(Qt::Key_Right, 8);
+    const int enough = static_cast<int>(text.size()) + 5;
+    form.Strokes(Qt::Key_Right, enough);
     QCOMPARE(form.Place(), 0);
-    form.Strokes(Qt::Key_Left, 10);
+    form.Strokes(Qt::Key_Left, enough);
     QCOMPARE(form.Place(), 2);
+    QCOMPARE(form.editor.EditText(), text);
 }
 
 void AdvListEditorPerKeysTest::homeAndEndGoToTheTextsEndsThenToTheRows()

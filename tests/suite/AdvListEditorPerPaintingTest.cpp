@@ -55,6 +55,8 @@ private Q_SLOTS:
     void whatIsScrolledOutFadesAway();
     void aWrappedEditorGrowsUpToItsLines();
     void aTallEditorCentresItsLine();
+    void aTextOfAnyScriptBeginsBehindTheBubbles_data();
+    void aTextOfAnyScriptBeginsBehindTheBubbles();
     void anEmptyEditorShowsItsPlaceholder();
     void theMarkUnderTheMouseIsSeen();
     void aReadOnlyEditorShowsItsCaret();
@@ -245,6 +247,36 @@ void AdvListEditorPerPaintingTest::aTallEditorCentresItsLine()
     form.Fill(QStringLiteral("آب"));
     QVERIFY(form.Show());
     QVERIFY(qAbs(form.Bubble(0).center().y() - 18) <= 1);
+}
+
+void AdvListEditorPerPaintingTest::aTextOfAnyScriptBeginsBehindTheBubbles_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("rightToLeft");
+    for (const bool rightToLeft : {true, false}) {
+        const char* direction = rightToLeft ? "from right to left" : "from left to right";
+        QTest::addRow("Persian, %s", direction) << QStringLiteral("نان") << rightToLeft;
+        QTest::addRow("Latin, %s", direction) << QStringLiteral("abc") << rightToLeft;
+        QTest::addRow("digits, %s", direction) << QStringLiteral("123") << rightToLeft;
+    }
+}
+
+void AdvListEditorPerPaintingTest::aTextOfAnyScriptBeginsBehindTheBubbles()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, rightToLeft);
+    TPaintedForm form;
+    form.editor.SetRightToLeft(rightToLeft);
+    form.Fill(QStringLiteral("آب"));
+    form.editor.SetEditText(text);
+    form.other.setFocus();
+    QVERIFY(form.ShowWith(form.other));
+    form.Place();
+    const QRect box = form.editor.focusProxy()->geometry();
+    const QVector<Ink::TRun> runs =
+        Ink::Runs(form.Grab().copy(box.adjusted(0, 3, 0, -3)), Look::Color(Look::TRole::Base));
+    QVERIFY(!runs.isEmpty());
+    QVERIFY(rightToLeft ? runs.last().Last > box.width() - 12 : runs.first().First < 12);
 }
 
 void AdvListEditorPerPaintingTest::anEmptyEditorShowsItsPlaceholder()
