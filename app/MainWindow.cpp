@@ -255,7 +255,7 @@ void TMainWindow::ShowKeys()
     const qsizetype place = pages_.indexOf(page);
     if (place < 0)
         return;
-    auto* help = new THelpWindow(descriptions_.at(place).Title, page->Keys(), this);
+    auto* help = new THelpWindow(descriptions_.at(place).Title, page->Keys() + page->MoreKeys, this);
     help->setAttribute(Qt::WA_DeleteOnClose);
     help->open();
 }

@@ -3,6 +3,7 @@
 #include "CategoryForm.h"
 #include "DetailAccountForm.h"
 #include "ListForm.h"
+#include "PageExtras.h"
 #include "ReportForm.h"
 #include "VoucherForm.h"
 
@@ -12,8 +13,11 @@ namespace {
 
 TPageDescription ListPage(const TListDescription& list)
 {
-    return {list.Key, list.Title,
-            [list](TReferenceHost& host, QWidget* parent) { return new TListForm(list, host, parent); }};
+    return {list.Key, list.Title, [list](TReferenceHost& host, QWidget* parent) {
+                auto* page = new TListForm(list, host, parent);
+                PageExtras::AddTo(*page, host);
+                return page;
+            }};
 }
 
 template <typename TForm> TPageDescription FormPage(const QString& key, const QString& title)
@@ -25,12 +29,17 @@ template <typename TForm> TPageDescription FormPage(const QString& key, const QS
 
 QVector<TPageDescription> WorkbenchPages()
 {
+    const auto newReport = [](TReferenceHost& host, QWidget* parent) {
+        auto* page = new TReportForm(host, parent);
+        PageExtras::AddTo(*page, host);
+        return page;
+    };
     return {
         ListPage(GoodsList()),
         ListPage(PersonsList()),
         FormPage<TVoucherForm>(QStringLiteral("Voucher"), QStringLiteral("صدور سند")),
         FormPage<TDetailAccountForm>(QStringLiteral("DetailAccounts"), QStringLiteral("حساب تفصیلی")),
-        FormPage<TReportForm>(QStringLiteral("VoucherLines"), QStringLiteral("گزارش اسناد")),
+        {QStringLiteral("VoucherLines"), QStringLiteral("گزارش اسناد"), newReport, false},
         FormPage<TCategoryForm>(QStringLiteral("Categories"), QStringLiteral("دسته‌ها")),
     };
 }

@@ -38,6 +38,9 @@ public:
     /// The keys that work on this page.
     virtual QVector<TKeyHelp> Keys() const = 0;
 
+    /// Keys of what has been added to the page from outside.
+    QVector<TKeyHelp> MoreKeys;
+
 Q_SIGNALS:
     /// The user wants to see a voucher; the window opens it.
     void voucherWanted(int fiscalYear, int number);

@@ -86,22 +86,34 @@ int TStockLedger::Correct(const TStockCorrection& correction)
 {
     TTransaction transaction(*connection_);
     HoldOpenYears();
-    Check(correction);
-    ChangeStock(correction);
-    connection_->Execute(
-        QStringLiteral(
-            "INSERT INTO dbo.StockCorrections (KalaCode, CorrectionDate, Quantity, Sharh, UserCode, "
-            "RegisteredAt) VALUES (?, ?, CAST(? AS decimal(18,3)), ?, ?, CAST(? AS datetime))"),
-        {correction.Kala, correction.Date, correction.Quantity, correction.Text.trimmed(),
-         correction.UserCode, correction.Moment});
-    const qint64 marked = connection_->Execute(
-        QStringLiteral(
-            "UPDATE dbo.Trades SET NeedsRefresh = 1 WHERE Kind = ? AND SanadId IS NOT NULL "
-            "AND TradeDate >= ? AND FiscalYear IN (SELECT Code FROM dbo.FiscalYears WHERE Closed = 0) "
-            "AND Id IN (SELECT TradeId FROM dbo.TradeRows WHERE KalaCode = ?)"),
-        {1, correction.Date, correction.Kala});
+    Write(correction);
+    const int marked = MarkSales(correction.Kala, correction.Date);
     transaction.Commit();
-    return static_cast<int>(marked);
+    return marked;
+}
+
+int TStockLedger::Change(int id, const TStockCorrection& correction)
+{
+    TTransaction transaction(*connection_);
+    HoldOpenYears();
+    const TStockCorrection before = Undo(id);
+    if (before.Kala != correction.Kala)
+        throw std::invalid_argument("A correction stays one of the same goods.");
+    Write(correction);
+    const int marked = MarkSales(correction.Kala, qMin(before.Date, correction.Date));
+    transaction.Commit();
+    return marked;
+}
+
+int TStockLedger::Remove(int id, int userCode)
+{
+    TTransaction transaction(*connection_);
+    HoldOpenYears();
+    CheckUser(userCode);
+    const TStockCorrection before = Undo(id);
+    const int marked = MarkSales(before.Kala, before.Date);
+    transaction.Commit();
+    return marked;
 }
 
 // Whoever generates vouchers holds his operation's year: the two come one after the other, so that no voucher
@@ -111,39 +123,88 @@ void TStockLedger::HoldOpenYears()
     connection_->Execute(QStringLiteral("UPDATE dbo.FiscalYears SET Title = Title WHERE Closed = 0"));
 }
 
-void TStockLedger::Check(const TStockCorrection& correction)
+void TStockLedger::CheckUser(int userCode)
 {
-    const QString plain = DecimalText::WithoutTrailingZeros(DecimalText::Settled(correction.Quantity));
-    if (TDecimal(plain).IsZero())
-        throw EServiceRefused(
-            QStringLiteral("مقدار اصلاح صفر است؛ کسری را با منها و اضافی را بدون علامت بنویسید."));
-    if (DecimalText::DecimalCount(plain) > StockDecimals || DecimalText::DigitCount(plain) > MostStockDigits)
-        throw EServiceRefused(
-            QStringLiteral("مقدار اصلاح بیش از اندازه بزرگ یا ریز است؛ با حداکثر سه رقم اعشار بنویسید."));
-    if (correction.UserCode == 0)
+    if (userCode == 0)
         throw EServiceRefused(
             QStringLiteral("کاربری وارد نشده است؛ با نام یک کاربر وارد شوید تا اصلاح موجودی ثبت شود."));
+}
+
+void TStockLedger::CheckDate(const QString& date)
+{
     const auto years = Read(*connection_,
                             QStringLiteral("SELECT Code FROM dbo.FiscalYears WHERE Closed = 0 "
                                            "AND FromDate <= ? AND ToDate >= ?"),
-                            {correction.Date, correction.Date});
+                            {date, date});
     if (years.isEmpty())
         throw EServiceRefused(
-            QStringLiteral("تاریخ %1 در هیچ سال مالی بازی نیست؛ تاریخ دیگری بدهید.").arg(correction.Date));
+            QStringLiteral("تاریخ %1 در هیچ سال مالی بازی نیست؛ تاریخ دیگری بدهید.").arg(date));
 }
 
-void TStockLedger::ChangeStock(const TStockCorrection& correction)
+void TStockLedger::CheckQuantity(const QString& quantity)
 {
-    // The row is held before it is read, so that no other user's sale is lost.
-    const qint64 held = connection_->Execute(
-        QStringLiteral("UPDATE dbo.kala SET Stock = Stock WHERE Code = ?"), {correction.Kala});
+    if (TDecimal(quantity).IsZero())
+        throw EServiceRefused(QStringLiteral("مقدار اصلاح صفر است؛ مقدار کسری یا اضافی را بنویسید."));
+    if (DecimalText::DecimalCount(quantity) > StockDecimals ||
+        DecimalText::DigitCount(quantity) > MostStockDigits)
+        throw EServiceRefused(
+            QStringLiteral("مقدار اصلاح بیش از اندازه بزرگ یا ریز است؛ با حداکثر سه رقم اعشار بنویسید."));
+}
+
+void TStockLedger::Write(const TStockCorrection& correction)
+{
+    const QString quantity = DecimalText::WithoutTrailingZeros(DecimalText::Settled(correction.Quantity));
+    CheckQuantity(quantity);
+    CheckUser(correction.UserCode);
+    CheckDate(correction.Date);
+    AddToStock(correction.Kala, TDecimal(quantity));
+    connection_->Execute(
+        QStringLiteral(
+            "INSERT INTO dbo.StockCorrections (KalaCode, CorrectionDate, Quantity, Sharh, UserCode, "
+            "RegisteredAt) VALUES (?, ?, CAST(? AS decimal(18,3)), ?, ?, CAST(? AS datetime))"),
+        {correction.Kala, correction.Date, quantity, correction.Text.trimmed(), correction.UserCode,
+         correction.Moment});
+}
+
+TStockCorrection TStockLedger::Undo(int id)
+{
+    const auto rows = Read(
+        *connection_,
+        QStringLiteral("SELECT KalaCode, CorrectionDate, Quantity FROM dbo.StockCorrections WHERE Id = ?"),
+        {id});
+    if (rows.isEmpty())
+        throw EServiceRefused(
+            QStringLiteral("این اصلاح را کاربر دیگری حذف کرده است؛ فهرست را دوباره بخوانید."));
+    TStockCorrection before;
+    before.Kala = rows.constFirst().at(0).toInt();
+    before.Date = rows.constFirst().at(1).toString();
+    CheckDate(before.Date);
+    AddToStock(before.Kala, TDecimal() - DecimalOf(rows.constFirst().at(2)));
+    connection_->Execute(QStringLiteral("DELETE FROM dbo.StockCorrections WHERE Id = ?"), {id});
+    return before;
+}
+
+void TStockLedger::AddToStock(int kala, const TDecimal& quantity)
+{
+    // The row is held before it is read, so that nobody else's change is lost.
+    const qint64 held =
+        connection_->Execute(QStringLiteral("UPDATE dbo.kala SET Stock = Stock WHERE Code = ?"), {kala});
     if (held == 0)
-        throw EServiceRefused(QStringLiteral("کالای %1 تعریف نشده است.").arg(correction.Kala));
-    const TDecimal stock = DecimalOf(
-        Read(*connection_, QStringLiteral("SELECT Stock FROM dbo.kala WHERE Code = ?"), {correction.Kala})
-            .constFirst()
-            .constFirst());
+        throw EServiceRefused(QStringLiteral("کالای %1 تعریف نشده است.").arg(kala));
+    const auto rows = Read(*connection_, QStringLiteral("SELECT Stock FROM dbo.kala WHERE Code = ?"), {kala});
+    const TDecimal stock = DecimalOf(rows.constFirst().constFirst());
     connection_->Execute(
         QStringLiteral("UPDATE dbo.kala SET Stock = CAST(? AS decimal(18,3)) WHERE Code = ?"),
-        {(stock + TDecimal(DecimalText::Settled(correction.Quantity))).ToString(), correction.Kala});
+        {(stock + quantity).ToString(), kala});
+}
+
+int TStockLedger::MarkSales(int kala, const QString& from)
+{
+    const qint64 marked = connection_->Execute(
+        QStringLiteral(
+            "UPDATE dbo.Trades SET NeedsRefresh = 1 WHERE Kind = ? AND SanadId IS NOT NULL "
+            "AND TradeDate >= ? AND FiscalYear IN (SELECT Code FROM dbo.FiscalYears WHERE Closed = 0) "
+            "AND Id IN (SELECT TradeId FROM dbo.TradeRows WHERE KalaCode = ?)"),
+        {1, from, kala});
+    return static_cast<int>(marked);
 }

@@ -31,15 +31,24 @@ public:
     TDecimal CostOfSale(int tradeId, const QString& date);
 
     /// Writes a correction, adds it to the stock and marks the automatic vouchers of all later sales of the
-    /// goods, in open fiscal years, for being generated again; one transaction. Returns how many it has
+    /// goods, in open fiscal years, for being generated again; one transaction. Returns how many sales it has
     /// marked. Throws EServiceRefused where a rule forbids it.
     int Correct(const TStockCorrection& correction);
+    /// Puts a correction of the same goods in the place of one that is there, as if that had never been.
+    int Change(int id, const TStockCorrection& correction);
+    /// Takes a correction back.
+    int Remove(int id, int userCode);
 
 private:
     TDecimal CostOfRow(int kala, const QString& date, const TDecimal& quantity, const TDecimal& amount);
     void HoldOpenYears();
-    void Check(const TStockCorrection& correction);
-    void ChangeStock(const TStockCorrection& correction);
+    void CheckUser(int userCode);
+    void CheckDate(const QString& date);
+    void CheckQuantity(const QString& quantity);
+    void Write(const TStockCorrection& correction);
+    TStockCorrection Undo(int id);
+    void AddToStock(int kala, const TDecimal& quantity);
+    int MarkSales(int kala, const QString& from);
 
     TADOConnection* connection_;
 };

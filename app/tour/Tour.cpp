@@ -9,8 +9,8 @@ int PlayTour(TMainWindow& window, const QString& folder)
 {
     TTourPlayer player(window, folder);
     const QVector<TTourStep> steps = GoodsListSteps() + SearchSteps() + SortingSteps() + PersonsListSteps() +
-                                     VoucherSteps() + DetailAccountSteps() + ReportSteps() + CategorySteps() +
-                                     WindowSteps();
+                                     VoucherSteps() + DetailAccountSteps() + ReportSteps() +
+                                     VoucherBarSteps() + CategorySteps() + WindowSteps();
     for (const TTourStep& step : steps) {
         player.BeginStep(QString::fromUtf16(step.Name));
         step.Play(player);

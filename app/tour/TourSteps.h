@@ -20,6 +20,7 @@ QVector<TTourStep> PersonsListSteps();
 QVector<TTourStep> VoucherSteps();
 QVector<TTourStep> DetailAccountSteps();
 QVector<TTourStep> ReportSteps();
+QVector<TTourStep> VoucherBarSteps();
 QVector<TTourStep> CategorySteps();
 QVector<TTourStep> LabelSteps();
 QVector<TTourStep> WindowSteps();

@@ -13,6 +13,9 @@ private Q_SLOTS:
     void goodsNeverBoughtCostTheirStandardShare();
     void aCorrectionOfMoreThanWasBoughtDoesNotTurnTheCostRound();
     void aCorrectionChangesTheStockExactly();
+    void aChangedCorrectionCountsAsIfItHadAlwaysBeenSo();
+    void aRemovedCorrectionIsAsIfItHadNeverBeen();
+    void aCorrectionThatIsGoneCannotBeChanged();
     void aCorrectionThatBreaksARuleWritesNothing_data();
     void aCorrectionThatBreaksARuleWritesNothing();
 };
@@ -84,6 +87,58 @@ void StockLedgerTest::aCorrectionChangesTheStockExactly()
     QCOMPARE(shop.Text(QStringLiteral("SELECT Quantity FROM dbo.StockCorrections")),
              QStringLiteral("-0.101"));
     QCOMPARE(shop.Text(QStringLiteral("SELECT Sharh FROM dbo.StockCorrections")), QStringLiteral("شمارش"));
+}
+
+void StockLedgerTest::aChangedCorrectionCountsAsIfItHadAlwaysBeenSo()
+{
+    TTradeFixture shop;
+    shop.Add(TTradeFixture::Purchase, shop.Date("02/01"), {{90001, 10, 100}});
+    const int sale = shop.Add(TTradeFixture::Sale, shop.Date("02/03"), {{90001, 1, 1000}});
+    shop.SaveMissing();
+    shop.Correct(shop.Date("02/04"), QStringLiteral("-2"));
+    const int id = shop.Number(QStringLiteral("SELECT Id FROM dbo.StockCorrections"));
+    QVERIFY(!TAutoVouchers::AnyAwaiting(*shop.Connection));
+    const TStockCorrection earlier{
+        90001, shop.Date("02/02"), QStringLiteral("-5"), {}, 1, QStringLiteral("2026-01-02T03:04:05")};
+    QCOMPARE(TStockLedger(*shop.Connection).Change(id, earlier), 1);
+    QCOMPARE(CostOf(shop, sale, QStringLiteral("02/03")), QStringLiteral("200"));
+    QCOMPARE(shop.Text(QStringLiteral("SELECT Stock FROM dbo.kala WHERE Code = 90001")),
+             QStringLiteral("95"));
+    QCOMPARE(shop.Number(QStringLiteral("SELECT COUNT(*) FROM dbo.StockCorrections")), 1);
+}
+
+void StockLedgerTest::aRemovedCorrectionIsAsIfItHadNeverBeen()
+{
+    TTradeFixture shop;
+    shop.Add(TTradeFixture::Purchase, shop.Date("02/01"), {{90001, 10, 100}});
+    shop.Add(TTradeFixture::Sale, shop.Date("02/03"), {{90001, 1, 1000}});
+    shop.SaveMissing();
+    shop.Correct(shop.Date("02/02"), QStringLiteral("7.25"));
+    shop.SaveAgain();
+    const int id = shop.Number(QStringLiteral("SELECT Id FROM dbo.StockCorrections"));
+    QVERIFY_THROWS_EXCEPTION(EServiceRefused, TStockLedger(*shop.Connection).Remove(id, 0));
+    QCOMPARE(TStockLedger(*shop.Connection).Remove(id, 1), 1);
+    QVERIFY(TAutoVouchers::AnyAwaiting(*shop.Connection));
+    QCOMPARE(shop.Text(QStringLiteral("SELECT Stock FROM dbo.kala WHERE Code = 90001")),
+             QStringLiteral("100"));
+    QCOMPARE(shop.Number(QStringLiteral("SELECT COUNT(*) FROM dbo.StockCorrections")), 0);
+}
+
+void StockLedgerTest::aCorrectionThatIsGoneCannotBeChanged()
+{
+    TTradeFixture shop;
+    TStockLedger ledger(*shop.Connection);
+    const TStockCorrection correction{
+        90001, shop.Date("02/02"), QStringLiteral("1"), {}, 1, QStringLiteral("2026-01-02T03:04:05")};
+    QVERIFY_THROWS_EXCEPTION(EServiceRefused, ledger.Remove(77, 1));
+    QVERIFY_THROWS_EXCEPTION(EServiceRefused, ledger.Change(77, correction));
+    ledger.Correct(correction);
+    TStockCorrection ofOtherGoods = correction;
+    ofOtherGoods.Kala = 1;
+    const int id = shop.Number(QStringLiteral("SELECT Id FROM dbo.StockCorrections"));
+    QVERIFY_THROWS_EXCEPTION(std::invalid_argument, ledger.Change(id, ofOtherGoods));
+    QCOMPARE(shop.Text(QStringLiteral("SELECT Stock FROM dbo.kala WHERE Code = 90001")),
+             QStringLiteral("101"));
 }
 
 void StockLedgerTest::aCorrectionThatBreaksARuleWritesNothing_data()
