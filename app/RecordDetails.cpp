@@ -66,6 +66,8 @@ void TRecordDetails::AddAction(const QString& caption, const QKeySequence& key,
     button->setFixedHeight(Look::ControlHeight);
     button->setFocusPolicy(Qt::TabFocus);
     button->OnClick = [action](QObject*) { action(); };
+    // Off the window's edge.
+    layout()->setContentsMargins(Look::Margin, 0, 0, 0);
     layout()->addWidget(button);
     layout()->setAlignment(button, Qt::AlignTop);
     auto* shortcut = new QShortcut(key, list_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
