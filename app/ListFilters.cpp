@@ -159,20 +159,45 @@ QJsonObject TListFilters::State() const
 
 void TListFilters::Restore(const QJsonObject& state)
 {
-    // As if the user picked them again; a tag that is gone is not in the menu.
-    const QJsonArray tags = state.value(tagsKey).toArray();
-    for (const QJsonValue& code : tags) {
+    ChooseTags(state.value(tagsKey).toArray());
+    if (CategoryId() == 0)
+        ChooseCategory(state.value(categoryKey).toInt());
+    NoTag->SetChecked(state.value(noTagKey).toBool());
+    NoCategory->SetChecked(state.value(noCategoryKey).toBool());
+}
+
+void TListFilters::Refresh()
+{
+    const QJsonArray tags = ChosenTags();
+    Tags->frame_load();
+    ChooseTags(tags);
+    ChooseCategory(CategoryId());
+    Category->Fill_allPop();
+}
+
+// As if the user picked them again; a tag that is gone is not in the menu.
+void TListFilters::ChooseTags(const QJsonArray& codes)
+{
+    for (const QJsonValue& code : codes) {
         for (int item = 0; item < Tags->tags_list_pop->Count(); ++item) {
             if (Tags->tags_list_pop->Item(item)->Tag == code.toInt())
                 Tags->POP_click(Tags->tags_list_pop->Item(item));
         }
     }
-    const int category = state.value(categoryKey).toInt();
-    if (category > 0 && CategoryId() == 0) {
-        Category->create_bubble(category, TCategoryPicker::WholePath);
-        const int id = CategoryId();
-        Category->TarvaSearch1->SetValue1(id > 0 ? QStringLiteral(",%1,").arg(id) : QString());
+    // POP_click switches the criterion on.
+    if (NoTag->Checked())
+        SwitchNoTag();
+    else if (Tags->Tag_editor->Values().IsEmpty())
+        Tags->TarvaSearch_tags->SetValue1(QString());
+}
+
+void TListFilters::ChooseCategory(int id)
+{
+    if (id == 0) {
+        Category->createmenuItemByCode(0);
+        return;
     }
-    NoTag->SetChecked(state.value(noTagKey).toBool());
-    NoCategory->SetChecked(state.value(noCategoryKey).toBool());
+    Category->create_bubble(id, TCategoryPicker::WholePath);
+    const int chosen = CategoryId();
+    Category->TarvaSearch1->SetValue1(chosen > 0 ? QStringLiteral(",%1,").arg(chosen) : QString());
 }

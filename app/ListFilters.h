@@ -26,6 +26,8 @@ public:
     void AddTo(TTarvaSearchManager& manager) const;
     /// Fills the frames and starts from the user's default category; to be called when he is signed in.
     void Start();
+    /// Takes over what has become of tags and categories meanwhile; what is chosen stays so.
+    void Refresh();
     /// Nothing of the line filters any more.
     void Clear();
     void FocusTags() const;
@@ -47,6 +49,8 @@ private:
     void SwitchNoTag();
     void SwitchNoCategory();
     QJsonArray ChosenTags() const;
+    void ChooseTags(const QJsonArray& codes);
+    void ChooseCategory(int id);
     int CategoryId() const;
 
     TListDescription list_;

@@ -60,8 +60,10 @@ TListDescription TListLabels::CardDescription() const
 void TListLabels::Enter()
 {
     ReadPalette();
-    if (isEntered_)
+    if (isEntered_) {
+        filters_->Refresh();
         return;
+    }
     isEntered_ = true;
     filters_->Start();
     filters_->Restore(state_);

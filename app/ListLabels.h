@@ -22,7 +22,7 @@ public:
     TListTagging& Panel() { return *panel_; }
     TListFilters& Filters() { return *filters_; }
 
-    /// Reads names and colours, and fills the filters the first time.
+    /// Reads names and colours; fills the filters the first time and brings them up to date later.
     void Enter();
     void ReadPalette();
     void TogglePanel();   ///< F8

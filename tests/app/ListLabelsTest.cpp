@@ -93,6 +93,44 @@ private Q_SLOTS:
         QCOMPARE(Keys(), QStringLiteral("1"));
     }
 
+    void aFarRangeIsThatOfTheListsOrder()
+    {
+        list_->DataSet().SetOrder(QStringLiteral("Barcode"), Qt::DescendingOrder);
+        WaitForRows();
+        list_->Grid().setFocus();
+        shop_->Press(Qt::Key_Home);
+        shop_->Press(Qt::Key_Down);
+        shop_->Press(Qt::Key_End, Qt::ShiftModifier);
+        const int all = list_->DataSet().RecordCount();
+        QCOMPARE(list_->Grid().MarkedKeys().size(), all - 1);
+        QVERIFY(!list_->Grid().MarkedKeys().contains(Text(0, QStringLiteral("Code"))));
+        shop_->Press(Qt::Key_Home, Qt::ShiftModifier);
+        QCOMPARE(list_->Labels()->Selection().Keys().size(), 2);
+        QVERIFY(list_->Grid().IsMarked(0) && list_->Grid().IsMarked(1));
+    }
+
+    void whatBecomesOfTagsAndCategoriesElsewhereIsTakenOver()
+    {
+        const int food = IdOf(QStringLiteral("مواد غذایی"));
+        Filters().Category->create_bubble(food, 1);
+        Filters().Category->TarvaSearch1->SetValue1(QStringLiteral(",%1,").arg(food));
+        Filters().FocusTags();
+        shop_->Type(TagName(1));
+        shop_->Press(Qt::Key_Return);
+        WaitForRows();
+        const int found = list_->DataSet().RecordCount();
+        TCategoryStore(shop_->Connection)
+            .Rename(food, QStringLiteral("خوراکی"), QStringLiteral("مواد غذایی"));
+        list_->Enter();
+        WaitForRows();
+        QCOMPARE(list_->DataSet().RecordCount(), found);
+        QCOMPARE(Filters().Category->Editor->Values().Last().DisplayText, QStringLiteral("خوراکی"));
+        QCOMPARE(Filters().Tags->Tag_editor->Values().Last().DisplayText, TagName(1));
+        TCategoryStore(shop_->Connection)
+            .Rename(food, QStringLiteral("مواد غذایی"), QStringLiteral("خوراکی"));
+        list_->ClearSearch();
+    }
+
     void thePanelShowsTheTagsOfTheChosenRows()
     {
         MarkTwoAndThree();
