@@ -73,6 +73,15 @@ private Q_SLOTS:
         QCOMPARE(user_->Played, 1);
     }
 
+    void everyColourOfThePaletteHasANameOfItsOwn()
+    {
+        QStringList names;
+        for (const TTagColor& color : TTagDefinition(*user_->Connection, 200).Colors())
+            names.append(TColorSwatches::NameOf(Look::StringToColor(color.Notation)));
+        QVERIFY(names.size() >= 10);
+        QCOMPARE(names.removeDuplicates(), 0);
+    }
+
     void escapeAndTheCancelButtonCreateNothing()
     {
         const int before = Tags();
