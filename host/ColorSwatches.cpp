@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 namespace {

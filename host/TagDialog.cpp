@@ -62,11 +62,17 @@ QString AsName(const QString& text)
     std::replace_if(
         name.begin(), name.end(), [](QChar sign) { return sign.category() == QChar::Other_Control; }, u' ');
     name = name.trimmed();
-    if (name.size() > TTagDefinition::LongestName)
-        name.truncate(TTagDefinition::LongestName);
+    name.truncate(TTagDefinition::LongestName);
     if (!name.isEmpty() && name.back().isHighSurrogate())
         name.chop(1);
     return name.trimmed();
+}
+
+/// Blanks and direction marks alone are no name.
+bool CanBeSeen(const QString& name)
+{
+    return std::any_of(name.begin(), name.end(),
+                       [](QChar sign) { return !sign.isSpace() && sign.category() != QChar::Other_Format; });
 }
 
 TSmartLabel_TRV* Caption(const QString& text, QWidget* control, QWidget* parent)
@@ -80,7 +86,8 @@ TSmartLabel_TRV* Caption(const QString& text, QWidget* control, QWidget* parent)
 } // namespace
 
 TTagDialog::TTagDialog(const TTagDefinition& definition, const QString& name, QWidget* parent)
-    : QDialog(parent), definition_(definition)
+    : QDialog(parent), definition_(definition),
+      isNameCut_(name.trimmed().size() > TTagDefinition::LongestName)
 {
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(QStringLiteral("تعریف برچسب"));
@@ -148,6 +155,17 @@ void TTagDialog::FillSwatches()
     swatches_->SetCurrent(static_cast<int>(rarest - colors_.constBegin()));
 }
 
+void TTagDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (isNameCut_)
+        Balloon::Show(
+            name_,
+            QStringLiteral(
+                "نام برچسب بیش از ۵۰ نویسه نمی‌شود؛ بقیهٔ آن بریده شد."),
+            balloonTime);
+}
+
 int TTagDialog::Define()
 {
     exec();
@@ -158,7 +176,7 @@ int TTagDialog::Define()
 void TTagDialog::Save()
 {
     const QString name = AsName(name_->text());
-    if (name.isEmpty()) {
+    if (!CanBeSeen(name)) {
         Refuse(QStringLiteral("نام برچسب خالی است؛ آن را بنویسید."));
         return;
     }

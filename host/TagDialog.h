@@ -17,7 +17,7 @@ class HOST_EXPORT TTagDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// `definition` must outlive the dialog. A longer name than a tag can have is cut.
+    /// `definition` must outlive the dialog. A longer name than a tag can have is cut, and the user told so.
     TTagDialog(const TTagDefinition& definition, const QString& name, QWidget* parent);
     ~TTagDialog() override;
 
@@ -27,6 +27,9 @@ public:
 
     QLineEdit& NameEdit() { return *name_; }
     TColorSwatches& Swatches() { return *swatches_; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     void Lay(const QString& name);
@@ -40,4 +43,5 @@ private:
     QLineEdit* name_ = nullptr;
     TColorSwatches* swatches_ = nullptr;
     int result_ = 0;
+    bool isNameCut_;
 };

@@ -105,6 +105,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::newRow("nothing") << QString();
         QTest::newRow("blanks") << QStringLiteral("   ");
+        QTest::newRow("direction marks") << QStringLiteral("\u200F\u202E");
         QTest::newRow("a line break") << QStringLiteral("\n\t");
     }
 
@@ -163,6 +164,17 @@ private Q_SLOTS:
             Press(dialog, Qt::Key_Return);
         });
         QCOMPARE(user_->NameOf(code), stored);
+    }
+
+    void aNameThatIsCutIsSaidToBe()
+    {
+        user_->Define(QString(51, u'م'), [](TTagDialog& dialog) {
+            QVERIFY(Balloon::ShownText().contains(QStringLiteral("بریده")));
+            Press(dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(user_->Played, 1);
+        user_->Define(QString(50, u'م'),
+                      [](TTagDialog& /*dialog*/) { QCOMPARE(Balloon::ShownText(), QString()); });
     }
 
     void atTheLimitThereIsNoDialog()
