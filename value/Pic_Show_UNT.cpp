@@ -9,6 +9,8 @@
 #include "SymbolButton.h"
 #include "ui_Pic_Show_UNT.h"
 
+#include <QFocusEvent>
+
 TPic_Show::TPic_Show(QWidget* owner) : TFrame(owner), Display_QRY(new TADOQuery(this))
 {
     Ui::TPic_Show form;
@@ -25,12 +27,17 @@ TPic_Show::TPic_Show(QWidget* owner) : TFrame(owner), Display_QRY(new TADOQuery(
     Close_BTN = form.Close_BTN;
     Display_QRY->setObjectName(QStringLiteral("Display_QRY"));
     Display_QRY->SetConnection(Host().DM.ADOConnection1());
-    setFocusProxy(Pic_IMG);
     BindHandlers();
     FormReady();
 }
 
 TPic_Show::~TPic_Show() = default;
+
+// No focus proxy: Tab would enter the frame at the picture and pass over the button above it.
+void TPic_Show::focusInEvent(QFocusEvent* event)
+{
+    Pic_IMG->setFocus(event->reason());
+}
 
 void TPic_Show::BindHandlers()
 {

@@ -42,6 +42,9 @@ public:
     TSmartLabel_TRV* Name_LBL = nullptr;
     QPushButton* Close_BTN = nullptr; ///< for the owner, who connects it to what closes the frame
 
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
 private:
     void BindHandlers();
     void EnableNavigation(bool enabled);
