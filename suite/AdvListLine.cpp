@@ -52,6 +52,9 @@ bool TAdvListLine::event(QEvent* event)
         event->ignore();
         return false;
     }
+    // Screen readers meet the line, and its owner names the editor.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::FocusIn)
+        setAccessibleName(editor_->accessibleName());
     return QLineEdit::event(event);
 }
 
