@@ -31,6 +31,7 @@ public:
 protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     bool writing_ = false; // the change of the tab in progress is the program's
