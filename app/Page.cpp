@@ -2,6 +2,7 @@
 
 #include "CategoryForm.h"
 #include "DetailAccountForm.h"
+#include "GalleryForm.h"
 #include "ListForm.h"
 #include "PageExtras.h"
 #include "ReportForm.h"
@@ -41,5 +42,6 @@ QVector<TPageDescription> WorkbenchPages()
         FormPage<TDetailAccountForm>(QStringLiteral("DetailAccounts"), QStringLiteral("حساب تفصیلی")),
         {QStringLiteral("VoucherLines"), QStringLiteral("گزارش اسناد"), newReport, false},
         FormPage<TCategoryForm>(QStringLiteral("Categories"), QStringLiteral("دسته‌ها")),
+        FormPage<TGalleryForm>(QStringLiteral("Gallery"), QStringLiteral("نمایشگاه قاب‌ها")),
     };
 }

@@ -1,0 +1,85 @@
+#include "ADOQuery.h"
+#include "AdvListEditorPer.h"
+#include "Category_Search_UNT.h"
+#include "Category_SearchWithManager_UNT.h"
+#include "GalleryEntry.h"
+#include "SmartButton_TRV.h"
+#include "tags_frame.h"
+
+namespace {
+
+QString ItemsOf(const TAdvListEditorPer& editor)
+{
+    QStringList items;
+    for (int index = 0; index < editor.Values().Count(); ++index)
+        items.append(editor.Values()[index].DisplayText + u'=' + editor.Values()[index].Value);
+    return items.join(QStringLiteral("; "));
+}
+
+/// The tags of three persons, as if a list had them selected. What is changed here is written to them.
+void SetUp(TTags& frame, const TGalleryStage& stage)
+{
+    const QString persons = QStringLiteral("1,2,3");
+    frame.Tags_editor->TableName = QStringLiteral("dbo.Persons");
+    frame.Tags_editor->KeyField = QStringLiteral("Code");
+    frame.Tags_editor->KeyList = u'(' + persons + u')';
+    frame.ADOQuery2->SQL.SetText(
+        QStringLiteral("SELECT tags FROM dbo.Persons WHERE Code IN (%1)").arg(persons));
+    QObject::connect(&frame, &TTags::tagsChanged,
+                     [tell = stage.Tell] { tell(QStringLiteral("tagsChanged")); });
+    frame.frame_load();
+}
+
+TGalleryValues ValuesOf(const TTags& frame)
+{
+    return {{QStringLiteral("Tags_editor.KeyList"), frame.Tags_editor->KeyList},
+            {QStringLiteral("Tags_editor.Values"), ItemsOf(*frame.Tags_editor)}};
+}
+
+void AddCodeList(TTarvaSearch& criterion, const QString& title, const QString& field)
+{
+    TSearchItem item;
+    item.Title = title;
+    item.FiledName = field;
+    item.DataType = TSearchDataType::idtCodeList;
+    item.FilterType = TSearchFilterType::iftQuery;
+    criterion.SearchItems.Clear();
+    criterion.SearchItems.Add(item);
+    criterion.SetItemIndex(0);
+}
+
+void SetUp(TCategory_frame& frame, const TGalleryStage& stage)
+{
+    frame.Select_btn->OnClick = stage.Event(QStringLiteral("Select_btn.OnClick"));
+    frame.open(true);
+}
+
+TGalleryValues ValuesOf(const TCategory_frame& frame)
+{
+    return {{QStringLiteral("Editor.Values"), ItemsOf(*frame.Editor)}};
+}
+
+void SetUp(TCategorysearchframe& frame, const TGalleryStage& /*stage*/)
+{
+    AddCodeList(*frame.TarvaSearch1, QStringLiteral("دسته"), QStringLiteral("CategoryPath"));
+    frame.open(TCategorysearchframe::GoodsLists);
+}
+
+TGalleryValues ValuesOf(const TCategorysearchframe& frame)
+{
+    return {{QStringLiteral("Editor.Values"), ItemsOf(*frame.Editor)}};
+}
+
+} // namespace
+
+QVector<TGalleryEntry> GalleryEntries::Tags()
+{
+    return {
+        GalleryEntry<TTags>(QStringLiteral("tags_frame"),
+                            QStringLiteral("برچسب‌های رکوردها"), SetUp, ValuesOf),
+        GalleryEntry<TCategory_frame>(QStringLiteral("Category_Search_UNT"), QStringLiteral("انتخاب دسته"),
+                                      SetUp, ValuesOf),
+        GalleryEntry<TCategorysearchframe>(QStringLiteral("Category_SearchWithManager_UNT"),
+                                           QStringLiteral("فیلتر با دسته"), SetUp, ValuesOf),
+    };
+}
