@@ -1,0 +1,137 @@
+#include "GalleryFixture.h"
+#include "Monkey.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+/// A statement without its literals, which may hold anything that was typed.
+QString WithoutLiterals(const QString& statement)
+{
+    static const QRegularExpression literals(QStringLiteral("N?'(?:[^']|'')*'"));
+    return QString(statement).replace(literals, QStringLiteral("?"));
+}
+
+/// The tables that frames and their host write, and in which way.
+bool IsKnownWrite(const QString& shape)
+{
+    static const QRegularExpression writes(
+        QStringLiteral("^\\s*(?:UPDATE dbo\\.Persons\\s+SET\\s+tags\\b"
+                       "|INSERT INTO dbo\\.TagS\\b"
+                       "|UPDATE dbo\\.FiscalYears SET Title = Title\\b"
+                       "|(?:INSERT INTO|UPDATE|DELETE FROM) dbo\\.CodeLocks\\b"
+                       "|(?:INSERT INTO|UPDATE|DELETE FROM) dbo\\.(?:Sanad|Sanad_Detail|Trades)\\b"
+                       "|(?:INSERT INTO|DELETE FROM) dbo\\.FinancialReport(?:Detail)?\\b)"),
+        QRegularExpression::CaseInsensitiveOption);
+    return writes.match(shape).hasMatch();
+}
+
+/// Nothing that was typed stands outside a literal, there is one statement, and it reads or writes what a
+/// frame does.
+bool IsKnown(const QString& statement)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_\\s.,()\\[\\]=<>*+\\-/%?&!|@:]*$"));
+    static const QRegularExpression reads(QStringLiteral("^\\s*SELECT\\b"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    const QString shape = WithoutLiterals(statement);
+    return plain.match(shape).hasMatch() && !shape.contains(QStringLiteral("--")) &&
+           !shape.contains(QStringLiteral("/*")) && (reads.match(shape).hasMatch() || IsKnownWrite(shape));
+}
+
+int FromEnvironment(const char* name, int otherwise)
+{
+    bool isNumber = false;
+    const int number = qEnvironmentVariableIntValue(name, &isNumber);
+    return isNumber && number > 0 ? number : otherwise;
+}
+
+} // namespace
+
+/// Random events over all frames. BASEFRAME_MONKEY_EVENTS in the environment is how many, and
+/// BASEFRAME_MONKEY_SEED which ones.
+class GalleryMonkeyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(IsKnown(QStringLiteral("SELECT Code FROM dbo.kala WHERE Name LIKE N'%''; DROP TABLE x--%'")));
+        QVERIFY(!IsKnown(QStringLiteral("SELECT Code FROM dbo.kala WHERE Name = N''; DROP TABLE x--'")));
+        QVERIFY(!IsKnown(QStringLiteral("SELECT Code FROM dbo.kala WHERE Name = آ")));
+        QVERIFY(!IsKnown(QStringLiteral("DELETE FROM dbo.kala")));
+        shop_ = std::make_unique<TGalleryFixture>();
+        shop_->OpenGallery();
+        connect(&shop_->Connection, &TADOConnection::willExecute, this, [this](const QString& text) {
+            ++statements_;
+            if (!IsKnown(text))
+                unknown_.insert(text);
+        });
+    }
+    void cleanupTestCase() { shop_.reset(); }
+
+    void nothingBreaks()
+    {
+        constexpr int Events = 3000;
+        constexpr quint32 Seed = 14030702;
+        constexpr double LongestGap = 1000; // milliseconds
+        const int events = FromEnvironment("BASEFRAME_MONKEY_EVENTS", Events);
+        const int frames = static_cast<int>(shop_->Gallery->Entries().size());
+        // Every frame comes twice, and oftener in a long run.
+        const int stay = qBound(1, events / (2 * frames), 500);
+        TMonkey monkey(*shop_->Form, static_cast<quint32>(
+                                         FromEnvironment("BASEFRAME_MONKEY_SEED", static_cast<int>(Seed))));
+        QSet<QString> seen;
+        monkey.Favourite = [this] { return shop_->Gallery->ShownFrame(); };
+        monkey.BeforeEvent = [&](int number) {
+            if (number % stay == 0 && QApplication::activeModalWidget() == nullptr) {
+                shop_->Gallery->Choose(number / stay % frames);
+                seen.insert(shop_->Gallery->Entries().at(shop_->Gallery->Chosen()).ClassName);
+            }
+            if (number % 500 == 0)
+                CheckTags();
+        };
+        monkey.Run(events);
+        TGalleryFixture::Settle();
+        CheckTags();
+        qInfo("%d events, %d statements, %d frames, %d message boxes; longest gap %.0f ms (%s)", events,
+              statements_, static_cast<int>(seen.size()), static_cast<int>(shop_->Told.size()),
+              monkey.LongestGap(), qPrintable(monkey.Slowest()));
+        QVERIFY2(unknown_.isEmpty(), qPrintable(QStringList(unknown_.values()).join(u'\n')));
+        QVERIFY2(malformed_.isEmpty(), qPrintable(QStringList(malformed_.values()).join(u'\n')));
+        QVERIFY(statements_ > 0);
+        QVERIFY(seen.size() > frames / 2);
+        QVERIFY2(monkey.LongestGap() <= LongestGap, qPrintable(monkey.Slowest()));
+        QVERIFY(shop_->Form->isVisible());
+    }
+
+private:
+    /// Null, or codes with a comma behind each and one before the first.
+    void CheckTags()
+    {
+        static const QRegularExpression codes(QStringLiteral("^,(?:[0-9]+,)+$"));
+        for (const char* table : {"dbo.Persons", "dbo.kala"}) {
+            TADOQuery query;
+            query.SetConnection(&shop_->Connection);
+            query.SQL.SetText(QStringLiteral("SELECT DISTINCT tags FROM %1 WHERE tags IS NOT NULL")
+                                  .arg(QString::fromLatin1(table)));
+            for (query.Open(); !query.Eof(); query.Next()) {
+                const QString tags = query.Field(0)->AsString();
+                if (!codes.match(tags).hasMatch())
+                    malformed_.insert(tags);
+            }
+        }
+    }
+
+    std::unique_ptr<TGalleryFixture> shop_;
+    QSet<QString> unknown_;
+    QSet<QString> malformed_;
+    int statements_ = 0;
+};
+
+int main(int argc, char** argv)
+{
+    return RunFormTest<GalleryMonkeyTest>(argc, argv);
+}
+#include "GalleryMonkeyTest.moc"

@@ -1,0 +1,149 @@
+#include "GalleryFixture.h"
+
+#include "Range_Digit_Search.h"
+#include "SmartCheckBox_TRV.h"
+
+#include <QSet>
+
+/// The page that shows all frames of the package.
+class GalleryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        shop_ = std::make_unique<TGalleryFixture>();
+        shop_->OpenGallery();
+    }
+    void cleanup() { shop_.reset(); }
+
+    void everyFrameOfThePackageIsThereOnce()
+    {
+        const QSet<QString> package = {
+            "TDetial_Grid_Frame",
+            "TSelect_Entity_Frame",
+            "TGeneral_Search_Frame",
+            "TRange_Digit_Search_Frame",
+            "TRange_Cost_Search_Frame",
+            "TRange_Date_Search_Frame",
+            "TTab_Search_Frame",
+            "TRange_String_Search_Frame",
+            "TSelect_AccountCode",
+            "TPic_Get",
+            "TPic_Show",
+            "TSelectEntity_Search_Frame",
+            "TRange_SelectEntity_Search_Frame",
+            "TAccountingCodes_Search_Frame",
+            "TRange_AccCodes_Search_Frame",
+            "TDetailUniqueCode_FRME",
+            "TListDetail_FRAME",
+            "TTags",
+            "TCurrency_FRAME",
+            "TCategorysearchframe",
+            "TTags_search_FRM",
+            "TDateRange_Display_FRAM",
+            "TADVSearch_Fram",
+            "TGetVoucher_FRM",
+            "TSaveAutoVouchers_FRME",
+            "TRefreshAutoVouchers_FRME",
+            "TCategory_frame",
+        };
+        QCOMPARE(package.size(), 27);
+        QSet<QString> shown;
+        QSet<QString> purposes;
+        for (const TGalleryEntry& entry : shop_->Gallery->Entries()) {
+            shown.insert(entry.ClassName);
+            purposes.insert(entry.Purpose);
+        }
+        QCOMPARE(shop_->Gallery->Entries().size(), 27);
+        QCOMPARE(shown, package);
+        QCOMPARE(purposes.size(), 27);
+    }
+
+    void theListReachesEveryFrame()
+    {
+        QVERIFY(shop_->Gallery->List().hasFocus());
+        for (const TGalleryEntry& entry : shop_->Gallery->Entries()) {
+            const TFrame* frame = shop_->Gallery->ShownFrame();
+            QVERIFY2(frame != nullptr, qPrintable(entry.ClassName));
+            QCOMPARE(QString::fromLatin1(frame->metaObject()->className()), entry.ClassName);
+            QVERIFY2(frame->isVisible(), qPrintable(entry.ClassName));
+            shop_->Press(Qt::Key_Down);
+        }
+        QCOMPARE(shop_->Told, QStringList());
+    }
+
+    void framesAreMadeWhenTheyAreChosen()
+    {
+        const auto made = [this] {
+            const QList<TFrame*> frames = shop_->Gallery->findChildren<TFrame*>();
+            return std::count_if(frames.begin(), frames.end(), [](const TFrame* frame) {
+                return qobject_cast<TFrame*>(frame->parentWidget()) == nullptr;
+            });
+        };
+        QCOMPARE(made(), 1);
+        shop_->Press(Qt::Key_Down);
+        QCOMPARE(made(), 2);
+        const TFrame* second = shop_->Gallery->ShownFrame();
+        shop_->Press(Qt::Key_Up);
+        shop_->Press(Qt::Key_Down);
+        QCOMPARE(shop_->Gallery->ShownFrame(), second);
+        QCOMPARE(made(), 2);
+    }
+
+    void controlTabGoesRoundFromAnywhere()
+    {
+        const int count = static_cast<int>(shop_->Gallery->Entries().size());
+        shop_->Press(Qt::Key_Return);
+        QVERIFY(shop_->Gallery->ShownFrame()->isAncestorOf(shop_->Focus()));
+        for (int step = 1; step <= count; ++step) {
+            shop_->Press(Qt::Key_Tab, Qt::ControlModifier);
+            QCOMPARE(shop_->Gallery->Chosen(), step % count);
+        }
+        shop_->Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(shop_->Gallery->Chosen(), count - 1);
+        QCOMPARE(shop_->Told, QStringList());
+    }
+
+    void theStateOfACriterionIsLive()
+    {
+        const QString name = QStringLiteral("TarvaSearch_Range_Digit");
+        shop_->Gallery->Choose(shop_->EntryOf(QStringLiteral("TRange_Digit_Search_Frame")));
+        auto* frame = qobject_cast<TRange_Digit_Search_Frame*>(shop_->Gallery->ShownFrame());
+        QVERIFY(frame != nullptr);
+        QTRY_COMPARE(shop_->State(name, QStringLiteral("Active")), QStringLiteral("false"));
+        frame->RangeDigit_CHK->setFocus();
+        shop_->Press(Qt::Key_Space);
+        shop_->Press(Qt::Key_Tab);
+        shop_->Type(QStringLiteral("7"));
+        QTRY_COMPARE(shop_->State(name, QStringLiteral("Active")), QStringLiteral("true"));
+        QTRY_COMPARE(shop_->State(name, QStringLiteral("Value1")), QStringLiteral("QString \"7\""));
+        QCOMPARE(shop_->State(name, QStringLiteral("Value2")), QStringLiteral("int 2147483647"));
+        QVERIFY(!shop_->State(name, QStringLiteral("Condition")).isEmpty());
+        QTRY_COMPARE(shop_->State(QStringLiteral("TRange_Digit_Search_Frame"), QStringLiteral("GetActive")),
+                     QStringLiteral("bool true"));
+        QVERIFY(shop_->Journal().contains(name + QStringLiteral(".SetActive(true)")));
+        QVERIFY(shop_->Journal().contains(name + QStringLiteral(".OnChange")));
+    }
+
+    void statementsAndEventsAreTold()
+    {
+        shop_->Gallery->Choose(shop_->EntryOf(QStringLiteral("TSelect_Entity_Frame")));
+        shop_->Press(Qt::Key_Return);
+        QVERIFY(!shop_->Journal().contains(QStringLiteral("OnCodeChanged")));
+        shop_->Type(QStringLiteral("1"));
+        shop_->Press(Qt::Key_Tab);
+        QTRY_VERIFY(shop_->Journal().contains(QStringLiteral("SELECT")));
+        QVERIFY(shop_->Journal().contains(QStringLiteral("OnCodeChanged")));
+    }
+
+private:
+    std::unique_ptr<TGalleryFixture> shop_;
+};
+
+int main(int argc, char** argv)
+{
+    return RunFormTest<GalleryTest>(argc, argv);
+}
+#include "GalleryTest.moc"
