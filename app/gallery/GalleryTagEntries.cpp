@@ -5,6 +5,7 @@
 #include "GalleryEntry.h"
 #include "SmartButton_TRV.h"
 #include "tags_frame.h"
+#include "Tags_search_UNT.h"
 
 namespace {
 
@@ -48,6 +49,19 @@ void AddCodeList(TTarvaSearch& criterion, const QString& title, const QString& f
     criterion.SetItemIndex(0);
 }
 
+void SetUp(TTags_search_FRM& frame, const TGalleryStage& /*stage*/)
+{
+    AddCodeList(*frame.TarvaSearch_tags, QStringLiteral("برچسب"), QStringLiteral("tags"));
+    frame.SetSearchble(true);
+    frame.frame_load();
+}
+
+TGalleryValues ValuesOf(const TTags_search_FRM& frame)
+{
+    return {{QStringLiteral("searchble"), frame.searchble()},
+            {QStringLiteral("ChosenCodes"), frame.ChosenCodes().join(u',')}};
+}
+
 void SetUp(TCategory_frame& frame, const TGalleryStage& stage)
 {
     frame.Select_btn->OnClick = stage.Event(QStringLiteral("Select_btn.OnClick"));
@@ -77,6 +91,8 @@ QVector<TGalleryEntry> GalleryEntries::Tags()
     return {
         GalleryEntry<TTags>(QStringLiteral("tags_frame"),
                             QStringLiteral("برچسب‌های رکوردها"), SetUp, ValuesOf),
+        GalleryEntry<TTags_search_FRM>(QStringLiteral("Tags_search_UNT"), QStringLiteral("فیلتر با برچسب"),
+                                       SetUp, ValuesOf),
         GalleryEntry<TCategory_frame>(QStringLiteral("Category_Search_UNT"), QStringLiteral("انتخاب دسته"),
                                       SetUp, ValuesOf),
         GalleryEntry<TCategorysearchframe>(QStringLiteral("Category_SearchWithManager_UNT"),
