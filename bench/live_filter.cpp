@@ -26,15 +26,19 @@ struct TCase
 
 struct TTimes
 {
-    std::vector<double> Raw, Answered, Painted; ///< milliseconds
+    std::vector<double> Raw, Answered, Painted;  ///< milliseconds
+    std::vector<double> RawProcessor, Processor; ///< milliseconds of the processor
 };
 
 void Report(const TCase& filter, const TTimes& times, int rows)
 {
     const double raw = Median(times.Raw);
     const double painted = Median(times.Painted);
-    std::printf("%-28s %7d %10.2f %10.2f %10.2f %8.2f %9.2f\n", filter.Name, rows, raw,
-                Median(times.Answered), painted, painted / raw, painted - raw);
+    const double rawProcessor = Median(times.RawProcessor);
+    const double processor = Median(times.Processor);
+    std::printf("%-28s %7d %10.2f %10.2f %10.2f %8.2f %9.2f | %9.2f %9.2f %8.2f\n", filter.Name, rows, raw,
+                Median(times.Answered), painted, painted / raw, painted - raw, rawProcessor, processor,
+                processor / rawProcessor);
 }
 
 /// The list, its criterion and its window, as an application has them.
@@ -156,13 +160,17 @@ void Measure(TADOConnection& connection, const QString& file, TLiveFilter& filte
     for (int round = 0; round < rounds; ++round) {
         filter.Filter(other, &ignored, &ignored);
         filter.WaitForCount();
+        const double before = ProcessorMilliseconds();
         QElapsedTimer timer;
         timer.start();
         raw.Read();
         times.Raw.push_back(Milliseconds(timer));
+        const double between = ProcessorMilliseconds();
+        times.RawProcessor.push_back(between - before);
         double answered = 0;
         double painted = 0;
         filter.Filter(condition.Value, &answered, &painted);
+        times.Processor.push_back(ProcessorMilliseconds() - between);
         times.Answered.push_back(answered);
         times.Painted.push_back(painted);
         filter.WaitForCount();
@@ -202,8 +210,8 @@ void MeasureAll(const QString& file, int rounds)
     connection.SetConnectionString(QStringLiteral("sqlite:") + file);
     connection.Open();
     const qint64 before = ProcessMemory::Resident();
-    std::printf("%-28s %7s %10s %10s %10s %8s %9s\n", "condition", "rows", "raw ms", "answer ms",
-                "painted ms", "ratio", "more ms");
+    std::printf("%-28s %7s %10s %10s %10s %8s %9s | %9s %9s %8s\n", "condition", "rows", "raw ms",
+                "answer ms", "painted ms", "ratio", "more ms", "raw cpu", "cpu", "ratio");
     TLiveFilter filter(connection);
     for (const TCase& condition : cases) {
         filter.Show(condition.OrderField);

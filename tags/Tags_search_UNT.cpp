@@ -84,6 +84,8 @@ void TTags_search_FRM::frame_load()
     DrawItems();
     layout()->removeWidget(TagHelp_BTN);
     static_cast<QHBoxLayout*>(layout())->insertWidget(0, TagHelp_BTN);
+    setTabOrder(TagHelp_BTN, Tag_editor);
+    setTabOrder(Tag_editor, add_btn);
 }
 
 void TTags_search_FRM::fill_imageList()
