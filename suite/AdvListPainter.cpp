@@ -93,8 +93,11 @@ void TAdvListBubble::PaintPicture(QPainter& painter) const
     const QSize size = Picture.deviceIndependentSize().toSize();
     const QRect room = Visual(
         {Rect.left() + Padding, Rect.top() + (Rect.height() - PictureSide) / 2, PictureSide, PictureSide});
+    constexpr double Faint = 0.4;
+    painter.setOpacity(IsEnabled ? 1 : Faint);
     painter.drawPixmap(room.left() + (room.width() - size.width()) / 2,
                        room.top() + (room.height() - size.height()) / 2, Picture);
+    painter.setOpacity(1);
 }
 
 void TAdvListBubble::PaintText(QPainter& painter, const QColor& color) const

@@ -39,6 +39,7 @@ struct TAdvListBubble
     bool HasMark = true;
     bool IsSelected = false;
     bool IsMarkHot = false;
+    bool IsEnabled = true;
 
     /// The width of a bubble that shows all of its text, at most `widest`.
     static int WidthFor(const QString& text, const QFontMetrics& metrics, bool hasPicture, bool hasMark,

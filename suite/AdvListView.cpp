@@ -14,6 +14,12 @@ constexpr int EditorLineHeight = Look::ControlHeight - 2 * FrameWidth;
 constexpr int BubbleInset = 1;
 constexpr quint32 White = 0xffffff;
 
+/// Up to the frame, where bubbles show on their way out.
+QRect WithMargins(const QRect& inner)
+{
+    return inner.adjusted(-FrameWidth, 0, FrameWidth, 0);
+}
+
 } // namespace
 
 void TAdvListEditorPer::TPrivate::Invalidate()
@@ -182,6 +188,7 @@ TAdvListBubble TAdvListEditorPer::TPrivate::Bubble(int index)
     bubble.HasMark = closeMarks && !readOnly;
     bubble.IsSelected = index >= SelectionStart() && index < SelectionEnd();
     bubble.IsMarkHot = index == hotMark;
+    bubble.IsEnabled = editor->isEnabled();
     return bubble;
 }
 
@@ -207,7 +214,7 @@ void TAdvListEditorPer::TPrivate::Paint(QPainter& painter)
 
     painter.save();
     const QRect inner = Inner();
-    painter.setClipRect(inner.adjusted(-FrameWidth, 0, FrameWidth, 0));
+    painter.setClipRect(WithMargins(inner));
     const auto [first, last] = layout.Within({scroll, inner.size()});
     for (int index = first; index < last; ++index)
         Bubble(index).Paint(painter, editor->palette(), colors);
@@ -240,9 +247,9 @@ void TAdvListEditorPer::TPrivate::PaintFades(QPainter& painter, const TAdvListCo
     const QRect inner = Inner();
     const bool fromRight = editor->layoutDirection() == Qt::RightToLeft;
     if (scroll.x() > 0)
-        AdvListPainter::PaintFade(painter, inner, !fromRight, colors.Ground);
+        AdvListPainter::PaintFade(painter, WithMargins(inner), !fromRight, colors.Ground);
     if (layout.Size().width() - scroll.x() > inner.width())
-        AdvListPainter::PaintFade(painter, inner, fromRight, colors.Ground);
+        AdvListPainter::PaintFade(painter, WithMargins(inner), fromRight, colors.Ground);
 }
 
 QString TAdvListEditorPer::TPrivate::ToolTipAt(const QPoint& point)

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void bubblesFollowTheReadingDirection();
     void picturesAreScaledDownAndStandBeforeTheText();
     void anIndexWithoutAPictureShowsNone();
+    void aDisabledEditorShowsItsPicturesFaintly();
     void textsCanBeReadOnEveryGround_data();
     void textsCanBeReadOnEveryGround();
     void theSchemeMayChangeWhileItIsShown();
@@ -111,6 +112,17 @@ void AdvListEditorPerPaintingTest::anIndexWithoutAPictureShowsNone()
     for (const int image : {-1, -7, 1, 2, 100000})
         form.editor.Values().AddPair(QStringLiteral("آب"), {}, image);
     QVERIFY(form.Show());
+    QVERIFY(!PlaceOf(form.Grab(), Red).isValid());
+}
+
+void AdvListEditorPerPaintingTest::aDisabledEditorShowsItsPicturesFaintly()
+{
+    TPaintedForm form;
+    form.editor.SetImages({Disc(Red, 16)});
+    form.editor.Values().AddPair(QStringLiteral("آب"), {}, 0);
+    QVERIFY(form.Show());
+    QVERIFY(PlaceOf(form.Grab(), Red).isValid());
+    form.editor.setEnabled(false);
     QVERIFY(!PlaceOf(form.Grab(), Red).isValid());
 }
 
