@@ -20,10 +20,13 @@ constexpr int Nodes = 100000;
 constexpr int ChildrenOfEach = 18; ///< four levels deep, a leaf in the last one
 constexpr int Repetitions = 9;
 
+/// The category with very many children; they are the last ones.
+constexpr int WideCategory = Nodes - 1000;
+
 /// Heap numbering: the children of a category come together.
 int ParentOf(int id)
 {
-    return (id - 1) / ChildrenOfEach;
+    return id > WideCategory ? WideCategory : (id - 1) / ChildrenOfEach;
 }
 
 void MakeTree(TADOConnection& connection)
@@ -84,6 +87,16 @@ public:
     qint64 FindName()
     {
         return Count([this] { frame_.DrawItem(QStringLiteral("دستهٔ کالای شمارهٔ 54321")); });
+    }
+
+    qint64 OpenWideMenu()
+    {
+        return Count([this] {
+            frame_.createmenuItemByCode(WideCategory);
+            frame_.PopupMenu1->Popup(frame_.pos());
+            QCoreApplication::processEvents();
+            frame_.PopupMenu1->close();
+        });
     }
 
     QStringList Statements(const std::function<void()>& work)
@@ -162,8 +175,10 @@ bool Run(const QTemporaryDir& folder)
     const bool opened = CompareWithRaw("open", frame, file, [&frame] { return frame.Open(); });
     const bool drilled =
         CompareWithRaw("drill down to a leaf", frame, file, [&frame] { return frame.Drill(); });
+    const bool offered = CompareWithRaw("menu of 1,000 children, painted", frame, file,
+                                        [&frame] { return frame.OpenWideMenu(); });
     const bool found = CompareWithRaw("find a name", frame, file, [&frame] { return frame.FindName(); });
-    return opened && drilled && found;
+    return opened && drilled && offered && found;
 }
 
 } // namespace

@@ -145,7 +145,7 @@ void TCategorysearchframe::POP_click(QObject* Sender)
         Publish(ValueBetweenCommas());
 }
 
-void TCategorysearchframe::select_BTNClick(QObject* /*Sender*/)
+void TCategorysearchframe::select_BTNClick(QObject* /*Sender*/) const
 {
     // Intended: two readings.
     const int x = QCursor::pos().x();
@@ -153,24 +153,25 @@ void TCategorysearchframe::select_BTNClick(QObject* /*Sender*/)
     PopupMenu1->Popup(QPoint(x, y));
 }
 
-void TCategorysearchframe::EditorEnter()
+void TCategorysearchframe::EditorEnter() const
 {
     Editor->SetColor(TCategoryPicker::ColorInside);
     Editor->CorrectEditPos();
 }
 
-void TCategorysearchframe::EditorExit()
+void TCategorysearchframe::EditorExit() const
 {
     Editor->SetColor(TCategoryPicker::ColorOutside);
 }
 
-void TCategorysearchframe::EditorKeyDown(QObject* /*Sender*/, quint16& Key, Qt::KeyboardModifiers /*Shift*/)
+void TCategorysearchframe::EditorKeyDown(QObject* /*Sender*/, quint16& Key,
+                                         Qt::KeyboardModifiers /*Shift*/) const
 {
     if (Key == VirtualKey::Add)
         Editor->clear();
 }
 
-void TCategorysearchframe::EditorKeyPress(QChar& key)
+void TCategorysearchframe::EditorKeyPress(QChar& key) const
 {
     if (key == u'+') {
         key = QChar();
@@ -251,7 +252,7 @@ QString TCategorysearchframe::ValueBetweenCommas() const
     return Editor->Values().IsEmpty() ? QString() : u',' + picker_->LastValue() + u',';
 }
 
-void TCategorysearchframe::Publish(const QString& value)
+void TCategorysearchframe::Publish(const QString& value) const
 {
     const QPointer<TTarvaSearch> criterion(TarvaSearch1);
     criterion->SetValue1(value);

@@ -57,8 +57,8 @@ public:
     /// The handler of the menu's items.
     void POP_click(QObject* Sender);
     /// Opens the menu at the mouse pointer.
-    void select_BTNClick(QObject* Sender);
-    void EditorKeyDown(QObject* Sender, quint16& Key, Qt::KeyboardModifiers Shift);
+    void select_BTNClick(QObject* Sender) const;
+    void EditorKeyDown(QObject* Sender, quint16& Key, Qt::KeyboardModifiers Shift) const;
 
     TAdvListEditorPer* Editor = nullptr;
     TSmartButton_TRV* select_BTN = nullptr;
@@ -74,9 +74,9 @@ protected:
 private:
     void BindHandlers();
 
-    void EditorEnter();
-    void EditorExit();
-    void EditorKeyPress(QChar& key);
+    void EditorEnter() const;
+    void EditorExit() const;
+    void EditorKeyPress(QChar& key) const;
     void EditorKeyUp(quint16 key);
     void EditorValueEditDone(const QString& text);
     void TakeShownName();
@@ -85,7 +85,7 @@ private:
 
     void ShowCategory(std::optional<int> category);
     QString ValueBetweenCommas() const;
-    void Publish(const QString& value);
+    void Publish(const QString& value) const;
 
     std::unique_ptr<TCategoryPicker> picker_;
 };

@@ -84,23 +84,23 @@ void TCategory_frame::POP_click(QObject* Sender)
     picker_->POP_click(Sender);
 }
 
-void TCategory_frame::EditorEnter()
+void TCategory_frame::EditorEnter() const
 {
     Editor->SetColor(TCategoryPicker::ColorInside);
 }
 
-void TCategory_frame::EditorExit()
+void TCategory_frame::EditorExit() const
 {
     Editor->SetColor(TCategoryPicker::ColorOutside);
 }
 
-void TCategory_frame::EditorMouseDown(int x, int y)
+void TCategory_frame::EditorMouseDown(int x, int y) const
 {
     // Intended: the place inside the editor serves as a place on the screen.
     PopupMenu1->Popup(QPoint(x, y));
 }
 
-void TCategory_frame::EditorKeyPress(QChar& key)
+void TCategory_frame::EditorKeyPress(QChar& key) const
 {
     if (key != u'+')
         return;

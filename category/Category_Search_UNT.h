@@ -56,10 +56,10 @@ public:
 private:
     void BindHandlers();
 
-    void EditorEnter();
-    void EditorExit();
-    void EditorMouseDown(int x, int y);
-    void EditorKeyPress(QChar& key);
+    void EditorEnter() const;
+    void EditorExit() const;
+    void EditorMouseDown(int x, int y) const;
+    void EditorKeyPress(QChar& key) const;
     void EditorKeyUp(quint16 key);
     void EditorValueEditDone(const QString& text);
     void TakeTypedName();
