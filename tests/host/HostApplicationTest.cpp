@@ -1,6 +1,5 @@
 #include "HostTestMain.h"
 #include "ModalBox.h"
-#include "NotOffered.h"
 
 #include "ADOConnection.h"
 #include "AdoError.h"
@@ -9,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <stdexcept>
 #include <thread>
 
 namespace {
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void errorsOfTimersAndPostedCallsAreShownToo()
     {
-        QTimer::singleShot(0, this, [] { throw EServiceNotOffered("LookupDBs"); });
+        QTimer::singleShot(0, this, [] { throw std::logic_error("LookupDBs"); });
         QTRY_COMPARE(reports_.size(), 1);
         QVERIFY(reports_.constFirst().Details.contains(QStringLiteral("LookupDBs")));
         QMetaObject::invokeMethod(

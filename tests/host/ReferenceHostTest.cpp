@@ -1,24 +1,7 @@
 #include "ReferenceHost.h"
 
-#include "NotOffered.h"
-
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-// The name of the service that the call reports as missing; empty where it did its work.
-QByteArray MissingService(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const EServiceNotOffered& error) {
-        return error.what();
-    }
-    return {};
-}
-
-} // namespace
 
 class ReferenceHostTest : public QObject
 {
@@ -73,14 +56,6 @@ private Q_SLOTS:
         library.ResetDataset(&query);
         QCOMPARE(query.RecordCount(), 6);
         QCOMPARE(query.RecNo(), 3);
-    }
-
-    void aServiceThatIsNotOfferedSaysItsName()
-    {
-        TADOConnection connection;
-        THostSettings settings(folder_.filePath(QStringLiteral("settings.ini")));
-        const TReferenceHost host(connection, settings);
-        QVERIFY(MissingService([] { Host().Pickers.Call_insert_tags({}, 1); }).contains("Call_insert_tags"));
     }
 
 private:
