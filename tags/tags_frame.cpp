@@ -190,13 +190,13 @@ void TTags::Tags_qryAfterOpen()
     nothingToShow_->setVisible(isEmpty);
 }
 
-void TTags::Tags_editorEnter()
+void TTags::Tags_editorEnter() const
 {
     Tags_editor->SetColor(Yellow);
     Tags_editor->CorrectEditPos();
 }
 
-void TTags::Tags_editorExit()
+void TTags::Tags_editorExit() const
 {
     Tags_editor->SetColor(White);
 }
@@ -375,14 +375,14 @@ void TTags::AddStrong(const QString& name, const QString& color)
     Tags_editor->Values().AddPair(name, color, pictures_.IndexOf(color));
 }
 
-void TTags::TurnStrong(int item)
+void TTags::TurnStrong(int item) const
 {
     const int picture = Tags_editor->Values()[item].ImageIndex;
     if (picture >= colorCount_)
         Tags_editor->Values().SetImageIndex(item, picture - colorCount_);
 }
 
-void TTags::Write(const QString& statement)
+void TTags::Write(const QString& statement) const
 {
     cmd->CommandText = statement;
     cmd->Execute();

@@ -83,8 +83,8 @@ private:
     void MakeData();
     void BindHandlers();
 
-    void Tags_editorEnter();
-    void Tags_editorExit();
+    void Tags_editorEnter() const;
+    void Tags_editorExit() const;
     void Tags_editorKeyUp(quint16 key);
     void Tags_gridKeyDown(quint16 key);
     void Tags_qryAfterOpen();
@@ -99,8 +99,8 @@ private:
     QString CurrentRow(const QString& field) const;
     TTaggedRecords Records() const;
     void AddStrong(const QString& name, const QString& color);
-    void TurnStrong(int item);
-    void Write(const QString& statement);
+    void TurnStrong(int item) const;
+    void Write(const QString& statement) const;
     void ResetGrid() const;
 
     QPointer<TSmartDBGrid_TRV> FGrid;

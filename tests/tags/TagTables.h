@@ -5,8 +5,10 @@
 #include "ADOQuery.h"
 
 #include <QBuffer>
+#include <QColor>
 #include <QFileInfo>
 #include <QImage>
+#include <utility>
 
 /// A small database with three colours (1 red, 2 blue, 3 green), tags, and a table of records that carry
 /// tags.

@@ -8,7 +8,7 @@
 #include "Typing.h"
 
 #include <memory>
-#include <QHeaderView>
+#include <QApplication>
 #include <QPushButton>
 #include <QVBoxLayout>
 
