@@ -282,8 +282,10 @@ bool TTags::AddNew(const QString& name)
         Host().Messages.ShowSmartMessage(TNotificationMessage::nmLimitReached,
                                          {QStringLiteral("محدودیت در تعداد تگ ها")}, Tags_editor, window());
     }
+    if (code <= 0 || !guard)
+        return false;
     const TTaggedRecords records = Records();
-    if (code <= 0 || records.Keys.isEmpty())
+    if (records.Keys.isEmpty())
         return false;
     const QString number = QString::number(code);
     OpenAnew(*Colors_qry, TagStatements::NewTag(number));

@@ -248,6 +248,8 @@ void TRecordingMessages::ShowSmartMessage(TNotificationMessage message, const TM
                                           QWidget* control, QWidget* form)
 {
     log_.Note(QStringLiteral("Notify"), message, arguments[0], control, form);
+    if (WhileShown)
+        WhileShown(control);
 }
 
 void TRecordingMessages::ShowTooltipMessage(const TTooltip& tooltip)

@@ -152,8 +152,9 @@ public:
     void ShowMessage(const QString& text) override;
 
     TMessageResult Answer = TMessageResult::mrNo;
-    std::function<void()> WhileAsked;                 ///< runs while a confirmation is "open"
-    std::function<void(QWidget* control)> WhileShown; ///< runs while MsgCodeNotAvailable is "open"
+    std::function<void()> WhileAsked; ///< runs while a confirmation is "open"
+    std::function<void(QWidget* control)>
+        WhileShown; ///< runs while MsgCodeNotAvailable or a notification is "open"
     TTooltip LastTooltip;
 
 private:

@@ -406,6 +406,20 @@ private Q_SLOTS:
         QCOMPARE(form.Host.Log.CountOf(QStringLiteral("Call_insert_tags")), 0);
     }
 
+    void theFrameMayGoWhileTheLimitIsTold()
+    {
+        TTagsForm form;
+        Fill(form);
+        form.Select({1});
+        QVERIFY(form.Show());
+        form.Host.Messages.Answer = TMessageResult::mrYes;
+        form.Host.Pickers.CreatedTag = -1;
+        form.Host.Messages.WhileShown = [&form](QWidget*) { delete std::exchange(form.Frame, nullptr); };
+        form.Type(QStringLiteral("تازه"));
+        form.Press(Qt::Key_Return);
+        QVERIFY(form.Frame == nullptr);
+    }
+
     void theFrameMayGoWhileATagIsDefined()
     {
         TTagsForm form;
