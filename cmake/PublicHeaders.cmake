@@ -23,6 +23,7 @@ baseframe_public_headers(Ado ado
 baseframe_public_headers(Component_TRV suite
   AdvListEditorPer.h
   AdvListValues.h
+  ATImageBox.h
   Balloon.h
   CalendarKind.h
   ControlEvents.h
@@ -112,9 +113,13 @@ baseframe_public_headers(BaseFrame_PKG category
   CategoryTree.h)
 baseframe_public_headers(BaseFrame_PKG value
   CurrencyFrame_UNT.h
+  CurrencyRates.h
   OpenPictureDialog.h
   Pic_Get_UNT.h
-  Pic_Show_UNT.h)
+  Pic_Show_UNT.h
+  PictureReader.h
+  PictureSet.h
+  SymbolButton.h)
 baseframe_public_headers(BaseFrame_PKG voucher
   Detail_Button_UNT.h
   GetVoucher_UNT.h

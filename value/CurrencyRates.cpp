@@ -2,18 +2,13 @@
 
 #include "ADOQuery.h"
 #include "DecimalText.h"
+#include "SplicedText.h"
 
 namespace {
 
 QString BaseStatement()
 {
     return QStringLiteral("Select * from  AccCurrency where CurCode = %1").arg(TCurrencyRates::BaseCode);
-}
-
-/// A day inside a text literal; what is no day must not end the literal.
-QString QuotedDay(QString date)
-{
-    return u'\'' + date.replace(u'\'', QStringLiteral("''")) + u'\'';
 }
 
 QString RateText(const TField& field)
@@ -55,7 +50,7 @@ QVector<TCurrencyRates::TCurrency> TCurrencyRates::Currencies() const
 TCurrencyRates::TRate TCurrencyRates::RateOn(int currency, const QString& date) const
 {
     Open(QStringLiteral("SELECT TOP 1 * FROM AccCrConvRate WHERE AccCurrencyID = ") +
-         QString::number(currency) + QStringLiteral(" AND CrRateDate <= ") + QuotedDay(date) +
+         QString::number(currency) + QStringLiteral(" AND CrRateDate <= ") + SplicedText::Quoted(date) +
          QStringLiteral(" ORDER BY CrRateDate DESC, CrRateCode DESC"));
     if (query_->IsEmpty())
         return {};

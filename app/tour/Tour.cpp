@@ -8,9 +8,10 @@
 int PlayTour(TMainWindow& window, const QString& folder)
 {
     TTourPlayer player(window, folder);
-    const QVector<TTourStep> steps = GoodsListSteps() + SearchSteps() + SortingSteps() + PersonsListSteps() +
-                                     VoucherSteps() + DetailAccountSteps() + ReportSteps() +
-                                     VoucherBarSteps() + CategorySteps() + WindowSteps();
+    const QVector<TTourStep> steps = GoodsListSteps() + PictureSteps() + SearchSteps() + SortingSteps() +
+                                     PersonsListSteps() + VoucherSteps() + CurrencySteps() +
+                                     DetailAccountSteps() + ReportSteps() + VoucherBarSteps() +
+                                     CategorySteps() + WindowSteps();
     for (const TTourStep& step : steps) {
         player.BeginStep(QString::fromUtf16(step.Name));
         step.Play(player);

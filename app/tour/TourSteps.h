@@ -14,10 +14,12 @@ struct TTourStep
 /// The chapters of the tour, in the order in which they are played; each begins with what the one before
 /// left.
 QVector<TTourStep> GoodsListSteps();
+QVector<TTourStep> PictureSteps();
 QVector<TTourStep> SearchSteps();
 QVector<TTourStep> SortingSteps();
 QVector<TTourStep> PersonsListSteps();
 QVector<TTourStep> VoucherSteps();
+QVector<TTourStep> CurrencySteps();
 QVector<TTourStep> DetailAccountSteps();
 QVector<TTourStep> ReportSteps();
 QVector<TTourStep> VoucherBarSteps();
