@@ -28,8 +28,8 @@ using TValueEditDoneEvent = std::function<void(QObject* Sender, int ValueIndex, 
 /// and, at its end, over the next bubble; the other one back. Home and End go to the ends of the typed text,
 /// then to those of the row; with Ctrl to those of the row at once. With Shift they select. Ctrl+A selects
 /// everything. Backspace removes the selected bubbles; without any, a character of the text, and at the
-/// text's start the bubble before it. Delete likewise the bubble behind. Typing and pasting never remove a
-/// bubble. Copied bubbles are their texts with the separator between them.
+/// text's start the bubble before it; held, it stops where the text ends. Delete likewise the bubble behind.
+/// Typing and pasting never remove a bubble. Copied bubbles are their texts with the separator between them.
 ///
 /// How a typed text becomes an item:
 ///  - The user chooses an entry of the pop-up that lists the entries of Lookup() which begin with the text:
@@ -151,7 +151,8 @@ public:
     /// Whether bubbles carry a mark that removes them. True by default; read-only editors show none.
     bool CloseMarks() const;
     void SetCloseMarks(bool on);
-    /// The longest text that can be typed; 32767 by default.
+    /// The longest text that can be typed; 32767 by default. What is pasted beyond it is left out, and a
+    /// balloon says so.
     int MaxLength() const;
     void SetMaxLength(int length);
     /// How many lines the editor may grow to: 1, the default, scrolls sideways; more wrap the bubbles and
