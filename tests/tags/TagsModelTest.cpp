@@ -199,12 +199,19 @@ private:
             return QStringLiteral("nothing to delete");
         const bool backwards = random_.bounded(2) == 0;
         const int item = static_cast<int>(random_.bounded(count));
-        form.Editor()->CorrectEditPos();
-        for (int steps = count - item - (backwards ? 1 : 0); steps > 0; --steps)
-            form.Press(Qt::Key_Right);
+        GoTo(form, item + (backwards ? 1 : 0), count);
         form.Press(backwards ? Qt::Key_Backspace : Qt::Key_Delete);
         reference.DeleteItem(item);
         return QStringLiteral("delete");
+    }
+
+    /// Puts the caret to a place among the items, from the nearer end.
+    static void GoTo(const TTagsForm& form, int place, int count)
+    {
+        const bool fromBegin = place < count / 2;
+        form.Press(fromBegin ? Qt::Key_Home : Qt::Key_End);
+        for (int steps = fromBegin ? place : count - place; steps > 0; --steps)
+            form.Press(fromBegin ? Qt::Key_Left : Qt::Key_Right);
     }
 
     static QStringList ValuesOf(const TTagsForm& form)
