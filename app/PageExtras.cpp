@@ -65,7 +65,8 @@ void PageExtras::AddTo(TListForm& list, TReferenceHost& host)
 
 void PageExtras::AddTo(TReportForm& report, TReferenceHost& host)
 {
-    static_cast<void>(new TVoucherNotices(host, &report));
+    const auto* notices = new TVoucherNotices(host, &report);
+    QObject::connect(notices, &TVoucherNotices::generated, &report, &TReportForm::Refresh);
     auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), &report.Grid(), nullptr, nullptr,
                                    Qt::WidgetShortcut);
     QObject::connect(shortcut, &QShortcut::activated, &report,

@@ -3,6 +3,7 @@
 #include "ReferenceHost.h"
 #include "RefreshAutoVouchersFrame_UNT.h"
 #include "SaveAutoVouchersFrame_UNT.h"
+#include "SmartButton_TRV.h"
 
 #include <QVBoxLayout>
 
@@ -15,6 +16,9 @@ TVoucherNotices::TVoucherNotices(TReferenceHost& host, QWidget* page)
     column->setSpacing(0);
     column->addWidget(save_);
     column->addWidget(refresh_);
+    // The bars' own handlers have run by then.
+    connect(save_->SaveVoucher_BTN, &QPushButton::clicked, this, &TVoucherNotices::generated);
+    connect(refresh_->RefreshVoucher_BTN, &QPushButton::clicked, this, &TVoucherNotices::generated);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     static_cast<QBoxLayout*>(page->layout())->insertWidget(0, this);
 }

@@ -24,6 +24,9 @@ public:
     TSaveAutoVouchers_FRME& SaveBar() { return *save_; }
     TRefreshAutoVouchers_FRME& RefreshBar() { return *refresh_; }
 
+Q_SIGNALS:
+    void generated(); ///< the user has had vouchers generated; lists of them are out of date
+
 protected:
     void showEvent(QShowEvent* event) override;
 

@@ -1,4 +1,6 @@
 #include "VoucherNotices.h"
+
+#include <QSignalSpy>
 #include "AutoVouchers.h"
 #include "FormFixture.h"
 #include "ListForm.h"
@@ -96,7 +98,10 @@ void VoucherNoticesTest::missingVouchersAreToldAndGenerated()
     QTRY_VERIFY(notices.SaveBar().isVisible());
     QVERIFY(!notices.RefreshBar().isVisible());
     QCOMPARE(notices.y(), 0);
+    QVERIFY(shop_->Report->DataSet().WaitForFirstPage());
+    const QSignalSpy readAgain(&shop_->Report->DataSet(), &TDataSet::dataChanged);
     QTest::mouseClick(notices.SaveBar().SaveVoucher_BTN, Qt::LeftButton);
+    QTRY_VERIFY(!readAgain.isEmpty());
     QVERIFY(shop_->Text(QStringLiteral("SELECT SanadId FROM dbo.Trades WHERE Id = %1").arg(trade)).toInt() >
             0);
     QTRY_VERIFY(!notices.SaveBar().isVisible());
