@@ -21,6 +21,19 @@ QVector<TSmartDetailView_TRV*> ViewsOf(const TListDetail_FRAME& frame)
             frame.DetailView_Large_Bottom_SDV, frame.DetailView_Small_Bottom_SDV};
 }
 
+/// Notes the views whose menus get entries, in order.
+class TMenuWatch : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ActionAdded && !Views.contains(watched->parent()))
+            Views.append(watched->parent());
+        return false;
+    }
+    QObjectList Views;
+};
+
 } // namespace
 
 class ListDetailTest : public TTestCase
@@ -165,11 +178,16 @@ void ListDetailTest::reassginRebuildsTheMenusOfAllViews()
 {
     const TRecordingHost host;
     const TListDetail_FRAME frame;
+    TMenuWatch watch;
+    QObjectList views;
     for (TSmartDetailView_TRV* view : ViewsOf(frame)) {
         view->AddItem({QStringLiteral("نام"), 1});
         QVERIFY(view->PopupMenu()->isEmpty());
+        view->PopupMenu()->installEventFilter(&watch);
+        views.append(view);
     }
     frame.Reassgin();
+    QCOMPARE(watch.Views, views);
     for (const TSmartDetailView_TRV* view : ViewsOf(frame))
         QCOMPARE(view->PopupMenu()->actions().first()->text(), QStringLiteral("نام"));
 }
