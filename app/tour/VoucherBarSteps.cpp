@@ -86,7 +86,13 @@ void RefreshVouchers(TTourPlayer& player)
     TRefreshAutoVouchers_FRME& bar = Notices(player).RefreshBar();
     if (!player.Check(bar.isVisible(), QStringLiteral("نوار ثبت مجدد نیامد")))
         return;
+    // Some vouchers of closed years await it, too, and the user is told that they stay as they are.
+    player.WhenDialogOpens([&player] {
+        player.Screenshot(QStringLiteral("voucher-closed-years"));
+        player.Press(Qt::Key_Return);
+    });
     ClickMiddle(player, bar.RefreshVoucher_BTN);
+    player.CheckDialogCame(QStringLiteral("سال‌های بسته گفته نشد"));
     player.Check(!bar.isVisible(), QStringLiteral("نوار ثبت مجدد نرفت"));
     player.Screenshot(QStringLiteral("voucher-bars-gone"));
 }
