@@ -25,7 +25,7 @@ QString RateText(const TField& field)
 QString TCurrencyRates::BaseCountry() const
 {
     Open(BaseStatement());
-    const QString country = TextOf(QStringLiteral("CurCountry"));
+    QString country = TextOf(QStringLiteral("CurCountry"));
     query_->Close();
     return country;
 }

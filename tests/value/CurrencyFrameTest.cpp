@@ -273,6 +273,18 @@ private Q_SLOTS:
         QCOMPARE(form.RateText(), QStringLiteral("480000"));
     }
 
+    void aTypedRateIsExactToNineDecimals()
+    {
+        TCurrencyForm form;
+        QVERIFY(form.Show());
+        form.Frame->SetCodeValue(2);
+        form.TypeRate(QStringLiteral("1234567890.123456789"));
+        QCOMPARE(form.RateText(), QStringLiteral("1234567890.123456789"));
+        QVERIFY(form.Frame->GetPriceValue() == 1234567890.123456789L);
+        Typing::Type(form.Rate(), QStringLiteral("1")); // neither a twentieth digit nor a tenth decimal
+        QCOMPARE(form.RateText(), QStringLiteral("1234567890.123456789"));
+    }
+
     void settingARateKeepsAForeignZeroAndMakesTheBaseOne()
     {
         TCurrencyForm form;
