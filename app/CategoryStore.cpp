@@ -44,7 +44,7 @@ QString UseInWords(const TCategoryUse& use)
     return parts.join(QStringLiteral(" و "));
 }
 
-QString DefaultColumn(TCategoryStore::TListKind kind)
+QString ColumnOfKind(TCategoryStore::TListKind kind)
 {
     return kind == TCategoryStore::TListKind::Goods ? QStringLiteral("Good") : QStringLiteral("Person");
 }
@@ -171,7 +171,7 @@ TDefaultCategories TCategoryStore::DefaultsOf(int user) const
         return Number(
             QStringLiteral("SELECT MIN(Code_category) AS id FROM dbo.DefaultUserCategory WHERE user_code = ? "
                            "AND %1 = 1")
-                .arg(DefaultColumn(kind)),
+                .arg(ColumnOfKind(kind)),
             {user});
     };
     return {of(TListKind::Goods), of(TListKind::Persons)};
@@ -179,7 +179,7 @@ TDefaultCategories TCategoryStore::DefaultsOf(int user) const
 
 void TCategoryStore::SetDefault(int user, TListKind kind, int id)
 {
-    const QString column = DefaultColumn(kind);
+    const QString column = ColumnOfKind(kind);
     InTransaction([&] {
         if (Execute(QStringLiteral("UPDATE dbo.users SET Name = Name WHERE Code = ?"), {user}) == 0)
             throw ECategoryRefused(QStringLiteral(

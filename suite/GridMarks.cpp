@@ -69,14 +69,12 @@ void TGridMarks::ExtendTo(int row)
 
 void TGridMarks::LeaveRows(int first, int last)
 {
-    for (auto row = range_.begin(); row != range_.end();) {
-        if (row.key() >= first && row.key() <= last) {
-            ++row;
-            continue;
-        }
-        keys_.remove(row.value());
-        row = range_.erase(row);
-    }
+    range_.removeIf([&](const QMap<int, QString>::iterator& row) {
+        const bool leaves = row.key() < first || row.key() > last;
+        if (leaves)
+            keys_.remove(row.value());
+        return leaves;
+    });
 }
 
 void TGridMarks::MarkRows(int first, int last)
