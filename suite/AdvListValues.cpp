@@ -45,7 +45,8 @@ const TAdvListValueItem& TAdvListValues::Last() const
 
 void TAdvListValues::AddPair(const QString& displayText, const QString& value, int imageIndex)
 {
-    Insert(Count(), {displayText, value, imageIndex});
+    items_.append({displayText, value, imageIndex});
+    Tell(TChange::Added, Count() - 1, 1);
 }
 
 void TAdvListValues::Insert(int index, const TAdvListValueItem& item)
