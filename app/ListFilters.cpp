@@ -145,8 +145,7 @@ QJsonArray TListFilters::ChosenTags() const
 
 int TListFilters::CategoryId() const
 {
-    const TAdvListValues& path = Category->Editor->Values();
-    return path.IsEmpty() ? 0 : path.Last().Value.toInt();
+    return Category->ChosenCategory();
 }
 
 QJsonObject TListFilters::State() const

@@ -148,8 +148,7 @@ QString TListTagging::HeadingText() const
 
 int TListTagging::ChosenCategory() const
 {
-    const TAdvListValues& path = category_->Editor->Values();
-    return path.IsEmpty() ? 0 : path.Last().Value.toInt();
+    return category_->ChosenCategory();
 }
 
 void TListTagging::AssignCategory()

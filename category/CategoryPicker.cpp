@@ -38,26 +38,27 @@ void TCategoryPicker::create_bubble(int code, quint8 mode)
         throw std::invalid_argument("the mode of a path is 1 or 2");
     const std::optional<TCategoryRow> category = tree_.Category(code);
     if (!category) {
-        Show({}, {});
+        Show({});
         createmenuItemByCode(0);
         return;
     }
-    QVector<TCategoryRow> path = tree_.PathTo(*category);
+    QVector<TCategoryRow> categories = tree_.PathTo(*category);
     const bool isTopLevel = category->ParentId <= 0;
     if (mode == PathToParent)
-        path.removeLast();
-    QVector<TCategoryBubble> bubbles;
-    for (const TCategoryRow& step : qAsConst(path)) {
+        categories.removeLast();
+    QVector<TStep> path;
+    for (const TCategoryRow& step : qAsConst(categories)) {
         // Intended: the answer is not used.
         if (!isTopLevel)
             tree_.Category(0);
-        bubbles.append(isTopLevel ? TopLevelBubble(step) : TCategoryTree::BubbleOf(step));
+        path.append({step, isTopLevel ? TopLevelBubble(step) : TCategoryTree::BubbleOf(step)});
     }
-    Show(path, bubbles);
+    Show(path);
     if (path.isEmpty())
         createmenuItemByCode(isTopLevel ? category->Id : category->ParentId);
     else
-        createmenuItemByCode(TCategoryTree::NumberIn(bubbles.last().Id).value_or(path.last().Id));
+        createmenuItemByCode(
+            TCategoryTree::NumberIn(path.last().Bubble.Id).value_or(path.last().Category.Id));
 }
 
 void TCategoryPicker::DrawItem(const QString& name)
@@ -109,10 +110,18 @@ QString TCategoryPicker::LastName() const
     return editor_.Values().Last().DisplayText;
 }
 
+QString TCategoryPicker::ChosenId() const
+{
+    const TAdvListValueItem& last = editor_.Values().Last();
+    const int id = MadeOf(editor_.Values().Count() - 1, last.DisplayText, last.Value);
+    return id != 0 ? QString::number(id) : last.Value;
+}
+
 void TCategoryPicker::OfferUnderLastBubble()
 {
     const TAdvListValueItem last = editor_.Values().Last();
-    createmenuItemByCode(IdOf(editor_.Values().Count() - 1, last.DisplayText, last.Value));
+    const int made = MadeOf(editor_.Values().Count() - 1, last.DisplayText, last.Value);
+    createmenuItemByCode(TCategoryTree::NumberIn(last.Value).value_or(made));
 }
 
 bool TCategoryPicker::NothingIsLeft() const
@@ -128,7 +137,10 @@ bool TCategoryPicker::HasRemoved() const
 int TCategoryPicker::RemovedId() const
 {
     const QString removed = editor_.RemovedItem();
-    return IdOf(editor_.RemovedIndex(), removed, TCategoryTree::splitter(removed + u',', 2).trimmed());
+    const QString id = TCategoryTree::splitter(removed + u',', 2).trimmed();
+    const QString value = removed.section(u',', -1);
+    return TCategoryTree::NumberIn(id).value_or(
+        MadeOf(editor_.RemovedIndex(), removed.chopped(value.size() + 1), value));
 }
 
 void TCategoryPicker::CutPathBack()
@@ -153,18 +165,16 @@ QStringList TCategoryPicker::Offer(const QVector<TCategoryRow>& categories)
     return ids;
 }
 
-void TCategoryPicker::Show(const QVector<TCategoryRow>& path, const QVector<TCategoryBubble>& bubbles)
+void TCategoryPicker::Show(const QVector<TStep>& path)
 {
     path_ = path;
     editor_.Values().Clear();
-    for (const TCategoryBubble& bubble : bubbles)
-        editor_.Values().AddPair(bubble.Name, bubble.Id, bubble.ParentId);
+    for (const TStep& step : path)
+        editor_.Values().AddPair(step.Bubble.Name, step.Bubble.Id, step.Bubble.ParentId);
 }
 
-int TCategoryPicker::IdOf(int index, const QString& shown, const QString& value) const
+int TCategoryPicker::MadeOf(int index, const QString& name, const QString& value) const
 {
-    if (const std::optional<int> id = TCategoryTree::NumberIn(value))
-        return *id;
-    const TCategoryRow made = path_.value(index);
-    return !value.isEmpty() && shown.startsWith(TCategoryTree::splitter(made.Name, 1)) ? made.Id : 0;
+    const TStep step = path_.value(index);
+    return step.Bubble.Name == name && step.Bubble.Id == value ? step.Category.Id : 0;
 }

@@ -54,6 +54,9 @@ public:
     QString LastValue() const;
     /// The text of the last bubble; empty where there is none.
     QString LastName() const;
+    /// The id of the category that the last bubble shows: its value, except where a comma in the name has
+    /// pushed the id out of it. Empty where there is none.
+    QString ChosenId() const;
     /// The menu of the categories under the last bubble.
     void OfferUnderLastBubble();
 
@@ -67,16 +70,21 @@ public:
     void CutPathBack();
 
 private:
+    struct TStep
+    {
+        TCategoryRow Category;
+        TCategoryBubble Bubble;
+    };
+
     QStringList Offer(const QVector<TCategoryRow>& categories);
-    void Show(const QVector<TCategoryRow>& path, const QVector<TCategoryBubble>& bubbles);
-    /// The id that a bubble carries, 0 where it carries none; where a comma in the name has pushed it out,
-    /// that of the category shown there.
-    int IdOf(int index, const QString& shown, const QString& value) const;
+    void Show(const QVector<TStep>& path);
+    /// The category that a bubble of this text and value was made of; 0 where it was not made here.
+    int MadeOf(int index, const QString& name, const QString& value) const;
 
     TAdvListEditorPer& editor_;
     TPopupMenu& menu_;
     TCategoryTree tree_;
     TNotifyEvent onItemClick_;
-    /// What the bubbles were made of, for the ids that a comma in a name has pushed out of them.
-    QVector<TCategoryRow> path_;
+    /// What was shown last, for the ids that a comma in a name has pushed out of the bubbles.
+    QVector<TStep> path_;
 };

@@ -115,7 +115,7 @@ void TCategorysearchframe::DrawDefaultItems(quint8 kind)
         QStringLiteral("Code_category"));
     ShowCategory(category);
     const QPointer<QWidget> guard(this);
-    Publish(picker_->LastValue());
+    Publish(picker_->ChosenId());
     if (!guard)
         return;
     AllCategoryIds().Ids = Fill_allPop();
@@ -233,7 +233,7 @@ void TCategorysearchframe::EditorValueEditDone(const QString& text)
         picker_->OfferUnderLastBubble();
     }
     // Intended: the bare id, and the criterion is not switched on.
-    TarvaSearch1->SetValue1(picker_->LastValue());
+    TarvaSearch1->SetValue1(picker_->ChosenId());
 }
 
 /// Nothing stays of the category of another record.
@@ -249,7 +249,7 @@ void TCategorysearchframe::ShowCategory(std::optional<int> category)
 
 QString TCategorysearchframe::ValueBetweenCommas() const
 {
-    return Editor->Values().IsEmpty() ? QString() : u',' + picker_->LastValue() + u',';
+    return Editor->Values().IsEmpty() ? QString() : u',' + picker_->ChosenId() + u',';
 }
 
 void TCategorysearchframe::Publish(const QString& value) const

@@ -44,6 +44,10 @@ public:
     /// TRecordKind.
     void active_checker(const QString& code, quint8 kind);
 
+    /// The id of the chosen category; 0 where none is chosen. The value of the last bubble, except for names
+    /// with a comma, whose bubbles hold other texts.
+    int ChosenCategory() const { return picker_->ChosenId().toInt(); }
+
     void Runfirst() { picker_->Runfirst(); }
     void createmenuItemByCode(int code) { picker_->createmenuItemByCode(code); }
     void create_bubble(int code, quint8 mode) { picker_->create_bubble(code, mode); }

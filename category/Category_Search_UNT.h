@@ -16,8 +16,8 @@ class TSmartLabel_TRV;
 /// chosen category stands in the editor as bubbles; the menu always lists the categories under the last one.
 /// The user may also type a name, and removing a bubble cuts the path back.
 ///
-/// The owner calls open() and reads the choice from the editor: the value of the last bubble is the
-/// category's id. See TCategoryPicker for what the operations do, and TCategoryTree for the statements.
+/// The owner calls open() and reads ChosenCategory(). See TCategoryPicker for what the operations do, and
+/// TCategoryTree for the statements.
 class BASEFRAME_EXPORT TCategory_frame : public TFrame
 {
     Q_OBJECT
@@ -29,6 +29,10 @@ public:
     /// Fills the menu and the auto-completion; to be called before use. Clear removes the bubbles; otherwise
     /// those that the owner has put there stay.
     void open(bool Clear);
+
+    /// The id of the chosen category; 0 where none is chosen. The value of the last bubble, except for names
+    /// with a comma, whose bubbles hold other texts.
+    int ChosenCategory() const { return picker_->ChosenId().toInt(); }
 
     void Runfirst() { picker_->Runfirst(); }
     void createmenuItemByCode(int code) { picker_->createmenuItemByCode(code); }

@@ -101,7 +101,8 @@ void CategoryNamesTest::aNameWithACommaIsShiftedAndHarmsNothing()
     QVERIFY(form.Choose(QStringLiteral("پیچ,مهره")));
     QCOMPARE(form.Bubbles(), QStringList({"خدمات|4|0", "پیچ|مهره|4"}));
     QCOMPARE(form.Offered(), QStringList("پیچ ریز|71|70"));
-    QCOMPARE(form.Frame->TarvaSearch1->Value1(), QVariant(QStringLiteral(",مهره,")));
+    QCOMPARE(form.Frame->TarvaSearch1->Value1(), QVariant(QStringLiteral(",70,")));
+    QCOMPARE(form.Frame->ChosenCategory(), 70);
     // The value is no number; the menu is that of the category shown.
     form.Frame->createmenuItemByCode(0);
     form.Forget();
@@ -136,6 +137,7 @@ void CategoryNamesTest::aNumberBehindACommaIsTakenForTheId()
     form.Frame->create_bubble(70, 1);
     QCOMPARE(form.Bubbles(), QStringList({"خدمات|4|0", "پیچ|2|4"}));
     QCOMPARE(form.Offered(), QStringList({"چکش|7|2", "استاد'کار|8|2"}));
+    QCOMPARE(form.Frame->ChosenCategory(), 70);
 }
 
 void CategoryNamesTest::anIdThatAnOwnersBubbleLacksIsNotSent()
