@@ -148,13 +148,13 @@ bool TTags_search_FRM::exist(const QString& name, bool flag)
     return false;
 }
 
-bool TTags_search_FRM::exist1(const QString& name)
+bool TTags_search_FRM::exist1(const QString& name) const
 {
     OpenAnew(*Colors_qry, TagStatements::TagWithPicture(name));
     return !Colors_qry->IsEmpty();
 }
 
-bool TTags_search_FRM::AllowinsertTag()
+bool TTags_search_FRM::AllowinsertTag() const
 {
     OpenAnew(*Colors_qry, TagStatements::CountOfTags());
     return Colors_qry->Field(0)->AsInteger() < MostTagsOfPicker;
@@ -168,19 +168,19 @@ void TTags_search_FRM::Tag_editor1KeyUp()
 {
 }
 
-void TTags_search_FRM::Tag_editor1Exit()
+void TTags_search_FRM::Tag_editor1Exit() const
 {
     Tag_editor->SetColor(EditorColorOutside);
 }
 
-void TTags_search_FRM::Tag_editorEnter()
+void TTags_search_FRM::Tag_editorEnter() const
 {
     Tag_editor->CorrectEditPos();
     Tag_editor->clear();
     Tag_editor->SetColor(EditorColorInside);
 }
 
-void TTags_search_FRM::Tag_editorExit()
+void TTags_search_FRM::Tag_editorExit() const
 {
     Tag_editor->SetColor(EditorColorOutside);
     Tag_editor->clear();
@@ -274,7 +274,7 @@ void TTags_search_FRM::AddNewTag(quint8 code)
                                  pictures_.IndexOf(QString::number(color)));
 }
 
-void TTags_search_FRM::EndTyping()
+void TTags_search_FRM::EndTyping() const
 {
     Tag_editor->clear();
     Tag_editor->Update_selectedItems();

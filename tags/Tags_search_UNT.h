@@ -47,9 +47,9 @@ public:
     /// Where exist() has stopped looking: at the item it has found, else behind the last one.
     int ItemIndex() const { return itemIndex_; }
     /// Whether there is a tag of this name. Colors_qry stands on it then.
-    bool exist1(const QString& name);
+    bool exist1(const QString& name) const;
     /// Whether a tag may still be created: there are fewer than ten.
-    bool AllowinsertTag();
+    bool AllowinsertTag() const;
     /// Fills the menu anew.
     void DrawItems();
     /// Reads the pictures of the tags' colours anew.
@@ -64,8 +64,8 @@ public:
     // Bound to nothing; forms of owners refer to them.
     void tags_CHKClick();
     void Tag_editor1KeyUp();
-    void Tag_editor1Enter() { Tag_editorEnter(); }
-    void Tag_editor1Exit(); ///< leaves what is typed alone
+    void Tag_editor1Enter() const { Tag_editorEnter(); }
+    void Tag_editor1Exit() const; ///< leaves what is typed alone
     void Tag_editor1ValueEditDone() { Tag_editorValueEditDone(); }
 
     TSmartLabel_TRV* Tags_LBL = nullptr;
@@ -85,8 +85,8 @@ private:
     void MakeComponents();
     void BindHandlers();
 
-    void Tag_editorEnter();
-    void Tag_editorExit();
+    void Tag_editorEnter() const;
+    void Tag_editorExit() const;
     void Tag_editorKeyUp(quint16 key);
     void Tag_editorKeyPress(QChar key);
     void Tag_editorValueEditDone();
@@ -96,7 +96,7 @@ private:
     void TakeTyped();
     void CreateTag(const QString& name);
     void AddNewTag(quint8 code);
-    void EndTyping();
+    void EndTyping() const;
     void FollowChosen();
     void ShowTooltip(QWidget& control, const QString& text, int milliseconds) const;
 
