@@ -3,6 +3,7 @@
 #include "AdvListEditorPrivate.h"
 
 #include <mutex>
+#include <utility>
 
 namespace {
 
@@ -123,7 +124,8 @@ TAdvListEditorPer* TAdvListAccessible::Editor() const
 
 void TAdvListAccessible::Forget()
 {
-    for (const QAccessible::Id item : std::exchange(items_, {}))
+    const QHash<int, QAccessible::Id> gone = std::exchange(items_, {});
+    for (const QAccessible::Id item : gone)
         QAccessible::deleteAccessibleInterface(item);
 }
 
