@@ -221,6 +221,8 @@ TSmartEdit_TRV* TVoucherBand::ControlOf(TVoucherField field) const
         return selector_->DetailCode_EDT;
     case TVoucherField::ExpenseCenter:
         return selector_->ExpenseCenterCode_EDT;
+    case TVoucherField::Rate:
+        return currency_->Frame().CurrencyRate_EDT;
     case TVoucherField::Debit:
         return debit_;
     case TVoucherField::Credit:

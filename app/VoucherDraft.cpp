@@ -51,6 +51,22 @@ std::optional<TVoucherFault> CheckAmounts(const TVoucherLine& line)
     return CheckAmount(TVoucherField::Credit, line.Credit);
 }
 
+/// What the rate's and the amount's columns have no room for would be lost, or refused without a word why.
+std::optional<TVoucherFault> CheckCurrency(const TVoucherLine& line)
+{
+    if (!line.Currency.IsForeign())
+        return {};
+    static const TDecimal firstWithoutRoom(QStringLiteral("10000000000"));
+    const TDecimal rate(line.Currency.Rate);
+    if (rate.IsZero() || IsNegative(rate))
+        return Fault(TVoucherField::Rate, QStringLiteral("نرخ ارز ردیف را بنویسید؛ نرخ بیشتر از صفر است."));
+    if (!IsNegative(rate - firstWithoutRoom))
+        return Fault(TVoucherField::Rate,
+                     QStringLiteral("نرخ ارز تا ده رقم پیش از اعشار جا دارد؛ آن را کوتاه کنید."));
+    return CheckAmount(TDecimal(line.Debit).IsZero() ? TVoucherField::Credit : TVoucherField::Debit,
+                       line.Currency.Amount);
+}
+
 std::optional<TVoucherFault> CheckDetail(const TAccountCode& account, const TAccountFacts& facts)
 {
     if (account.Detail == 0 && facts.NeedsDetail)
@@ -184,6 +200,8 @@ bool TVoucherDraft::IsChanged() const
 std::optional<TVoucherFault> TVoucherDraft::CheckLine(const TVoucherLine& line, const TAccountFacts& facts)
 {
     if (auto fault = CheckAccount(line.Account, facts))
+        return fault;
+    if (auto fault = CheckCurrency(line))
         return fault;
     if (auto fault = CheckAmounts(line))
         return fault;

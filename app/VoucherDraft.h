@@ -85,6 +85,7 @@ enum class TVoucherField {
     Assistant,
     Detail,
     ExpenseCenter,
+    Rate,
     Debit,
     Credit,
     Description

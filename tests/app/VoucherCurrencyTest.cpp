@@ -109,6 +109,21 @@ private Q_SLOTS:
         QCOMPARE(form_->Draft().Lines().constFirst().Debit, QStringLiteral("3655"));
     }
 
+    void aRateWithoutRoomIsRefusedAtItsBox()
+    {
+        TypeAccount(QStringLiteral("102"), QStringLiteral("3"));
+        ChooseDollars();
+        Currency().Frame().CurrencyRate_EDT->setFocus();
+        Currency().Frame().CurrencyRate_EDT->selectAll();
+        shop_->Type(QStringLiteral("12345678901"));
+        form_->Band().Debit().setFocus();
+        shop_->Type(QStringLiteral("1"));
+        EnterLine();
+        QCOMPARE(form_->Draft().Count(), 0);
+        QVERIFY(Currency().Frame().CurrencyRate_EDT->HasError());
+        QCOMPARE(shop_->Focus(), Currency().Frame().CurrencyRate_EDT);
+    }
+
     void theRateFollowsTheVouchersDayUnlessOneIsTyped()
     {
         ChooseDollars();

@@ -192,6 +192,38 @@ private Q_SLOTS:
         QCOMPARE(!TVoucherDraft::CheckLine(Line(debit, credit), Known()).has_value(), taken);
     }
 
+    void theCurrencyIsChecked_data()
+    {
+        QTest::addColumn<QString>("rate");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<int>("field");
+        const auto row = [](const char* name, const char* rate, const char* amount, int field) {
+            QTest::newRow(name) << QString::fromLatin1(rate) << QString::fromLatin1(amount) << field;
+        };
+        constexpr int taken = -1;
+        row("taken", "480000.123456789", "12.5", taken);
+        row("the largest rate", "9999999999.999999999", "1", taken);
+        row("no rate", "0", "12.5", static_cast<int>(TVoucherField::Rate));
+        row("a negative rate", "-1", "12.5", static_cast<int>(TVoucherField::Rate));
+        row("a rate without room", "10000000000", "1", static_cast<int>(TVoucherField::Rate));
+        row("an amount without room", "0.001", "922337203685477.5808",
+            static_cast<int>(TVoucherField::Debit));
+        row("an amount of five decimals", "1", "0.00001", static_cast<int>(TVoucherField::Debit));
+    }
+
+    void theCurrencyIsChecked()
+    {
+        QFETCH(const QString, rate);
+        QFETCH(const QString, amount);
+        QFETCH(const int, field);
+        TVoucherLine line = Line(QStringLiteral("100"), QStringLiteral("0"));
+        line.Currency = {2, rate, amount};
+        const auto fault = TVoucherDraft::CheckLine(line, Known());
+        QCOMPARE(fault ? static_cast<int>(fault->Field) : -1, field);
+        line.Currency.Code = TLineCurrency::BaseCode;
+        QVERIFY(!TVoucherDraft::CheckLine(line, Known()).has_value());
+    }
+
     void theHeadIsChecked_data()
     {
         QTest::addColumn<TVoucherHead>("head");
