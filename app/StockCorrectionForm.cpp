@@ -26,16 +26,6 @@ namespace {
 
 constexpr QSize correctionFormSize{760, 480};
 
-TGridColumn CorrectionColumn(const QString& field, const QString& title, int width, TGridColumn::TKind kind)
-{
-    TGridColumn column;
-    column.FieldName = field;
-    column.Title = title;
-    column.Width = width;
-    column.Kind = kind;
-    return column;
-}
-
 } // namespace
 
 TStockCorrectionForm::TStockCorrectionForm(TReferenceHost& host, int kala, const QString& name,
@@ -89,9 +79,9 @@ void TStockCorrectionForm::Lay(const QString& name)
     bandRow->addWidget(stock_);
     column->addWidget(band);
     grid_->SetColumns({
-        CorrectionColumn(QStringLiteral("CorrectionDate"), QStringLiteral("تاریخ"), 110, TGridColumn::ckDate),
-        CorrectionColumn(QStringLiteral("Quantity"), QStringLiteral("مقدار"), 120, TGridColumn::ckNumber),
-        CorrectionColumn(QStringLiteral("Sharh"), QStringLiteral("شرح"), 300, TGridColumn::ckText),
+        {QStringLiteral("CorrectionDate"), QStringLiteral("تاریخ"), 110, TGridColumn::ckDate},
+        {QStringLiteral("Quantity"), QStringLiteral("مقدار"), 120, TGridColumn::ckNumber},
+        {QStringLiteral("Sharh"), QStringLiteral("شرح"), 300},
     });
     grid_->horizontalHeader()->setStretchLastSection(true);
     grid_->SetEmptyText(

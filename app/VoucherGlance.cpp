@@ -11,21 +11,6 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
-namespace {
-
-TGridColumn LineColumn(const QString& field, const QString& title, int width,
-                       TGridColumn::TKind kind = TGridColumn::ckText)
-{
-    TGridColumn column;
-    column.FieldName = field;
-    column.Title = title;
-    column.Width = width;
-    column.Kind = kind;
-    return column;
-}
-
-} // namespace
-
 TVoucherGlance::TVoucherGlance(TReferenceHost& host, int fiscalYear, int number, QWidget* parent)
     : QDialog(parent), host_(&host), place_(new TGetVoucher_FRM(this)), head_(new TSmartLabel_TRV(place_)),
       grid_(new TSmartDBGrid_TRV(place_)), totals_(new TSmartLabel_TRV(place_))
@@ -64,13 +49,14 @@ void TVoucherGlance::Lay()
     head_->setFont(RelativeFonts::Bold());
     head_->SetShowAccelChar(false);
     totals_->SetShowAccelChar(false);
+    constexpr int levelDigits = 3;
     grid_->SetColumns({
-        LineColumn(QStringLiteral("Kol"), QStringLiteral("کل"), 55, TGridColumn::ckCode),
-        LineColumn(QStringLiteral("Moin"), QStringLiteral("معین"), 55, TGridColumn::ckCode),
-        LineColumn(QStringLiteral("Tafzili"), QStringLiteral("تفصیلی"), 75, TGridColumn::ckCode),
-        LineColumn(QStringLiteral("Bed"), QStringLiteral("بدهکار"), 120, TGridColumn::ckMoney),
-        LineColumn(QStringLiteral("Bes"), QStringLiteral("بستانکار"), 120, TGridColumn::ckMoney),
-        LineColumn(QStringLiteral("Sharh"), QStringLiteral("شرح"), 160),
+        {QStringLiteral("Kol"), QStringLiteral("کل"), 55, TGridColumn::ckCode, true, levelDigits},
+        {QStringLiteral("Moin"), QStringLiteral("معین"), 55, TGridColumn::ckCode, true, levelDigits},
+        {QStringLiteral("Tafzili"), QStringLiteral("تفصیلی"), 75, TGridColumn::ckCode},
+        {QStringLiteral("Bed"), QStringLiteral("بدهکار"), 120, TGridColumn::ckMoney},
+        {QStringLiteral("Bes"), QStringLiteral("بستانکار"), 120, TGridColumn::ckMoney},
+        {QStringLiteral("Sharh"), QStringLiteral("شرح"), 160},
     });
     grid_->horizontalHeader()->setStretchLastSection(true);
     grid_->SetEmptyText(QStringLiteral("این سند ردیفی ندارد."));

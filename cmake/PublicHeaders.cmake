@@ -29,9 +29,12 @@ baseframe_public_headers(Component_TRV suite
   ControlEvents.h
   DateText.h
   EntityType.h
+  ExpandHeader.h
   FlowLines.h
+  GridPanel.h
   Look.h
   MenuItem.h
+  NxExpandPanel.h
   PopupMenu.h
   SectionEdit.h
   SectionText.h

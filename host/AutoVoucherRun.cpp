@@ -23,7 +23,7 @@ using TWork =
     std::function<TAutoVoucherResult(TAutoVouchers& vouchers, const TAutoVouchers::TProgress& progress)>;
 
 /// The work with a busy pointer and, where it takes long, with progress.
-TAutoVoucherResult Shown(const TWork& work)
+TAutoVoucherResult WithProgress(const TWork& work)
 {
     QProgressDialog dialog(QStringLiteral("سندهای خودکار ثبت می‌شوند…"),
                            QStringLiteral("توقف"), 0, 0, QApplication::activeWindow());
@@ -43,7 +43,7 @@ TAutoVoucherResult Shown(const TWork& work)
 int Run(const TWork& work)
 {
     try {
-        const TAutoVoucherResult result = Shown(work);
+        const TAutoVoucherResult result = WithProgress(work);
         if (const QString report = AutoVoucherRun::Report(result); !report.isEmpty())
             Host().Messages.ShowMessage(report);
         return result.Written;

@@ -1,7 +1,7 @@
 #include "AutoVouchers.h"
 
 #include "AccountNames.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 #include "ServiceRefused.h"
 #include "StockLedger.h"
 
@@ -20,19 +20,10 @@ QString TradesWhere(const QString& columns, bool closedYears, const QString& con
         .arg(columns, closedYears ? QStringLiteral("1") : QStringLiteral("0"), condition);
 }
 
-void OpenRows(TADOQuery& query, TADOConnection& connection, const QString& statement,
-              const QVariantList& parameters = {})
-{
-    query.SetConnection(&connection);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
-}
-
 bool HasRows(TADOConnection& connection, const QString& condition)
 {
     TADOQuery query;
-    OpenRows(query, connection, TradesWhere(QStringLiteral("TOP 1 t.Id"), false, condition));
+    OpenQuery(query, connection, TradesWhere(QStringLiteral("TOP 1 t.Id"), false, condition));
     return !query.IsEmpty();
 }
 
@@ -116,7 +107,7 @@ void TAutoVouchers::Prepare()
         throw EServiceRefused(
             QStringLiteral("کاربری وارد نشده است؛ با نام یک کاربر وارد شوید تا سندها ثبت شوند."));
     TADOQuery query;
-    OpenRows(
+    OpenQuery(
         query, *connection_,
         QStringLiteral("SELECT Operation, Total, Assistant, Detail FROM dbo.AutoVoucherSetting ORDER BY Id"));
     for (query.First(); !query.Eof(); query.Next())
@@ -142,15 +133,15 @@ TAutoVoucherResult TAutoVouchers::WriteAll(const QString& condition, const QVari
     QVector<std::pair<int, int>> operations;
     {
         TADOQuery query;
-        OpenRows(query, *connection_,
-                 TradesWhere(QStringLiteral("t.Id, t.FiscalYear"), false, condition) +
-                     QStringLiteral(" ORDER BY t.TradeDate, t.Id"),
-                 parameters);
+        OpenQuery(query, *connection_,
+                  TradesWhere(QStringLiteral("t.Id, t.FiscalYear"), false, condition) +
+                      QStringLiteral(" ORDER BY t.TradeDate, t.Id"),
+                  parameters);
         for (query.First(); !query.Eof(); query.Next())
             operations.append({query.Field(0)->AsInteger(), query.Field(1)->AsInteger()});
         query.Close();
-        OpenRows(query, *connection_, TradesWhere(QStringLiteral("COUNT(*) AS Trades"), true, condition),
-                 parameters);
+        OpenQuery(query, *connection_, TradesWhere(QStringLiteral("COUNT(*) AS Trades"), true, condition),
+                  parameters);
         result.InClosedYears = query.Field(0)->AsInteger();
     }
     for (int index = 0; index < operations.size(); ++index) {
@@ -219,10 +210,10 @@ TAutoVouchers::TOperation TAutoVouchers::ReadOperation(int tradeId)
     TOperation operation;
     {
         TADOQuery query;
-        OpenRows(query, *connection_,
-                 QStringLiteral("SELECT Kind, FiscalYear, Number, TradeDate, PersonCode, Amount, SanadId "
-                                "FROM dbo.Trades WHERE Id = ?"),
-                 {tradeId});
+        OpenQuery(query, *connection_,
+                  QStringLiteral("SELECT Kind, FiscalYear, Number, TradeDate, PersonCode, Amount, SanadId "
+                                 "FROM dbo.Trades WHERE Id = ?"),
+                  {tradeId});
         operation.Id = tradeId;
         operation.FiscalYear = Integer(query, QStringLiteral("FiscalYear"));
         operation.SanadId = Integer(query, QStringLiteral("SanadId"));
@@ -263,7 +254,7 @@ QVector<TAutoLine> TAutoVouchers::LinesOf(const TOperation& operation)
 int TAutoVouchers::InsertVoucher(const TOperation& operation)
 {
     TADOQuery query;
-    OpenRows(
+    OpenQuery(
         query, *connection_,
         QStringLiteral("SELECT ISNULL(MAX(Number), 0) + 1 AS Number FROM dbo.Sanad WHERE FiscalYear = ?"),
         {operation.FiscalYear});
@@ -274,9 +265,9 @@ int TAutoVouchers::InsertVoucher(const TOperation& operation)
                        "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
         {operation.FiscalYear, number, operation.Date, entry_.Moment, AutomaticKind,
          AutoVoucherLines::Title(operation.Trade), entry_.UserCode});
-    OpenRows(query, *connection_,
-             QStringLiteral("SELECT Id FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),
-             {operation.FiscalYear, number});
+    OpenQuery(query, *connection_,
+              QStringLiteral("SELECT Id FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),
+              {operation.FiscalYear, number});
     return query.Field(0)->AsInteger();
 }
 

@@ -1,7 +1,7 @@
 #include "StockLedger.h"
 
-#include "ADOQuery.h"
 #include "DecimalText.h"
+#include "QueryOpening.h"
 #include "ServiceRefused.h"
 
 namespace {
@@ -25,10 +25,7 @@ QVector<QVariantList> Read(TADOConnection& connection, const QString& statement,
                            const QVariantList& parameters)
 {
     TADOQuery query;
-    query.SetConnection(&connection);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
+    OpenQuery(query, connection, statement, parameters);
     QVector<QVariantList> rows;
     for (query.First(); !query.Eof(); query.Next()) {
         QVariantList row;

@@ -48,7 +48,7 @@ private:
     TExpandHeader* header_;
 };
 
-QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* object)
+QAccessibleInterface* NewAccessibleHeader(const QString& /*className*/, QObject* object)
 {
     auto* header = qobject_cast<TExpandHeader*>(object);
     return header != nullptr ? new TAccessibleExpandHeader(header) : nullptr;
@@ -58,7 +58,7 @@ QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* objec
 
 TExpandHeader::TExpandHeader(QWidget* parent) : QAbstractButton(parent)
 {
-    static const bool known = (QAccessible::installFactory(&NewAccessible), true);
+    static const bool known = (QAccessible::installFactory(&NewAccessibleHeader), true);
     Q_UNUSED(known)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);

@@ -25,7 +25,7 @@ QVector<int> SharesOf(const QString& percents)
     return shares;
 }
 
-QString TextOf(const QVector<int>& shares)
+QString PercentText(const QVector<int>& shares)
 {
     QStringList parts;
     for (const int share : shares)
@@ -82,7 +82,7 @@ TGridPanel::~TGridPanel() = default;
 
 QString TGridPanel::Columns() const
 {
-    return TextOf(columns_);
+    return PercentText(columns_);
 }
 
 void TGridPanel::SetColumns(const QString& percents)
@@ -93,7 +93,7 @@ void TGridPanel::SetColumns(const QString& percents)
 
 QString TGridPanel::Rows() const
 {
-    return TextOf(rows_);
+    return PercentText(rows_);
 }
 
 void TGridPanel::SetRows(const QString& percents)

@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int ArrowSide = 16;
-constexpr int SidePadding = 6;
+constexpr int ViewPadding = 6;
 constexpr int TwoLineHeight = 48;
 constexpr int UsualWidth = 160;
 constexpr int LeastWidth = 80;
@@ -323,23 +323,23 @@ QSize TSmartDetailView_TRV::minimumSizeHint() const
 
 QRect TSmartDetailView_TRV::ArrowRect() const
 {
-    const QRect atTheLeadingEnd(width() - SidePadding - ArrowSide, 0, ArrowSide, height());
+    const QRect atTheLeadingEnd(width() - ViewPadding - ArrowSide, 0, ArrowSide, height());
     return QStyle::visualRect(layoutDirection(), rect(), atTheLeadingEnd);
 }
 
 QRect TSmartDetailView_TRV::CaptionRect() const
 {
-    const int whole = width() - 3 * SidePadding - ArrowSide;
-    const int wanted = fontMetrics().horizontalAdvance(ShownCaption()) + SidePadding;
-    const QRect area = oneLine_ ? QRect(SidePadding, 0, qMin(wanted, whole / 2), height())
-                                : QRect(SidePadding, Look::RingWidth, whole, height() / 2 - Look::RingWidth);
+    const int whole = width() - 3 * ViewPadding - ArrowSide;
+    const int wanted = fontMetrics().horizontalAdvance(ShownCaption()) + ViewPadding;
+    const QRect area = oneLine_ ? QRect(ViewPadding, 0, qMin(wanted, whole / 2), height())
+                                : QRect(ViewPadding, Look::RingWidth, whole, height() / 2 - Look::RingWidth);
     return QStyle::visualRect(layoutDirection(), rect(), area);
 }
 
 QRect TSmartDetailView_TRV::ValueRect() const
 {
-    const int end = width() - 2 * SidePadding - ArrowSide;
-    const int begin = oneLine_ ? 2 * SidePadding + CaptionRect().width() : SidePadding;
+    const int end = width() - 2 * ViewPadding - ArrowSide;
+    const int begin = oneLine_ ? 2 * ViewPadding + CaptionRect().width() : ViewPadding;
     const int top = oneLine_ ? 0 : height() / 2;
     const QRect area(begin, top, end - begin, height() - top - (oneLine_ ? 0 : Look::RingWidth));
     return QStyle::visualRect(layoutDirection(), rect(), area);
