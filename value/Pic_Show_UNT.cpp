@@ -114,7 +114,7 @@ void TPic_Show::Prev()
     SetPicture();
 }
 
-void TPic_Show::SetPicture()
+void TPic_Show::SetPicture() const
 {
     const PictureSet::TShown shown = PictureSet::Current(*Display_QRY);
     Pic_IMG->SetPicture(shown.Image);

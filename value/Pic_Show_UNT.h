@@ -28,7 +28,7 @@ public:
     void Next();
     void Last();
     /// Shows the picture of Display_QRY's current row.
-    void SetPicture();
+    void SetPicture() const;
 
     TSmartPanel_TRV* Name_PNL = nullptr;
     TADOQuery* Display_QRY = nullptr;

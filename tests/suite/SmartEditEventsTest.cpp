@@ -54,6 +54,7 @@ private Q_SLOTS:
     void typingQuicklyAnnouncesTheValueOnce();
     void theDelayRunsFromTheLastChange();
     void leavingAnnouncesTheValueAtOnceAndBeforeExit();
+    void aValueThatIsDueIsAnnouncedWhenItIsAskedFor();
     void leavingUnchangedAnnouncesNothing();
     void anotherWindowOrAMenuDoesNotAnnounce();
     void leavingCompletesWhatIsHalfTyped_data();
@@ -195,6 +196,16 @@ void SmartEditEventsTest::leavingAnnouncesTheValueAtOnceAndBeforeExit()
     QTest::keyClick(&form.edit, Qt::Key_Tab);
     QCOMPARE(form.log,
              QStringList({QStringLiteral("change a"), QStringLiteral("value a"), QStringLiteral("exit")}));
+}
+
+void SmartEditEventsTest::aValueThatIsDueIsAnnouncedWhenItIsAskedFor()
+{
+    TForm form;
+    form.edit.AnnouncePendingValue();
+    TypedKeys::Script(&form.edit, QStringLiteral("a"));
+    form.edit.AnnouncePendingValue();
+    form.edit.AnnouncePendingValue();
+    QCOMPARE(form.log, QStringList({QStringLiteral("change a"), QStringLiteral("value a")}));
 }
 
 void SmartEditEventsTest::leavingUnchangedAnnouncesNothing()

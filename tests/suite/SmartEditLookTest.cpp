@@ -56,6 +56,7 @@ private Q_SLOTS:
     void negativeAmountsHaveTheirOwnColour();
     void anOwnersColoursComeBackAfterANegativeAmount();
     void theSchemeReachesNegativeAmounts();
+    void onALightGroundOfItsOwnANegativeAmountStaysReadable();
     void theEditIsAsHighAsEveryControl();
 
 private:
@@ -145,6 +146,19 @@ void SmartEditLookTest::anOwnersColoursComeBackAfterANegativeAmount()
     edit_->SetValue(5);
     QCOMPARE(edit_->palette().color(QPalette::Base), QColor(0xF4, 0xF4, 0xF4));
     QCOMPARE(edit_->palette().color(QPalette::Text), QColor(Qt::blue));
+}
+
+void SmartEditLookTest::onALightGroundOfItsOwnANegativeAmountStaysReadable()
+{
+    const QColor ground = Look::FromColorValue(16053492);
+    QPalette palette;
+    palette.setColor(QPalette::Base, ground);
+    edit_->setPalette(palette);
+    edit_->SetEditType(TSmartEdit_TRV::etCurrency);
+    edit_->SetValue(-5);
+    Look::SetScheme(Look::TScheme::Dark);
+    QCoreApplication::processEvents();
+    QVERIFY(Look::Contrast(edit_->palette().color(QPalette::Text), ground) >= 4.5);
 }
 
 void SmartEditLookTest::theSchemeReachesNegativeAmounts()
