@@ -101,7 +101,7 @@ void TListFilters::Start()
     Category->open(goods ? TCategorysearchframe::GoodsLists : TCategorysearchframe::PersonLists);
 }
 
-void TListFilters::Clear()
+void TListFilters::Clear() const
 {
     Tags->Tag_editor->Values().Clear();
     Tags->Tag_editor->clear();
@@ -177,7 +177,7 @@ void TListFilters::Refresh()
 // As if the user picked them again; a tag that is gone is not in the menu.
 void TListFilters::ChooseTags(const QJsonArray& codes)
 {
-    for (const QJsonValue& code : codes) {
+    for (const auto& code : codes) {
         for (int item = 0; item < Tags->tags_list_pop->Count(); ++item) {
             if (Tags->tags_list_pop->Item(item)->Tag == code.toInt())
                 Tags->POP_click(Tags->tags_list_pop->Item(item));

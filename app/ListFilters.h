@@ -29,7 +29,7 @@ public:
     /// Takes over what has become of tags and categories meanwhile; what is chosen stays so.
     void Refresh();
     /// Nothing of the line filters any more.
-    void Clear();
+    void Clear() const;
     void FocusTags() const;
 
     QJsonObject State() const;
