@@ -52,6 +52,8 @@ TGalleryInspector::TGalleryInspector(QWidget* parent)
     state_->setHeaderLabels({QStringLiteral("شرط یا مقدار"), QStringLiteral("اکنون")});
     state_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     state_->setAlternatingRowColors(true);
+    // Names and values are code, which is read from the left; so are statements.
+    state_->setLayoutDirection(Qt::LeftToRight);
     journal_->setObjectName(QStringLiteral("Journal_EDT"));
     journal_->setAccessibleName(QStringLiteral("رویدادها و دستورهای فرستاده شده"));
     journal_->setReadOnly(true);
@@ -61,7 +63,6 @@ TGalleryInspector::TGalleryInspector(QWidget* parent)
     const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     journal_->setFont(font);
     state_->setFont(font);
-    // Statements are read from the left.
     QTextOption option = journal_->document()->defaultTextOption();
     option.setTextDirection(Qt::LeftToRight);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
