@@ -238,8 +238,8 @@ QVector<TAutoLine> TAutoVouchers::LinesOf(const TOperation& operation)
             QStringLiteral("عملیات شماره %1 از نوعی است که سند خودکار ندارد.").arg(operation.Id));
     if (operation.Trade.Amount.IsZero() || operation.Trade.Amount.ToString().startsWith(u'-'))
         throw EOperationAtFault(QStringLiteral("«%1»: مبلغ باید بیش از صفر باشد.").arg(title));
-    const QVector<TAutoLine> lines = AutoVoucherLines::Of(operation.Trade, accounts_);
-    for (const TAutoLine& line : lines) {
+    QVector<TAutoLine> lines = AutoVoucherLines::Of(operation.Trade, accounts_);
+    for (const TAutoLine& line : qAsConst(lines)) {
         const TAccountCodes codes{line.Account.Total, line.Account.Assistant, line.Account.Detail};
         if (!ReadAccountNames(*connection_, codes))
             throw EOperationAtFault(QStringLiteral("«%1»: حساب %2/%3/%4 تعریف نشده است.")
