@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <QAccessibleWidget>
+#include <QHash>
 #include <QKeyEvent>
 #include <QPainter>
 

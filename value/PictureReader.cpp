@@ -2,6 +2,7 @@
 
 #include "JpegBounds.h"
 
+#include <algorithm>
 #include <cmath>
 #include <QBuffer>
 #include <QFileInfo>
