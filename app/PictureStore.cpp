@@ -20,7 +20,7 @@ QByteArray ContentOf(const QString& path)
     if (file.size() > TPictureStore::LargestFile)
         throw EPictureRefused(QStringLiteral(
             "حجم پروندهٔ عکس بیش از ۱۰ مگابایت است؛ عکس کوچک‌تری برگزینید."));
-    const QByteArray content = file.readAll();
+    QByteArray content = file.readAll();
     if (PictureReader::FromBytes(content, PictureReader::TFormat::Jpeg).isNull())
         throw EPictureRefused(QStringLiteral("این پرونده عکس JPEG درستی نیست؛ پروندهٔ دیگری برگزینید."));
     return content;
