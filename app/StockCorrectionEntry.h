@@ -2,6 +2,7 @@
 
 #include "StockLedger.h"
 
+#include <QDate>
 #include <QWidget>
 
 class TSmartComboBox_TRV;

@@ -99,7 +99,7 @@ void TStockCorrectionForm::ConnectButtons()
     buttons_->NewRecord_BTN->OnClick = [this](QObject*) { Type(0); };
     buttons_->EditRecord_BTN->OnClick = [this](QObject*) { Type(CurrentId()); };
     buttons_->DeleteRecord_BTN->OnClick = [this](QObject*) { Delete(); };
-    connect(entry_, &TStockCorrectionEntry::accepted, this, &TStockCorrectionForm::Accept);
+    connect(entry_, &TStockCorrectionEntry::accepted, this, &TStockCorrectionForm::AcceptRow);
     connect(entry_, &TStockCorrectionEntry::rejected, this, &TStockCorrectionForm::StopTyping);
     const auto onKey = [this](Qt::Key key, TSmartButton_TRV* button) {
         auto* shortcut = new QShortcut(QKeySequence(key), grid_, nullptr, nullptr, Qt::WidgetShortcut);
@@ -162,7 +162,7 @@ void TStockCorrectionForm::StopTyping()
     grid_->setFocus();
 }
 
-void TStockCorrectionForm::Accept()
+void TStockCorrectionForm::AcceptRow()
 {
     TStockCorrection correction = entry_->Typed();
     if (correction.Date.isEmpty()) {

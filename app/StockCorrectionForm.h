@@ -43,7 +43,7 @@ private:
     void Read();
     void Type(int id);
     void StopTyping();
-    void Accept();
+    void AcceptRow();
     void Delete();
     int CurrentId(); ///< 0 where there is no row
     /// What is refused is told at the control.
