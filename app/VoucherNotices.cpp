@@ -5,6 +5,7 @@
 #include "SaveAutoVouchersFrame_UNT.h"
 #include "SmartButton_TRV.h"
 
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 TVoucherNotices::TVoucherNotices(TReferenceHost& host, QWidget* page)
