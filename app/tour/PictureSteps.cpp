@@ -34,7 +34,8 @@ void LookAtPictures(TTourPlayer& player)
 void OpenPictureCard(TTourPlayer& player)
 {
     TRecordCard* card = player.List().Card();
-    if (!player.Check(card != nullptr, QStringLiteral("کارت باز نیست")))
+    player.Check(card != nullptr, QStringLiteral("کارت باز نیست"));
+    if (card == nullptr)
         return;
     card->Pictures()->findChild<QPushButton*>(QStringLiteral("ChangePicture_BTN"))->setFocus();
     player.Press(Qt::Key_Space);
