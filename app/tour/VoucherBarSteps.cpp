@@ -106,7 +106,8 @@ void GlanceAtVoucher(TTourPlayer& player)
     player.Press(Qt::Key_Home);
     player.Press(Qt::Key_Return, Qt::ControlModifier);
     auto* glance = report.findChild<TVoucherGlance*>();
-    if (!player.Check(glance != nullptr, QStringLiteral("نگاه به سند باز نشد")))
+    player.Check(glance != nullptr, QStringLiteral("نگاه به سند باز نشد"));
+    if (glance == nullptr)
         return;
     player.Check(glance->Lines().RecordCount() > 1, QStringLiteral("سند ردیف ندارد"));
     player.Screenshot(QStringLiteral("voucher-glance"));
