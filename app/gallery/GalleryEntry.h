@@ -31,6 +31,7 @@ struct TGalleryEntry
     QString Unit;
     QString ClassName;
     QString Purpose; ///< for the list, in a few words
+    std::function<TFrame*(QWidget* owner)> Make; ///< the bare frame
     std::function<TFrame*(const TGalleryStage& stage, QWidget* owner)> Create;
     std::function<TGalleryValues(const TFrame& frame)> Values; ///< null where the frame hands nothing out
 };
@@ -45,6 +46,7 @@ TGalleryEntry GalleryEntry(const QString& unit, const QString& purpose,
     entry.Unit = unit;
     entry.ClassName = QString::fromLatin1(TFrameClass::staticMetaObject.className());
     entry.Purpose = purpose;
+    entry.Make = [](QWidget* owner) -> TFrame* { return new TFrameClass(owner); };
     entry.Create = [setUp](const TGalleryStage& stage, QWidget* owner) {
         auto* frame = new TFrameClass(owner);
         setUp(*frame, stage);
