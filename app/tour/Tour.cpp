@@ -11,7 +11,7 @@ int PlayTour(TMainWindow& window, const QString& folder)
     const QVector<TTourStep> steps = GoodsListSteps() + PictureSteps() + SearchSteps() + SortingSteps() +
                                      PersonsListSteps() + VoucherSteps() + CurrencySteps() +
                                      DetailAccountSteps() + ReportSteps() + VoucherBarSteps() +
-                                     CategorySteps() + LabelSteps() + WindowSteps();
+                                     CategorySteps() + LabelSteps() + GallerySteps() + WindowSteps();
     for (const TTourStep& step : steps) {
         player.BeginStep(QString::fromUtf16(step.Name));
         step.Play(player);

@@ -165,5 +165,15 @@ void TTourPlayer::Screenshot(const QString& name, bool numbered)
     painter.end();
     const QString file = numbered ? QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QChar(u'0')).arg(name)
                                   : name + QStringLiteral(".png");
+    Save(picture, file);
+}
+
+void TTourPlayer::Picture(QWidget& widget, const QString& name)
+{
+    Save(widget.grab(), name + QStringLiteral(".png"));
+}
+
+void TTourPlayer::Save(const QPixmap& picture, const QString& file)
+{
     Check(picture.save(QDir(folder_).filePath(file)), QStringLiteral("تصویر %1 نوشته نشد").arg(file));
 }

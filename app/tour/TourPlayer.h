@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <Qt>
 
+class QPixmap;
 class QWidget;
 class TListForm;
 class TMainWindow;
@@ -48,11 +49,14 @@ public:
     /// Writes the window, with the dialogs and menus over it, as the next numbered PNG; an unnumbered one
     /// stands under its name alone.
     void Screenshot(const QString& name, bool numbered = true);
+    /// Writes a single widget.
+    void Picture(QWidget& widget, const QString& name);
 
 private:
     QWidget* KeyReceiver() const;
     void Activate(QWidget* window) const;
     void PlayDialog();
+    void Save(const QPixmap& picture, const QString& file);
 
     TMainWindow* window_;
     QString folder_;

@@ -25,4 +25,5 @@ QVector<TTourStep> ReportSteps();
 QVector<TTourStep> VoucherBarSteps();
 QVector<TTourStep> CategorySteps();
 QVector<TTourStep> LabelSteps();
+QVector<TTourStep> GallerySteps();
 QVector<TTourStep> WindowSteps();
