@@ -168,10 +168,12 @@ QPixmap TAdvListEditorPer::TPrivate::Picture(int imageIndex)
         return *found;
     const qreal ratio = editor->devicePixelRatioF();
     const QImage& image = images.at(imageIndex);
-    const QSize most = QSize(TAdvListBubble::PictureSide, TAdvListBubble::PictureSide) * ratio;
+    // As large as its pixels are at scale 1, whatever the scale, and no larger than there is room for.
+    const QSize most(TAdvListBubble::PictureSide, TAdvListBubble::PictureSide);
     const bool tooLarge = image.width() > most.width() || image.height() > most.height();
-    QPixmap picture = QPixmap::fromImage(
-        tooLarge ? image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image);
+    const QSize shown = tooLarge ? image.size().scaled(most, Qt::KeepAspectRatio) : image.size();
+    QPixmap picture =
+        QPixmap::fromImage(image.scaled(shown * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     picture.setDevicePixelRatio(ratio);
     pictures.insert(imageIndex, picture);
     return picture;

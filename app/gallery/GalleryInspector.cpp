@@ -88,9 +88,11 @@ void TGalleryInspector::Watch(TFrame* frame, const TGalleryEntry& entry)
 
 void TGalleryInspector::FollowCriteria()
 {
+    criteria_.clear();
     if (!frame_)
         return;
     for (TTarvaSearch* criterion : frame_->findChildren<TTarvaSearch*>()) {
+        criteria_.append(criterion);
         // A frame that comes again is not followed twice.
         criterion->disconnect(this);
         const auto tell = [this, criterion](const QString& what) {
@@ -125,8 +127,10 @@ void TGalleryInspector::ShowState()
     if (!frame_)
         return;
     int place = 0;
-    for (const TTarvaSearch* criterion : frame_->findChildren<TTarvaSearch*>())
-        ShowGroup(place++, criterion->objectName(), RowsOf(*criterion));
+    for (const QPointer<TTarvaSearch>& criterion : qAsConst(criteria_)) {
+        if (criterion)
+            ShowGroup(place++, criterion->objectName(), RowsOf(*criterion));
+    }
     if (!entry_.Values)
         return;
     TRows rows;
@@ -140,11 +144,11 @@ void TGalleryInspector::ShowGroup(int place, const QString& title, const TRows& 
     QTreeWidgetItem* group = state_->topLevelItem(place);
     if (group == nullptr) {
         group = new QTreeWidgetItem(state_, {title});
-        for (const auto& row : rows)
-            group->addChild(new QTreeWidgetItem({row.first}));
         group->setExpanded(true);
     }
     for (int index = 0; index < rows.size(); ++index) {
+        if (index == group->childCount())
+            group->addChild(new QTreeWidgetItem({rows.at(index).first}));
         QTreeWidgetItem* item = group->child(index);
         if (item->text(1) != rows.at(index).second)
             item->setText(1, rows.at(index).second);

@@ -45,6 +45,8 @@ private:
     QTreeWidget* state_ = nullptr;
     QPlainTextEdit* journal_ = nullptr;
     QPointer<TFrame> frame_;
+    /// The frame's own, taken down when it is chosen: a list that it opens later brings criteria of its own.
+    QVector<QPointer<TTarvaSearch>> criteria_;
     TGalleryEntry entry_;
     QTimer refresh_;
 };

@@ -2,6 +2,7 @@
 
 #include "Range_Digit_Search.h"
 #include "SmartCheckBox_TRV.h"
+#include "TarvaSearch.h"
 
 #include <QSet>
 
@@ -72,6 +73,22 @@ private Q_SLOTS:
             shop_->Press(Qt::Key_Down);
         }
         QCOMPARE(shop_->Told, QStringList());
+    }
+
+    // The list of an entity is opened over its frame and has a search bar of its own.
+    void aCriterionThatComesLaterIsNotTheFramesOwn()
+    {
+        const QString name = QStringLiteral("TRange_SelectEntity_Search_Frame");
+        shop_->Gallery->Choose(shop_->EntryOf(name));
+        shop_->Settle();
+        const QTreeWidget& state = shop_->Gallery->Inspector().State();
+        const int groups = state.topLevelItemCount();
+        TTarvaSearch first(shop_->Gallery->ShownFrame());
+        TTarvaSearch second(shop_->Gallery->ShownFrame());
+        first.setObjectName(QStringLiteral("TarvaSearch_General"));
+        shop_->Settle();
+        QCOMPARE(state.topLevelItemCount(), groups);
+        QCOMPARE(shop_->State(name, QStringLiteral("GetActive")), QStringLiteral("false"));
     }
 
     void framesAreMadeWhenTheyAreChosen()
