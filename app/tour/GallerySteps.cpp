@@ -24,7 +24,7 @@ void ShowEveryFrame(TTourPlayer& player)
         // The frame that keeps a place for a voucher has nothing to show.
         if (player.Check(shown, QStringLiteral("قاب %1 نشان داده نشد").arg(entries[index].ClassName)) &&
             !frame->size().isEmpty())
-            player.Picture(*frame, QStringLiteral("frame-") + entries[index].Unit);
+            player.Picture(*frame, entries[index].Unit);
         if (index == 0)
             player.Screenshot(QStringLiteral("gallery"));
     }

@@ -170,7 +170,8 @@ void TTourPlayer::Screenshot(const QString& name, bool numbered)
 
 void TTourPlayer::Picture(QWidget& widget, const QString& name)
 {
-    Save(widget.grab(), name + QStringLiteral(".png"));
+    QDir(folder_).mkpath(QStringLiteral("frames"));
+    Save(widget.grab(), QStringLiteral("frames/%1.png").arg(name));
 }
 
 void TTourPlayer::Save(const QPixmap& picture, const QString& file)

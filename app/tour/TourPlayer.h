@@ -49,7 +49,7 @@ public:
     /// Writes the window, with the dialogs and menus over it, as the next numbered PNG; an unnumbered one
     /// stands under its name alone.
     void Screenshot(const QString& name, bool numbered = true);
-    /// Writes a single widget.
+    /// Writes a single widget into the folder `frames`.
     void Picture(QWidget& widget, const QString& name);
 
 private:

@@ -88,7 +88,7 @@ private Q_SLOTS:
         first.setObjectName(QStringLiteral("TarvaSearch_General"));
         shop_->Settle();
         QCOMPARE(state.topLevelItemCount(), groups);
-        QCOMPARE(shop_->State(name, QStringLiteral("GetActive")), QStringLiteral("false"));
+        QCOMPARE(shop_->State(name, QStringLiteral("GetActive")), QStringLiteral("bool false"));
     }
 
     void framesAreMadeWhenTheyAreChosen()
