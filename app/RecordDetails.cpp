@@ -39,8 +39,8 @@ TRecordDetails::TRecordDetails(TListForm& list, TReferenceHost& host)
     pause_.setSingleShot(true);
     pause_.setInterval(restOnRecord);
     connect(&pause_, &QTimer::timeout, this, &TRecordDetails::Ask);
-    for (const auto change : {&TDataSource::dataChanged, &TDataSource::scrolled})
-        connect(&source_, change, this, &TRecordDetails::FollowRow);
+    connect(&source_, &TDataSource::dataChanged, this, &TRecordDetails::FollowRow);
+    connect(&source_, &TDataSource::scrolled, this, &TRecordDetails::FollowRow);
     connect(rows_, &TPagedDataSet::rowsArrived, this, &TRecordDetails::FollowRow);
     connect(thread_.get(), &TQueryThread::answered, this, [this] {
         if (const TQueryThread::TAnswer answer = thread_->TakeAnswer())
