@@ -156,9 +156,9 @@ void TSmartDetailView_TRV::SetDataSource(TDataSource* source)
         source_->disconnect(this);
     source_ = source;
     if (source_ != nullptr) {
-        for (const auto change :
-             {&TDataSource::dataSetChanged, &TDataSource::dataChanged, &TDataSource::scrolled})
-            connect(source_, change, this, &TSmartDetailView_TRV::UpdateValue);
+        connect(source_, &TDataSource::dataSetChanged, this, &TSmartDetailView_TRV::UpdateValue);
+        connect(source_, &TDataSource::dataChanged, this, &TSmartDetailView_TRV::UpdateValue);
+        connect(source_, &TDataSource::scrolled, this, &TSmartDetailView_TRV::UpdateValue);
     }
     UpdateValue();
 }
