@@ -5,6 +5,7 @@
 #include "HostTestMain.h"
 #include "ModalBox.h"
 #include "TagUser.h"
+#include "ToolkitLeaks.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -203,6 +204,7 @@ private Q_SLOTS:
             const std::unique_ptr<TADOConnection> other = user_->Database.Connect();
             other->Execute(QStringLiteral("DELETE FROM dbo.TagS"));
             other->Execute(QStringLiteral("DELETE FROM dbo.colors"));
+            const TToolkitLeaks leaks;
             ModalBox::TAnswer user(ModalBox::Key(Qt::Key_Return));
             Press(dialog, Qt::Key_Return);
             QTRY_COMPARE(user.Boxes(), 1);
