@@ -45,7 +45,7 @@ TDatePeriods TDateRange_Display_FRAM::Periods()
     return TDatePeriods(Host().Clock.Today(), Host().Settings.SettingRecord().IsGregorian());
 }
 
-void TDateRange_Display_FRAM::init()
+void TDateRange_Display_FRAM::init() const
 {
     const QPointer<TTarvaSearch> criterion(Tarva_DisplayRange);
     RangeDate_CMB->setEnabled(true);
@@ -54,12 +54,12 @@ void TDateRange_Display_FRAM::init()
         criterion->SetActive(true);
 }
 
-void TDateRange_Display_FRAM::RangeDate_CMBChange(QObject* /*Sender*/)
+void TDateRange_Display_FRAM::RangeDate_CMBChange(QObject* /*Sender*/) const
 {
     SetRangeValue();
 }
 
-void TDateRange_Display_FRAM::SetRangeValue()
+void TDateRange_Display_FRAM::SetRangeValue() const
 {
     const QPointer<TTarvaSearch> criterion(Tarva_DisplayRange);
     const auto setFrom = [&criterion](const QString& date) {

@@ -21,11 +21,11 @@ public:
     ~TDateRange_Display_FRAM() override;
 
     /// Hands the chosen period to the criterion and switches it on.
-    void init();
+    void init() const;
     /// The choice of a period.
-    void RangeDate_CMBChange(QObject* Sender);
+    void RangeDate_CMBChange(QObject* Sender) const;
     /// Writes the bounds of the chosen period into the criterion.
-    void SetRangeValue();
+    void SetRangeValue() const;
     QString getToday() const;
     /// Today less `days`.
     QString decDay(int days) const;

@@ -41,7 +41,7 @@ void TPic_Show::focusInEvent(QFocusEvent* event)
 
 void TPic_Show::BindHandlers()
 {
-    const auto onClick = [this](QPushButton* button, void (TPic_Show::*step)()) {
+    const auto onClick = [this](QPushButton* button, void (TPic_Show::*step)() const) {
         connect(button, &QPushButton::clicked, this, [this, step] {
             if (Display_QRY->Active())
                 (this->*step)();
@@ -79,7 +79,7 @@ void TPic_Show::EnableNavigation(bool enabled)
         button->setEnabled(enabled);
 }
 
-void TPic_Show::First()
+void TPic_Show::First() const
 {
     Name_LBL->Clear();
     Display_QRY->First();
@@ -88,7 +88,7 @@ void TPic_Show::First()
     Display_QRY->First();
 }
 
-void TPic_Show::Last()
+void TPic_Show::Last() const
 {
     Name_LBL->Clear();
     Display_QRY->Last();
@@ -96,7 +96,7 @@ void TPic_Show::Last()
         SetPicture();
 }
 
-void TPic_Show::Next()
+void TPic_Show::Next() const
 {
     Display_QRY->Next();
     if (Display_QRY->Eof())
@@ -105,7 +105,7 @@ void TPic_Show::Next()
     SetPicture();
 }
 
-void TPic_Show::Prev()
+void TPic_Show::Prev() const
 {
     Display_QRY->Prior();
     if (Display_QRY->Bof())

@@ -23,10 +23,10 @@ public:
     /// `CheckLast` nothing happens where the same set was loaded last. Display_QRY stays open on the set.
     void Load(int GroupCode, int ItemCode, bool CheckLast = false);
     /// Each moves and shows; the set must have been loaded.
-    void First();
-    void Prev();
-    void Next();
-    void Last();
+    void First() const;
+    void Prev() const;
+    void Next() const;
+    void Last() const;
     /// Shows the picture of Display_QRY's current row.
     void SetPicture() const;
 
