@@ -72,9 +72,12 @@ QString ServerDatabase::CollationWarning(TADOConnection& connection)
         if (codePage == Utf8CodePage)
             return {};
         // Code page 1256 has ک, گ, چ, پ and ژ, but of the two letters that look like ی only the Arabic one.
-        const QString loss = codePage == PersianCodePage
-                                 ? QStringLiteral("حرف «ی» در بخشی از نوشته‌ها به «ي» بدل می‌شود")
-                                 : QStringLiteral("حرف‌های فارسی در بخشی از نوشته‌ها به نشانهٔ پرسش بدل می‌شود");
+        const QString loss =
+            codePage == PersianCodePage
+                ? QStringLiteral(
+                      "حرف «ی» در بخشی از نوشته‌ها به «ي» بدل می‌شود")
+                : QStringLiteral(
+                      "حرف‌های فارسی در بخشی از نوشته‌ها به نشانهٔ پرسش بدل می‌شود");
         return QStringLiteral("کولیشن پایگاه دادهٔ سرور «%1» است و %2. پایگاه داده را با کولیشن "
                               "Persian_100_CI_AS_SC_UTF8 بسازید.")
             .arg(name, loss);

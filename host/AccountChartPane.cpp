@@ -1,7 +1,7 @@
 #include "AccountChartPane.h"
 
-#include "MirroredTreeView.h"
 #include "Look.h"
+#include "MirroredTreeView.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "TypeToFind.h"

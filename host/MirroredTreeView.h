@@ -4,8 +4,8 @@
 
 #include <QTreeView>
 
-/// A tree read from right to left. Arrows are mirrored: Left opens a row and goes under it, Right goes back up.
-/// Says why it is empty.
+/// A tree read from right to left. Arrows are mirrored: Left opens a row and goes under it, Right goes back
+/// up. Says why it is empty.
 class HOST_EXPORT TMirroredTreeView : public QTreeView
 {
     Q_OBJECT

@@ -23,8 +23,8 @@ public:
     THostLibraries& operator=(const THostLibraries&) = delete;
     ~THostLibraries() override;
 
-    /// The folder that the reference host itself was loaded from, with which these libraries are installed; on
-    /// Windows the program's folder.
+    /// The folder that the reference host itself was loaded from, with which these libraries are installed;
+    /// on Windows the program's folder.
     static QString DefaultFolder();
 
     /// Each call that succeeds answers a handle of its own.

@@ -18,7 +18,7 @@ int AsInt(const QVariant& value)
     return isNumber && fits ? static_cast<int>(number) : 0;
 }
 
-}  // namespace
+} // namespace
 
 TSearchItem& TSearchCollection::Add(const TSearchItem& item)
 {
@@ -46,7 +46,9 @@ const TSearchItem& TSearchCollection::GetItem(int index) const
     return *items_.at(static_cast<size_t>(index));
 }
 
-TTarvaSearch::TTarvaSearch(QObject* parent) : QObject(parent) {}
+TTarvaSearch::TTarvaSearch(QObject* parent) : QObject(parent)
+{
+}
 
 TTarvaSearch::~TTarvaSearch() = default;
 

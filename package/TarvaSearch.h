@@ -19,41 +19,44 @@ enum class TSearchDataType {
     idtString = 0,
     idtMoney = 1,
     idtDigit = 2,
-    idtDateTime = 3,  ///< a date with a time of day
-    idtCodeList = 4,  ///< a column of codes between commas (",5,12,"), as tags and categories are kept
+    idtDateTime = 3, ///< a date with a time of day
+    idtCodeList = 4, ///< a column of codes between commas (",5,12,"), as tags and categories are kept
 };
 
 /// How the condition is applied; frames show their reverse controls for ordinal 1 and hide them for 0.
 enum class TSearchFilterType {
-    iftDataset = 0,  ///< narrows the rows of the data set
-    iftQuery = 1,    ///< goes into the data set's statement
+    iftDataset = 0, ///< narrows the rows of the data set
+    iftQuery = 1,   ///< goes into the data set's statement
 };
 
 /// How the result is produced.
 enum class TSearchItemResult {
-    irSQL,   ///< the manager builds the condition
-    irProc,  ///< a procedure of the owner does the filtering
+    irSQL,  ///< the manager builds the condition
+    irProc, ///< a procedure of the owner does the filtering
 };
 
 class TTarvaSearch;
 
 /// A field that a criterion can apply to.
-struct BASEFRAME_EXPORT TSearchItem {
+struct BASEFRAME_EXPORT TSearchItem
+{
     QString Title;      ///< caption for the user
     QString FiledName;  ///< column or `alias.column`; the host's own words, brackets optional
-    QString FoldedName;  ///< column that keeps FiledName already folded (PersianText::Fold), empty where there is none
+    QString FoldedName; ///< column that keeps FiledName already folded (PersianText::Fold), empty where there
+                        ///< is none
     TSearchDataType DataType = TSearchDataType::idtString;
     TSearchFilterType FilterType = TSearchFilterType::iftDataset;
     TSearchItemResult ItemResult = TSearchItemResult::irSQL;
-    int MaxLength = 0;    ///< longest value; 0 means no limit
-    QVariant ItemValue;   ///< fixed value that comes with the item (an entity kind, a tab's state)
-    /// Says the condition in the owner's words, where codes have names that the manager does not know. An empty
-    /// answer leaves it to the manager's own words, as does a value that does not fit the item.
+    int MaxLength = 0;  ///< longest value; 0 means no limit
+    QVariant ItemValue; ///< fixed value that comes with the item (an entity kind, a tab's state)
+    /// Says the condition in the owner's words, where codes have names that the manager does not know. An
+    /// empty answer leaves it to the manager's own words, as does a value that does not fit the item.
     std::function<QString(const TTarvaSearch& criterion)> Words = {};
 };
 
 /// The fields of a criterion, in order.
-class BASEFRAME_EXPORT TSearchCollection {
+class BASEFRAME_EXPORT TSearchCollection
+{
 public:
     TSearchItem& Add(const TSearchItem& item = {});
     void Clear();
@@ -66,12 +69,13 @@ private:
     std::vector<std::unique_ptr<TSearchItem>> items_;
 };
 
-/// One filter condition of a form: its fields, its values, whether it is switched on and whether it is negated.
-/// A plain object without a window; frames keep it in step with their controls. Setters raise OnChange
-/// (Value1, Value2) and OnChangeItemIndex synchronously, and only when the value is another one than before, so that
-/// a handler may write the same value back without an end. The Qt signals come at the same moments, whatever
-/// handlers are set, and before them.
-class BASEFRAME_EXPORT TTarvaSearch : public QObject {
+/// One filter condition of a form: its fields, its values, whether it is switched on and whether it is
+/// negated. A plain object without a window; frames keep it in step with their controls. Setters raise
+/// OnChange (Value1, Value2) and OnChangeItemIndex synchronously, and only when the value is another one than
+/// before, so that a handler may write the same value back without an end. The Qt signals come at the same
+/// moments, whatever handlers are set, and before them.
+class BASEFRAME_EXPORT TTarvaSearch : public QObject
+{
     Q_OBJECT
 
 public:
@@ -104,7 +108,8 @@ public:
     /// The control that edits the criterion's value.
     QWidget* FocusControl() const { return focusControl_; }
     void SetFocusControl(QWidget* control);
-    /// The control of the host form that takes the focus when the user leaves the value by Enter or an arrow key.
+    /// The control of the host form that takes the focus when the user leaves the value by Enter or an arrow
+    /// key.
     QWidget* FollowControl() const { return followControl_; }
     void SetFollowControl(QWidget* control);
 

@@ -11,23 +11,25 @@ class TADOQuery;
 class TDataSet;
 class TPagedDataSet;
 
-/// Collects the criteria of a form and turns the active ones into one condition. The one place where values become
-/// conditions, so the one place that quotes: nothing a user types leaves its literal. Texts are compared as a
-/// Persian reader does (ی/ي, ک/ك, digits of all scripts, ZWNJ and kashida make no difference), on every engine alike.
-/// Rebuilds once per burst of changes; reading the condition or the data set brings it up to date at once.
-class BASEFRAME_EXPORT TTarvaSearchManager : public QObject {
+/// Collects the criteria of a form and turns the active ones into one condition. The one place where values
+/// become conditions, so the one place that quotes: nothing a user types leaves its literal. Texts are
+/// compared as a Persian reader does (ی/ي, ک/ك, digits of all scripts, ZWNJ and kashida make no difference),
+/// on every engine alike. Rebuilds once per burst of changes; reading the condition or the data set brings it
+/// up to date at once.
+class BASEFRAME_EXPORT TTarvaSearchManager : public QObject
+{
     Q_OBJECT
 
 public:
     explicit TTarvaSearchManager(QObject* parent = nullptr);
     ~TTarvaSearchManager() override;
 
-    void Add(TTarvaSearch* criterion);  ///< not owned; a destroyed criterion leaves by itself
+    void Add(TTarvaSearch* criterion); ///< not owned; a destroyed criterion leaves by itself
     void Remove(TTarvaSearch* criterion);
 
-    /// The data set that is filtered; not owned. A paged list gets the whole condition in its statements; a client
-    /// cursor gets iftQuery items through `conditionChanged` (its owner writes the statement) and the others as a
-    /// row filter.
+    /// The data set that is filtered; not owned. A paged list gets the whole condition in its statements; a
+    /// client cursor gets iftQuery items through `conditionChanged` (its owner writes the statement) and the
+    /// others as a row filter.
     void SetDataSet(TPagedDataSet* dataSet);
     void SetDataSet(TADOQuery* dataSet);
     /// The filtered data set, up to date with every criterion; null where none is set.
@@ -48,8 +50,8 @@ public:
     void Flush();
 
 Q_SIGNALS:
-    /// The text that belongs into the owner's statement is another one: the condition of the iftQuery items where a
-    /// client cursor is filtered, else the whole condition.
+    /// The text that belongs into the owner's statement is another one: the condition of the iftQuery items
+    /// where a client cursor is filtered, else the whole condition.
     void conditionChanged(const QString& condition);
     /// The condition and its words are up to date with every criterion; comes once per burst of changes.
     void rebuilt();

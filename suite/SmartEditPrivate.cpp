@@ -60,8 +60,8 @@ void TSmartEdit_TRV::TPrivate::ShowNumber()
     ShowSign();
 }
 
-// The toolkit paints a line's text in the palette's colour and in no other. An edit may have a ground of its own,
-// light in the dark scheme, too.
+// The toolkit paints a line's text in the palette's colour and in no other. An edit may have a ground of its
+// own, light in the dark scheme, too.
 void TSmartEdit_TRV::TPrivate::ShowSign()
 {
     if (!IsNegative()) {

@@ -30,7 +30,7 @@ struct TGalleryEntry
 {
     QString Unit;
     QString ClassName;
-    QString Purpose; ///< for the list, in a few words
+    QString Purpose;                             ///< for the list, in a few words
     std::function<TFrame*(QWidget* owner)> Make; ///< the bare frame
     std::function<TFrame*(const TGalleryStage& stage, QWidget* owner)> Create;
     std::function<TGalleryValues(const TFrame& frame)> Values; ///< null where the frame hands nothing out

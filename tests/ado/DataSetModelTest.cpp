@@ -1,5 +1,5 @@
-#include "ADOQuery.h"
 #include "DataSetModel.h"
+#include "ADOQuery.h"
 #include "GoodsFile.h"
 
 #include <QAbstractItemModelTester>

@@ -1,5 +1,5 @@
-#include "ADOQuery.h"
 #include "DataSource.h"
+#include "ADOQuery.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -73,7 +73,7 @@ private:
     int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
     int AnyOf(const QMap<int, TCategoryRow>& rows)
     {
-        return rows.keys().at(Below(static_cast<int>(rows.size())));
+        return std::next(rows.constBegin(), Below(static_cast<int>(rows.size()))).key();
     }
 
     static bool IsUnder(const QMap<int, TCategoryRow>& rows, int id, int ancestor)

@@ -1,6 +1,5 @@
 #include "VoucherNotices.h"
 
-#include <QSignalSpy>
 #include "AutoVouchers.h"
 #include "FormFixture.h"
 #include "ListForm.h"
@@ -11,6 +10,7 @@
 #include "SmartButton_TRV.h"
 #include "StockLedger.h"
 #include "VoucherGlance.h"
+#include <QSignalSpy>
 
 namespace {
 

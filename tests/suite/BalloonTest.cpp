@@ -1,5 +1,5 @@
-#include "ActiveWindow.h"
 #include "Balloon.h"
+#include "ActiveWindow.h"
 #include "PersianText.h"
 #include "TypedKeys.h"
 

@@ -1,5 +1,5 @@
-#include "Ink.h"
 #include "Look.h"
+#include "Ink.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -19,7 +19,7 @@ qint64 PeakMemory()
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
-    const QRegularExpression peak(QStringLiteral("VmHWM:\\s+(\\d+) kB"));
+    static const QRegularExpression peak(QStringLiteral("VmHWM:\\s+(\\d+) kB"));
     return peak.match(QString::fromLatin1(status.readAll())).captured(1).toLongLong() / 1024;
 }
 
