@@ -7,18 +7,26 @@ namespace {
 
 constexpr uchar StartOfImage = 0xD8;
 constexpr uchar StartOfScan = 0xDA;
-constexpr qint64 MostHeldBytes = 256LL << 20;
 constexpr int MostScans = 100;
+
+// What a decoder needs at most, found by measuring it on a machine of ordinary speed; well below the second
+// for which a user would notice that nothing moves.
+constexpr double MostMilliseconds = 800;
+constexpr double PlainPerMegasample = 0.35;
+constexpr double PlainPerMegabyte = 12;
+constexpr double HeldPerMegasample = 4;
+constexpr double HeldPerMegasampleAndScan = 0.5;
+constexpr double HeldPerMegabyte = 25;
+constexpr double MostHeldMegasamples = 128; // two bytes each
 
 struct TJpegFrame
 {
     bool Progressive = false;
     int Components = 0;
     int ComponentsOfFirstScan = 0;
-    qint64 Pixels = 0;
+    double Megasamples = 0; ///< of all components
 
     bool IsHeld() const { return Progressive || ComponentsOfFirstScan < Components; }
-    qint64 HeldBytes() const { return Pixels * Components * qint64{sizeof(qint16)}; }
 };
 
 bool IsStartOfFrame(uchar marker)
@@ -65,10 +73,33 @@ QByteArray Segment(QIODevice& device)
     return content.size() == size ? content : QByteArray();
 }
 
+/// The samples of all components of a frame, in millions; none where the frame is cut off. A component has
+/// fewer samples than the picture has pixels where its sampling factors are below the largest ones.
+std::optional<double> Megasamples(const QByteArray& frame)
+{
+    constexpr int headBytes = 6; // precision, height, width, number of components
+    constexpr int componentBytes = 3;
+    const int components = frame.size() < headBytes ? 0 : static_cast<uchar>(frame.at(headBytes - 1));
+    if (components == 0 || frame.size() < headBytes + components * componentBytes)
+        return {};
+    int sum = 0;
+    int widest = 1;
+    int highest = 1;
+    for (int component = 0; component < components; ++component) {
+        const auto factors = static_cast<uchar>(frame.at(headBytes + component * componentBytes + 1));
+        const int across = factors >> 4;
+        const int down = factors & 0x0F;
+        sum += across * down;
+        widest = qMax(widest, across);
+        highest = qMax(highest, down);
+    }
+    constexpr double million = 1e6;
+    return double{1} * BigEndian(frame, 1) * BigEndian(frame, 3) * sum / (widest * highest) / million;
+}
+
 /// Reads as far as the first scan.
 std::optional<TJpegFrame> ReadFrame(QIODevice& device)
 {
-    constexpr int frameBytes = 6; // precision, height, width, number of components
     if (NextMarker(device) != StartOfImage)
         return {};
     TJpegFrame frame;
@@ -78,11 +109,12 @@ std::optional<TJpegFrame> ReadFrame(QIODevice& device)
         if (marker == 0 || content.isEmpty())
             return {};
         if (IsStartOfFrame(marker)) {
-            if (content.size() < frameBytes)
+            const std::optional<double> samples = Megasamples(content);
+            if (!samples)
                 return {};
             frame.Progressive = IsProgressive(marker);
-            frame.Pixels = qint64{BigEndian(content, 1)} * BigEndian(content, 3);
-            frame.Components = static_cast<uchar>(content.at(frameBytes - 1));
+            frame.Megasamples = *samples;
+            frame.Components = static_cast<uchar>(content.at(5));
         } else if (marker == StartOfScan) {
             frame.ComponentsOfFirstScan = static_cast<uchar>(content.at(0));
             return frame;
@@ -110,14 +142,34 @@ int FurtherScans(QIODevice& device)
     return scans;
 }
 
+double Megabytes(const QIODevice& device)
+{
+    constexpr double million = 1e6;
+    return static_cast<double>(device.size()) / million;
+}
+
+bool FitsPlain(const TJpegFrame& frame, const QIODevice& device)
+{
+    return PlainPerMegasample * frame.Megasamples + PlainPerMegabyte * Megabytes(device) <= MostMilliseconds;
+}
+
+bool FitsHeld(const TJpegFrame& frame, QIODevice& device)
+{
+    const double once = HeldPerMegasample * frame.Megasamples + HeldPerMegabyte * Megabytes(device);
+    if (frame.Megasamples > MostHeldMegasamples || once > MostMilliseconds)
+        return false;
+    const int scans = 1 + FurtherScans(device);
+    return scans < MostScans &&
+           once + HeldPerMegasampleAndScan * scans * frame.Megasamples <= MostMilliseconds;
+}
+
 } // namespace
 
 bool JpegBounds::Hold(QIODevice& device)
 {
     device.seek(0);
     const std::optional<TJpegFrame> frame = ReadFrame(device);
-    const bool holds = frame && (!frame->IsHeld() ||
-                                 (frame->HeldBytes() <= MostHeldBytes && FurtherScans(device) < MostScans));
+    const bool holds = frame && (frame->IsHeld() ? FitsHeld(*frame, device) : FitsPlain(*frame, device));
     device.seek(0);
     return holds;
 }

@@ -6,16 +6,16 @@
 #include <QImage>
 #include <QString>
 
-/// Reads pictures of unknown origin in bounded memory and time: corrupt, cut off, disguised and enormous ones
-/// give a null image, or a smaller one where that can be had.
+/// Reads pictures of unknown origin in bounded memory, and fast enough for the user not to wait for a second:
+/// corrupt, cut off, disguised and enormous ones give a null image, or a smaller one where that can be had.
 namespace PictureReader {
 
 enum class TFormat { None, Jpeg, Png };
 
-/// Larger pictures are made smaller while they are read, to this many pixels at most.
+/// Larger pictures are made smaller while they are read, to a half, a fourth or an eighth in each direction.
 constexpr qint64 MostPixels = 16 << 20;
-/// Larger pictures are not read at all, because the user would wait for seconds.
-constexpr qint64 MostJpegPixels = 600'000'000;
+/// Larger pictures are not read at all, because the user would wait for them; of JPEG pictures, those whose
+/// decoding costs too much.
 constexpr qint64 MostPngPixels = 32 << 20;
 /// Longer files are not read at all.
 constexpr qint64 MostBytes = 256LL << 20;

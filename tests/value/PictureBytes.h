@@ -52,27 +52,31 @@ inline QByteArray OneBitTable(char tableClass)
     return QByteArray(1, tableClass) + QByteArray("\x01") + QByteArray(15, '\0') + QByteArray(1, '\0');
 }
 
-/// A grey picture of any size whose every block takes two bits, or one in each scan of a progressive one:
-/// huge to decode, small to keep.
-inline QByteArray FlatJpeg(int width, int height, bool progressive, int scans = 1)
+/// A picture of one colour and of any size whose every block takes two bits, or one in each scan of a
+/// progressive one: huge to decode, small to keep. One component is grey, three are colours.
+inline QByteArray FlatJpeg(int width, int height, bool progressive, int scans = 1, char components = 1)
 {
     constexpr uchar baselineFrame = 0xC0;
     constexpr uchar progressiveFrame = 0xC2;
     QByteArray frame("\x08");
     for (const int side : {height, width})
         frame.append(static_cast<char>(side >> 8)).append(static_cast<char>(side & 0xFF));
-    frame.append("\x01\x01\x11", 3).append('\0');
+    frame.append(components);
+    QByteArray scan(1, components);
+    for (char component = 1; component <= components; ++component) {
+        frame.append(component).append('\x11').append('\0');
+        scan.append(component).append('\0');
+    }
+    scan.append('\0').append(progressive ? '\x00' : '\x3F').append('\0');
     QByteArray bytes("\xFF\xD8");
     bytes += JpegSegment(0xDB, QByteArray(1, '\0') + QByteArray(64, '\x01'));
     bytes += JpegSegment(progressive ? progressiveFrame : baselineFrame, frame);
     bytes += JpegSegment(0xC4, OneBitTable('\x00'));
     bytes += JpegSegment(0xC4, OneBitTable('\x10'));
-    const qint64 blocks = qint64{(width + 7) / 8} * ((height + 7) / 8);
-    for (int scan = 0; scan < scans; ++scan) {
-        bytes += JpegSegment(0xDA, QByteArray("\x01\x01", 2) + QByteArray(2, '\0') +
-                                       QByteArray(1, progressive ? '\x00' : '\x3F') + QByteArray(1, '\0'));
-        bytes += QByteArray(static_cast<qsizetype>(blocks * (progressive ? 1 : 2) / 8 + 1), '\0');
-    }
+    const qint64 blocks = qint64{(width + 7) / 8} * ((height + 7) / 8) * components;
+    const auto scanBytes = static_cast<qsizetype>(blocks * (progressive ? 1 : 2) / 8 + 1);
+    for (int index = 0; index < scans; ++index)
+        bytes += JpegSegment(0xDA, scan) + QByteArray(scanBytes, '\0');
     return bytes + "\xFF\xD9";
 }
 
@@ -125,14 +129,17 @@ inline QByteArray CompressedZeros(quint64 count)
     return bytes + BigEndian(static_cast<quint32>(count % modulus) << 16 | 1);
 }
 
-/// A black picture in three bytes per point.
-inline QByteArray FlatPng(int side)
+/// A black picture in three samples per point, of 8 or 16 bits, line by line or in passes.
+inline QByteArray FlatPng(int side, char depth = 8, bool inPasses = false)
 {
     const auto length = static_cast<quint32>(side);
-    const auto rowBytes = static_cast<quint64>(side) * 3 + 1;
-    return QByteArray("\x89PNG\r\n\x1A\n") +
-           PngChunk("IHDR", BigEndian(length) + BigEndian(length) + QByteArray("\x08\x02\0\0\0", 5)) +
-           PngChunk("IDAT", CompressedZeros(rowBytes * length)) + PngChunk("IEND", {});
+    const auto rowBytes = static_cast<quint64>(side) * 3 * static_cast<quint64>(depth / 8) + 1;
+    // The lines of the passes are shorter and more, each with a byte in front.
+    const quint64 moreLines = inPasses ? 2 : 1;
+    QByteArray header = BigEndian(length) + BigEndian(length);
+    header.append(depth).append('\2').append('\0').append('\0').append(inPasses ? '\1' : '\0');
+    return QByteArray("\x89PNG\r\n\x1A\n") + PngChunk("IHDR", header) +
+           PngChunk("IDAT", CompressedZeros(rowBytes * length * moreLines)) + PngChunk("IEND", {});
 }
 
 inline bool Write(const QString& path, const QByteArray& bytes)
