@@ -48,6 +48,20 @@ QString WithoutOuterLineBreaks(const QString& text)
     return text.mid(start, end - start);
 }
 
+/// Where in a file's name the number begins that its extension belongs to; -1 where there is none, or where
+/// it stands behind a word of the extension's own script, which keeps its order by itself.
+qsizetype NumberedFilePlace(const QString& name)
+{
+    static const QRegularExpression numbered(QStringLiteral(
+        R"((?<![A-Za-z0-9\x{06F0}-\x{06F9}./\\-])[0-9\x{06F0}-\x{06F9}][A-Za-z0-9\x{06F0}-\x{06F9} _.-]*\.[A-Za-z][A-Za-z0-9]*$)"));
+    const qsizetype place = numbered.match(name).capturedStart();
+    for (qsizetype before = place - 1; before >= 0; --before) {
+        if (name.at(before).isLetter())
+            return name.at(before).direction() == QChar::DirL ? -1 : place;
+    }
+    return place;
+}
+
 } // namespace
 
 int PersianText::DigitValue(QChar character)
@@ -145,6 +159,8 @@ QString PersianText::WithIsolatedNumbers(const QString& name)
 {
     if (name.contains(u'\u2068'))
         return name;
+    if (const qsizetype place = NumberedFilePlace(name); place >= 0)
+        return WithIsolatedNumbers(name.left(place)) + Isolated(name.mid(place));
     static const QRegularExpression number(QStringLiteral(
         R"((?<![A-Za-z0-9\x{06F0}-\x{06F9}.:/\\-])((?:[0-9\x{06F0}-\x{06F9}]++[.:/\\-]++)++[0-9\x{06F0}-\x{06F9}]++)(?![A-Za-z]))"));
     return QString(name).replace(number, QStringLiteral("\u2068\\1\u2069"));

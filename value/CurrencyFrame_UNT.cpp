@@ -78,12 +78,13 @@ void TCurrency_FRAME::CurrencyType_CMBSelect()
 {
     // A rate typed just before belongs to the currency before, and must not pass for one typed afterwards.
     CurrencyRate_EDT->AnnouncePendingValue();
-    const bool isBase = IsBaseSelected();
-    CurrencyRate_EDT->SetEnabled(!isBase);
-    if (isBase)
+    if (IsBaseSelected()) {
         CurrencyRate_EDT->SetValue(1);
-    else
+        CurrencyRate_EDT->SetEnabled(false);
+    } else {
+        CurrencyRate_EDT->SetEnabled(true);
         CurrencyRate_EDT->SetText(GetCurrRate(FRateDate));
+    }
     RateEditchange = false;
     CurrencyRate_EDT->SetCurrencyRate(GetPriceValue());
     CurrencyRate_EDT->SetCurrencyTypeTitle(TitleCountry());
@@ -96,6 +97,7 @@ bool TCurrency_FRAME::IsBaseSelected() const
 
 int TCurrency_FRAME::GetCodeValue() const
 {
+    ensurePolished();
     const int index = CurrencyType_CMB->ItemIndex();
     return index < 0 ? TCurrencyRates::BaseCode : static_cast<int>(CurrencyType_CMB->ItemObject(index));
 }
@@ -109,6 +111,7 @@ void TCurrency_FRAME::SetCodeValue(int code)
 
 long double TCurrency_FRAME::GetPriceValue() const
 {
+    ensurePolished();
     return CurrencyType_CMB->ItemIndex() < 0 ? 1 : CurrencyRate_EDT->GetValue();
 }
 
@@ -137,6 +140,7 @@ QString TCurrency_FRAME::GetBaseTitleCountry()
 
 QString TCurrency_FRAME::TitleCountry() const
 {
+    ensurePolished();
     return CurrencyType_CMB->currentText();
 }
 

@@ -118,7 +118,7 @@ void TPic_Show::SetPicture() const
 {
     const PictureSet::TShown shown = PictureSet::Current(*Display_QRY);
     Pic_IMG->SetPicture(shown.Image);
-    if (!shown.Name.isEmpty())
-        Name_LBL->SetCaption(shown.Name);
+    if (shown.Name)
+        Name_LBL->SetCaption(*shown.Name);
     Pic_IMG->UpdateImageInfo();
 }

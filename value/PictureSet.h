@@ -2,6 +2,7 @@
 
 #include "PackageExport.h"
 
+#include <optional>
 #include <QImage>
 #include <QStringList>
 
@@ -16,8 +17,8 @@ BASEFRAME_EXPORT QStringList Statement(int group, int item);
 /// A picture with what stands above it.
 struct TShown
 {
-    QImage Image; ///< null where there is nothing to show
-    QString Name;
+    QImage Image;                ///< null where there is nothing to show
+    std::optional<QString> Name; ///< none where a stored copy leaves what stands there
 };
 /// The picture of the current row: from its file where there is one, from the stored copy otherwise. A
 /// database error is not caught; a picture that cannot be read is none.

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void aLabelThatShowsDataTakesNoMnemonic();
     void aLabelThatShowsDataPaintsTheWholeText();
     void numbersInANameKeepTheirOrder();
+    void fileNamesThatEndInANumberKeepTheirExtensionBehindIt_data();
+    void fileNamesThatEndInANumberKeepTheirExtensionBehindIt();
     void mouseClicksInsideOnly();
     void handlerMayDestroyTheLabel();
     void textContrastsWithItsGround_data();
@@ -296,6 +298,28 @@ void SmartLabelTest::numbersInANameKeepTheirOrder()
     QCOMPARE(isolated(QStringLiteral("Ahmad Trading Co")), QStringLiteral("Ahmad Trading Co"));
     QCOMPARE(isolated(QStringLiteral("مدل A12-3 و 12-3B")), QStringLiteral("مدل A12-3 و 12-3B"));
     QCOMPARE(isolated(QStringLiteral("\u2068A 12-3\u2069")), QStringLiteral("\u2068A 12-3\u2069"));
+}
+
+void SmartLabelTest::fileNamesThatEndInANumberKeepTheirExtensionBehindIt_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("painted");
+    QTest::newRow("behind words") << QStringLiteral("عکس 2.jpg") << QStringLiteral("عکس \u20682.jpg\u2069");
+    QTest::newRow("Persian digits") << QStringLiteral("عکس۱۲.png") << QStringLiteral("عکس\u2068۱۲.png\u2069");
+    QTest::newRow("a date") << QStringLiteral("فاکتور_1403-05-12.jpg")
+                            << QStringLiteral("فاکتور_\u20681403-05-12.jpg\u2069");
+    QTest::newRow("nothing but a number") << QStringLiteral("20.jpg") << QStringLiteral("\u206820.jpg\u2069");
+    QTest::newRow("a number in front as well")
+        << QStringLiteral("ونک 12/3 - 4.jpg") << QStringLiteral("ونک \u206812/3\u2069 - \u20684.jpg\u2069");
+    QTest::newRow("words only") << QStringLiteral("چای.jpg") << QStringLiteral("چای.jpg");
+    QTest::newRow("another script") << QStringLiteral("IMG 20.jpg") << QStringLiteral("IMG 20.jpg");
+    QTest::newRow("in brackets") << QStringLiteral("عکس (2).jpg") << QStringLiteral("عکس (2).jpg");
+}
+
+void SmartLabelTest::fileNamesThatEndInANumberKeepTheirExtensionBehindIt()
+{
+    QFETCH(const QString, name);
+    QTEST(PersianText::WithIsolatedNumbers(name), "painted");
 }
 
 void SmartLabelTest::mouseClicksInsideOnly()

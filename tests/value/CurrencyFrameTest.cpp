@@ -124,6 +124,30 @@ private Q_SLOTS:
         QCOMPARE(form.RateText(), QStringLiteral("0.123456789"));
     }
 
+    void whatIsAskedBeforeTheFormIsShownIsAnsweredFromTheList()
+    {
+        TCurrencyForm form;
+        form.Database.Execute(QStringLiteral("DELETE FROM AccCurrency WHERE CurCode = 1"));
+        form.Frame->SetRateDate(QStringLiteral("1404/01/05"));
+        QCOMPARE(form.Frame->GetCodeValue(), 2);
+        QVERIFY(form.Frame->GetPriceValue() == 480000.0L);
+        QCOMPARE(form.Frame->TitleCountry(), Dollar());
+    }
+
+    void theRateIsWrittenBeforeTheEditIsDisabledAndAfterItIsEnabled()
+    {
+        TCurrencyForm form;
+        form.Form->show();
+        QStringList states;
+        form.Rate()->OnChange = [&](QObject*) {
+            states << form.RateText() + (form.Rate()->isEnabled() ? u'+' : u'-');
+        };
+        form.Frame->SetRateDate(QStringLiteral("1404/01/05"));
+        form.Frame->SetCodeValue(2);
+        form.Frame->SetCodeValue(1);
+        QCOMPARE(states, (QStringList{QStringLiteral("480000+"), QStringLiteral("1+")}));
+    }
+
     void aCurrencyWithoutRateShowsZeroAndIsRefused()
     {
         TCurrencyForm form;

@@ -233,6 +233,24 @@ private Q_SLOTS:
         QCOMPARE(viewer.Gallery.Host.Log.Lines(), QStringList());
     }
 
+    void whatStandsAboveIsLeftToAStoredCopyAndReplacedByAFilesName()
+    {
+        TViewer viewer;
+        const QString file = viewer.Gallery.Path(QStringLiteral("nameless.png"));
+        QVERIFY(Write(file, Png(Qt::blue)));
+        viewer.Gallery.Add(4, 1, QStringLiteral("سبز.png"), Png(Qt::green));
+        viewer.Gallery.Add(4, 1, QStringLiteral(""), {}, file);
+        viewer.Frame->Load(4, 1);
+        viewer.Frame->Name_LBL->SetCaption(QStringLiteral("از فرم"));
+        viewer.Frame->SetPicture();
+        QCOMPARE(viewer.Name(), QStringLiteral("از فرم"));
+        viewer.Frame->Next();
+        viewer.Frame->Name_LBL->SetCaption(QStringLiteral("از فرم"));
+        viewer.Frame->SetPicture();
+        QVERIFY(viewer.Shows(Qt::blue));
+        QCOMPARE(viewer.Name(), QString());
+    }
+
     void theKeyboardReachesEveryControl()
     {
         const TViewer viewer;
