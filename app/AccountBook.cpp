@@ -1,7 +1,7 @@
 #include "AccountBook.h"
 
 #include "AccountTypes.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 namespace {
 
@@ -53,12 +53,12 @@ const TAccountBook::TTotal& TAccountBook::Total(int code)
     if (!isNew)
         return entry->second;
     TADOQuery query;
-    query.SetConnection(connection_);
-    query.SQL.SetText(QStringLiteral(
-        "SELECT t.Name, t.DetailType, (SELECT COUNT(*) FROM dbo.AccAssistants AS a WHERE a.TotalCode = t.Code) "
-        "AS Assistants FROM dbo.AccTotals AS t WHERE t.Code = ?"));
-    query.Parameters = {code};
-    query.Open();
+    OpenQuery(
+        query, *connection_,
+        QStringLiteral(
+            "SELECT t.Name, t.DetailType, (SELECT COUNT(*) FROM dbo.AccAssistants AS a WHERE a.TotalCode = t.Code) "
+            "AS Assistants FROM dbo.AccTotals AS t WHERE t.Code = ?"),
+        {code});
     if (!query.IsEmpty())
         entry->second = {true, query.FieldByName(QStringLiteral("Name"))->AsString(),
                          query.FieldByName(QStringLiteral("DetailType"))->AsInteger(),
@@ -83,12 +83,13 @@ const TAccountBook::TDetail& TAccountBook::Detail(int kind, int code)
         return entry->second;
     const bool unique = kind == static_cast<int>(TFloatingAccountsType::fatUnique);
     TADOQuery query;
-    query.SetConnection(connection_);
-    query.SQL.SetText(
-        unique ? QStringLiteral("SELECT Name, Active FROM dbo.AccDetails WHERE UniqueCode = ?")
-               : QStringLiteral("SELECT Name, Active FROM dbo.AccDetails WHERE [Type] = ? AND Code = ?"));
-    query.Parameters = unique ? QVariantList{code} : QVariantList{kind, code};
-    query.Open();
+    if (unique)
+        OpenQuery(query, *connection_,
+                  QStringLiteral("SELECT Name, Active FROM dbo.AccDetails WHERE UniqueCode = ?"), {code});
+    else
+        OpenQuery(query, *connection_,
+                  QStringLiteral("SELECT Name, Active FROM dbo.AccDetails WHERE [Type] = ? AND Code = ?"),
+                  {kind, code});
     if (!query.IsEmpty())
         entry->second = {true, query.FieldByName(QStringLiteral("Name"))->AsString(),
                          query.FieldByName(QStringLiteral("Active"))->AsBoolean()};
@@ -107,9 +108,6 @@ QString TAccountBook::CenterTitle(int code)
 QString TAccountBook::OneText(const QString& statement, const QVariantList& parameters)
 {
     TADOQuery query;
-    query.SetConnection(connection_);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
+    OpenQuery(query, *connection_, statement, parameters);
     return query.IsEmpty() ? QString() : query.Field(0)->AsString();
 }

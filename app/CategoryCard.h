@@ -33,8 +33,6 @@ public:
 
 private:
     void Lay(const TWords& words);
-    QWidget* NewBand(const QString& heading);
-    QWidget* NewButtons();
 
     QString loaded_;
     TSave save_;

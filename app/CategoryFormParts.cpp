@@ -1,6 +1,7 @@
 #include "CategoryCard.h"
 #include "CategoryDetails.h"
 #include "CategoryForm.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "MirroredTreeView.h"
 #include "ReferenceHost.h"
@@ -11,7 +12,6 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -65,23 +65,16 @@ QHBoxLayout* TCategoryForm::NewBar()
 {
     auto* row = new QHBoxLayout;
     row->setSpacing(Look::Margin);
-    auto* label = new TSmartLabel_TRV(this);
-    label->SetCaption(QStringLiteral("&جستجو:"));
-    label->SetFocusControl(search_);
     search_->setObjectName(QStringLiteral("CategorySearch_EDT"));
     search_->setPlaceholderText(QStringLiteral("نام یا کد دسته"));
     search_->setAccessibleName(QStringLiteral("جستجوی دسته"));
     search_->setFixedSize(categorySearchWidth, Look::ControlHeight);
-    row->addWidget(label);
+    row->addWidget(FormParts::NewLabel(QStringLiteral("&جستجو:"), search_));
     row->addWidget(search_);
     row->addStretch(1);
     const auto add = [this, row](const QString& name, const QString& caption,
                                  void (TCategoryForm::*action)()) {
-        auto* button = new TSmartButton_TRV(this);
-        button->setObjectName(name);
-        button->SetAutoWidth(true);
-        button->setText(caption);
-        button->setFixedHeight(Look::ControlHeight);
+        auto* button = FormParts::NewBarButton(this, name, caption);
         // The tree keeps the keyboard; every button has a key.
         button->setFocusPolicy(Qt::NoFocus);
         button->OnClick = [this, action](QObject*) { (this->*action)(); };
@@ -129,18 +122,14 @@ void TCategoryForm::SetUpTree()
 
 void TCategoryForm::ConnectKeys()
 {
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::Key_F5), &TCategoryForm::Reload);
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_N), &TCategoryForm::AddTop);
-    onKey(QKeySequence(Qt::Key_Insert), &TCategoryForm::AddChild);
-    onKey(QKeySequence(Qt::Key_F2), &TCategoryForm::Rename);
-    onKey(QKeySequence(Qt::Key_Delete), &TCategoryForm::DeleteCurrent);
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_X), &TCategoryForm::PickUp);
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_V), &TCategoryForm::PutUnder);
-    onKey(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), &TCategoryForm::PutOnTop);
-    onKey(QKeySequence(Qt::Key_Escape), &TCategoryForm::Escape);
-    onKey(QKeySequence(Qt::Key_F10), [this] { search_->setFocus(Qt::ShortcutFocusReason); });
+    FormParts::OnKey(this, Qt::Key_F5, &TCategoryForm::Reload);
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_N, &TCategoryForm::AddTop);
+    FormParts::OnKey(this, Qt::Key_Insert, &TCategoryForm::AddChild);
+    FormParts::OnKey(this, Qt::Key_F2, &TCategoryForm::Rename);
+    FormParts::OnKey(this, Qt::Key_Delete, &TCategoryForm::DeleteCurrent);
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_X, &TCategoryForm::PickUp);
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_V, &TCategoryForm::PutUnder);
+    FormParts::OnKey(this, Qt::CTRL | Qt::SHIFT | Qt::Key_V, &TCategoryForm::PutOnTop);
+    FormParts::OnKey(this, Qt::Key_Escape, &TCategoryForm::Escape);
+    FormParts::OnKey(this, Qt::Key_F10, [this] { search_->setFocus(Qt::ShortcutFocusReason); });
 }

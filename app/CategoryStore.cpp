@@ -1,8 +1,7 @@
 #include "CategoryStore.h"
 
-#include "ADOCommand.h"
-#include "ADOQuery.h"
 #include "PersianText.h"
+#include "QueryOpening.h"
 
 #include <algorithm>
 #include <QSet>
@@ -75,7 +74,8 @@ QString TCategoryStore::CheckedName(const QString& name)
 QVector<TCategoryRow> TCategoryStore::All() const
 {
     TADOQuery query;
-    OpenQuery(query, QStringLiteral("SELECT id, parent_code, name FROM dbo.category ORDER BY name, id"));
+    OpenQuery(query, *connection_,
+              QStringLiteral("SELECT id, parent_code, name FROM dbo.category ORDER BY name, id"));
     QVector<TCategoryRow> rows;
     rows.reserve(query.RecordCount());
     for (int row = 0; row < query.RecordCount(); ++row)
@@ -105,13 +105,13 @@ int TCategoryStore::Add(int parentId, const QString& name)
         const QString parentPath = parentId > 0 ? PathOf(parentId) : QStringLiteral(",");
         if (parentPath.size() + longestId + 1 > LongestPath)
             RefuseDepth();
-        Execute(QStringLiteral("INSERT INTO dbo.category (parent_code, name) VALUES (?, ?)"),
-                {parentId, checked});
+        connection_->Execute(QStringLiteral("INSERT INTO dbo.category (parent_code, name) VALUES (?, ?)"),
+                             {parentId, checked});
         id = Number(
             QStringLiteral("SELECT MAX(id) AS id FROM dbo.category WHERE parent_code = ? AND name = ?"),
             {parentId, checked});
-        Execute(QStringLiteral("UPDATE dbo.category SET path = ? WHERE id = ?"),
-                {PathWith(parentPath, id), id});
+        connection_->Execute(QStringLiteral("UPDATE dbo.category SET path = ? WHERE id = ?"),
+                             {PathWith(parentPath, id), id});
     });
     return id;
 }
@@ -121,11 +121,11 @@ void TCategoryStore::Rename(int id, const QString& name, const QString& loaded)
     const QString checked = CheckedName(name);
     InTransaction([&] {
         // The row is held first, so that nobody writes between the comparison and the change.
-        if (Execute(QStringLiteral("UPDATE dbo.category SET parent_code = parent_code WHERE id = ?"), {id}) ==
-            0)
+        if (connection_->Execute(
+                QStringLiteral("UPDATE dbo.category SET parent_code = parent_code WHERE id = ?"), {id}) == 0)
             RefuseMissing();
         TADOQuery query;
-        OpenQuery(query, QStringLiteral("SELECT name FROM dbo.category WHERE id = ?"), {id});
+        OpenQuery(query, *connection_, QStringLiteral("SELECT name FROM dbo.category WHERE id = ?"), {id});
         const QString present = query.FieldByName(QStringLiteral("name"))->AsString();
         query.Close();
         if (present != loaded)
@@ -134,7 +134,7 @@ void TCategoryStore::Rename(int id, const QString& name, const QString& loaded)
                     "نام این دسته را کاربر دیگری به «%1» برگردانده است؛ با F5 دسته‌ها را دوباره "
                     "بخوانید.")
                     .arg(present));
-        Execute(QStringLiteral("UPDATE dbo.category SET name = ? WHERE id = ?"), {checked, id});
+        connection_->Execute(QStringLiteral("UPDATE dbo.category SET name = ? WHERE id = ?"), {checked, id});
     });
 }
 
@@ -146,8 +146,8 @@ void TCategoryStore::Move(int id, int parentId)
         const QString newPath = PathWith(parentId > 0 ? PathOf(parentId) : QStringLiteral(","), id);
         CheckNotUnder(id, parentId);
         CheckDepth(oldPath, newPath);
-        Execute(QStringLiteral("UPDATE dbo.category SET parent_code = ?, path = ? WHERE id = ?"),
-                {parentId, newPath, id});
+        connection_->Execute(QStringLiteral("UPDATE dbo.category SET parent_code = ?, path = ? WHERE id = ?"),
+                             {parentId, newPath, id});
         SetPathsUnder(newPath);
     });
 }
@@ -161,7 +161,7 @@ void TCategoryStore::Delete(int id)
         if (!use.isEmpty())
             throw ECategoryRefused(
                 QStringLiteral("این دسته حذف نمی‌شود، چون %1.").arg(use));
-        Execute(QStringLiteral("DELETE FROM dbo.category WHERE id = ?"), {id});
+        connection_->Execute(QStringLiteral("DELETE FROM dbo.category WHERE id = ?"), {id});
     });
 }
 
@@ -181,24 +181,29 @@ void TCategoryStore::SetDefault(int user, TListKind kind, int id)
 {
     const QString column = ColumnOfKind(kind);
     InTransaction([&] {
-        if (Execute(QStringLiteral("UPDATE dbo.users SET Name = Name WHERE Code = ?"), {user}) == 0)
+        if (connection_->Execute(QStringLiteral("UPDATE dbo.users SET Name = Name WHERE Code = ?"), {user}) ==
+            0)
             throw ECategoryRefused(QStringLiteral(
                 "پیش‌فرض برای کاربری که وارد برنامه شده نگه داشته می‌شود؛ نخست وارد شوید."));
         if (id > 0)
             PathOf(id);
-        Execute(QStringLiteral("UPDATE dbo.DefaultUserCategory SET %1 = 0 WHERE user_code = ?").arg(column),
-                {user});
-        if (id > 0 && Execute(QStringLiteral("UPDATE dbo.DefaultUserCategory SET %1 = 1 WHERE user_code = ? "
-                                             "AND Code_category = ?")
-                                  .arg(column),
-                              {user, id}) == 0)
-            Execute(QStringLiteral(
-                        "INSERT INTO dbo.DefaultUserCategory (user_code, Code_category, %1) VALUES (?, ?, 1)")
-                        .arg(column),
-                    {user, id});
-        Execute(QStringLiteral(
-                    "DELETE FROM dbo.DefaultUserCategory WHERE user_code = ? AND Person = 0 AND Good = 0"),
-                {user});
+        connection_->Execute(
+            QStringLiteral("UPDATE dbo.DefaultUserCategory SET %1 = 0 WHERE user_code = ?").arg(column),
+            {user});
+        if (id > 0 && connection_->Execute(
+                          QStringLiteral("UPDATE dbo.DefaultUserCategory SET %1 = 1 WHERE user_code = ? "
+                                         "AND Code_category = ?")
+                              .arg(column),
+                          {user, id}) == 0)
+            connection_->Execute(
+                QStringLiteral(
+                    "INSERT INTO dbo.DefaultUserCategory (user_code, Code_category, %1) VALUES (?, ?, 1)")
+                    .arg(column),
+                {user, id});
+        connection_->Execute(
+            QStringLiteral(
+                "DELETE FROM dbo.DefaultUserCategory WHERE user_code = ? AND Person = 0 AND Good = 0"),
+            {user});
     });
 }
 
@@ -212,7 +217,7 @@ void TCategoryStore::InTransaction(const std::function<void()>& work)
 // One row stands for the whole tree: whoever changes the tree's shape holds it until he is done.
 void TCategoryStore::HoldTree()
 {
-    Execute(
+    connection_->Execute(
         QStringLiteral("UPDATE dbo.category SET name = name WHERE id = (SELECT MIN(id) FROM dbo.category)"));
 }
 
@@ -223,7 +228,8 @@ QString TCategoryStore::PathOf(int id) const
     QSet<int> climbed;
     for (int above = id; above > 0;) {
         TADOQuery query;
-        OpenQuery(query, QStringLiteral("SELECT parent_code FROM dbo.category WHERE id = ?"), {above});
+        OpenQuery(query, *connection_, QStringLiteral("SELECT parent_code FROM dbo.category WHERE id = ?"),
+                  {above});
         if (query.IsEmpty() && above == id)
             RefuseMissing();
         if (query.IsEmpty() || climbed.contains(above))
@@ -265,31 +271,13 @@ void TCategoryStore::SetPathsUnder(const QString& path)
             "UPDATE dbo.category SET path = %1 WHERE parent_code IN (SELECT u.id FROM dbo.category AS "
             "u WHERE u.path LIKE ?) AND ISNULL(path, N'') <> %1")
             .arg(right);
-    while (Execute(statement, {QString(path + u'%')}) > 0) {
+    while (connection_->Execute(statement, {QString(path + u'%')}) > 0) {
     }
-}
-
-qint64 TCategoryStore::Execute(const QString& statement, const QVariantList& parameters)
-{
-    TADOCommand command;
-    command.SetConnection(connection_);
-    command.CommandText = statement;
-    command.Parameters = parameters;
-    return command.Execute();
-}
-
-void TCategoryStore::OpenQuery(TADOQuery& query, const QString& statement,
-                               const QVariantList& parameters) const
-{
-    query.SetConnection(connection_);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
 }
 
 int TCategoryStore::Number(const QString& statement, const QVariantList& parameters) const
 {
     TADOQuery query;
-    OpenQuery(query, statement, parameters);
+    OpenQuery(query, *connection_, statement, parameters);
     return query.Field(0)->AsInteger();
 }

@@ -86,8 +86,6 @@ private:
     void CheckNotUnder(int id, int parentId) const;
     void CheckDepth(const QString& oldPath, const QString& newPath) const;
     void SetPathsUnder(const QString& path);
-    qint64 Execute(const QString& statement, const QVariantList& parameters = {});
-    void OpenQuery(TADOQuery& query, const QString& statement, const QVariantList& parameters = {}) const;
     int Number(const QString& statement, const QVariantList& parameters) const;
 
     TADOConnection* connection_;

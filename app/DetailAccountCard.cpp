@@ -2,21 +2,18 @@
 
 #include "DetailUniqueCode_UNT.h"
 #include "EnterChain.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "ReferenceHost.h"
-#include "RelativeFonts.h"
-#include "SmartButton_TRV.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartComboBox_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
-#include "SmartPanel_TRV.h"
 #include "UnsavedQuestion.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,12 +36,9 @@ int ChosenObject(const TSmartComboBox_TRV& box)
 
 void AddField(QFormLayout* form, const QString& caption, QWidget* control)
 {
-    auto* label = new TSmartLabel_TRV(control->parentWidget());
-    label->SetCaption(caption);
-    label->SetFocusControl(control);
     control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
     control->setFixedSize(cardFieldWidth, Look::ControlHeight);
-    form->addRow(label, control);
+    form->addRow(FormParts::NewLabel(caption, control), control);
 }
 
 } // namespace
@@ -56,8 +50,7 @@ TDetailAccountCard::TDetailAccountCard(TReferenceHost& host, int kind, QWidget* 
 
 TDetailAccountCard::TDetailAccountCard(TReferenceHost& host, const TDetailAccount& account, QWidget* parent)
     : QDialog(parent), host_(&host), store_(host.Connection()), loaded_(account), isNew_(account.Code == 0),
-      heading_(new TSmartLabel_TRV(this)), kind_(new TSmartComboBox_TRV(this)),
-      code_(new TSmartEdit_TRV(this)), name_(new TSmartEdit_TRV(this)),
+      kind_(new TSmartComboBox_TRV(this)), code_(new TSmartEdit_TRV(this)), name_(new TSmartEdit_TRV(this)),
       currency_(new TSmartComboBox_TRV(this)), active_(new TSmartCheckBox_TRV(this)),
       uniqueCode_(new TDetailUniqueCode_FRME(this))
 {
@@ -81,22 +74,10 @@ TDetailAccountCard::~TDetailAccountCard() = default;
 
 void TDetailAccountCard::Lay()
 {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, Look::GroupGap);
-    column->setSpacing(Look::GroupGap);
-    auto* band = new TSmartPanel_TRV(this);
-    band->SetGround(TSmartPanel_TRV::gBand);
-    auto* bandRow = new QHBoxLayout(band);
-    bandRow->setContentsMargins(Look::GroupGap, Look::Margin, Look::GroupGap, Look::Margin);
-    heading_->SetOnBand(true);
-    heading_->setFont(RelativeFonts::Bold());
-    heading_->SetCaption(windowTitle());
-    bandRow->addWidget(heading_);
-    column->addWidget(band);
-    auto* form = new QFormLayout;
-    form->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
-    form->setVerticalSpacing(Look::LineGap);
-    form->setHorizontalSpacing(Look::GroupGap);
+    auto* heading = new TSmartLabel_TRV(this);
+    heading->SetCaption(windowTitle());
+    auto* column = FormParts::NewCardColumn(this, heading);
+    auto* form = FormParts::NewCardFields();
     AddField(form, QStringLiteral("&نوع حساب:"), kind_);
     AddField(form, QStringLiteral("&کد:"), code_);
     AddField(form, QStringLiteral("نا&م:"), name_);
@@ -105,11 +86,14 @@ void TDetailAccountCard::Lay()
     form->addRow(new QWidget(this), active_);
     column->addLayout(form);
     auto* numberRow = new QHBoxLayout;
-    numberRow->setContentsMargins(Look::Margin, 0, Look::Margin,
-                                  0); // with the frame's own, those of the form
+    // With the frame's own, those of the fields.
+    numberRow->setContentsMargins(Look::Margin, 0, Look::Margin, 0);
     numberRow->addWidget(uniqueCode_);
     column->addLayout(numberRow);
-    column->addWidget(NewButtons());
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
+    FormParts::AddSaveButtons(buttons, this, [this] { Save(); });
+    column->addLayout(buttons);
     code_->SetMaxLength(accountDigits);
     code_->OnKeyPress = [](QObject*, QChar& key) {
         if (key.isPrint() && !key.isDigit())
@@ -119,28 +103,6 @@ void TDetailAccountCard::Lay()
     auto* chain =
         new TEnterChain({kind_, code_, name_, currency_, active_, uniqueCode_->UniqueCode_EDT}, this);
     connect(chain, &TEnterChain::finished, this, &TDetailAccountCard::Save);
-}
-
-QWidget* TDetailAccountCard::NewButtons()
-{
-    auto* bar = new QWidget(this);
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
-    row->addStretch(1);
-    const auto add = [bar, row](const QString& name, const QString& caption, const TNotifyEvent& click) {
-        auto* button = new TSmartButton_TRV(bar);
-        button->setObjectName(name);
-        button->setText(caption);
-        button->setMinimumSize(88, Look::ControlHeight);
-        button->setAutoDefault(false);
-        button->OnClick = click;
-        row->addWidget(button);
-    };
-    add(QStringLiteral("Save_BTN"), QStringLiteral("&ذخیره"), [this](QObject*) { Save(); });
-    add(QStringLiteral("Cancel_BTN"), QStringLiteral("ا&نصراف"), [this](QObject*) { reject(); });
-    for (const QKeySequence& key : {QKeySequence(Qt::Key_F2), QKeySequence(Qt::CTRL | Qt::Key_S)})
-        connect(new QShortcut(key, this), &QShortcut::activated, this, &TDetailAccountCard::Save);
-    return bar;
 }
 
 void TDetailAccountCard::FillBoxes()

@@ -4,13 +4,11 @@
 
 #include <QDialog>
 
-class QFormLayout;
 class TDetailUniqueCode_FRME;
 class TReferenceHost;
 class TSmartCheckBox_TRV;
 class TSmartComboBox_TRV;
 class TSmartEdit_TRV;
-class TSmartLabel_TRV;
 
 /// One detail account, to create or to change. While the card is open it holds the account's unique code, so
 /// that no other user gets it; closing releases it.
@@ -45,7 +43,6 @@ Q_SIGNALS:
 
 private:
     void Lay();
-    QWidget* NewButtons();
     void FillBoxes();
     void ProposeCodes();
     void Show(const TDetailAccount& account);
@@ -57,7 +54,6 @@ private:
     TDetailAccount loaded_;
     bool isNew_;
     int loadedNumber_ = 0;
-    TSmartLabel_TRV* heading_;
     TSmartComboBox_TRV* kind_;
     TSmartEdit_TRV* code_;
     TSmartEdit_TRV* name_;

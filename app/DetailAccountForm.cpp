@@ -2,15 +2,14 @@
 
 #include "Balloon.h"
 #include "DetailAccountCard.h"
+#include "FormParts.h"
 #include "ListForm.h"
 #include "Look.h"
 #include "ReferenceHost.h"
 #include "SmartButton_TRV.h"
 #include "SmartComboBox_TRV.h"
-#include "SmartLabel_TRV.h"
 
 #include <QHBoxLayout>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -27,13 +26,9 @@ TDetailAccountForm::TDetailAccountForm(TReferenceHost& host, QWidget* parent)
     Lay();
     kind_->OnChange = [this](QObject*) { ShowKind(); };
     list_->OnOpenRecord = [this] { OpenAccount(); };
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_N), &TDetailAccountForm::NewAccount);
-    onKey(QKeySequence(Qt::Key_Insert), &TDetailAccountForm::NewAccount);
-    onKey(QKeySequence(Qt::Key_F3), [this] { kind_->setFocus(Qt::ShortcutFocusReason); });
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_N, &TDetailAccountForm::NewAccount);
+    FormParts::OnKey(this, Qt::Key_Insert, &TDetailAccountForm::NewAccount);
+    FormParts::OnKey(this, Qt::Key_F3, [this] { kind_->setFocus(Qt::ShortcutFocusReason); });
 }
 
 TDetailAccountForm::~TDetailAccountForm()
@@ -49,20 +44,13 @@ void TDetailAccountForm::Lay()
     auto* row = new QHBoxLayout;
     row->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
     row->setSpacing(Look::Margin);
-    auto* label = new TSmartLabel_TRV(this);
-    label->SetCaption(QStringLiteral("نوع &حساب:"));
-    label->SetFocusControl(kind_);
     kind_->setObjectName(QStringLiteral("Kind_CMB"));
     kind_->setAccessibleName(QStringLiteral("نوع حساب"));
     kind_->setFixedSize(kindWidth, Look::ControlHeight);
-    auto* create = new TSmartButton_TRV(this);
-    create->setObjectName(QStringLiteral("New_BTN"));
-    create->SetAutoWidth(true);
-    create->setText(QStringLiteral("حساب تازه"));
-    create->setFixedHeight(Look::ControlHeight);
+    auto* create = FormParts::NewBarButton(this, QStringLiteral("New_BTN"), QStringLiteral("حساب تازه"));
     create->setFocusPolicy(Qt::NoFocus);
     create->OnClick = [this](QObject*) { NewAccount(); };
-    row->addWidget(label);
+    row->addWidget(FormParts::NewLabel(QStringLiteral("نوع &حساب:"), kind_));
     row->addWidget(kind_);
     row->addStretch(1);
     row->addWidget(create);

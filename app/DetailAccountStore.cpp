@@ -1,8 +1,7 @@
 #include "DetailAccountStore.h"
 
 #include "AccountTypes.h"
-#include "ADOCommand.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 namespace {
 
@@ -51,14 +50,14 @@ QVector<TNamedCode> TDetailAccountStore::Currencies() const
 int TDetailAccountStore::NextCode(int kind) const
 {
     TADOQuery query;
-    OpenQuery(query,
+    OpenQuery(query, *connection_,
               QStringLiteral("SELECT ISNULL(MAX(Code), 0) + 1 AS Code FROM dbo.AccDetails WHERE [Type] = ?"),
               {kind});
     const int next = query.FieldByName(QStringLiteral("Code"))->AsInteger();
     if (next <= LargestCode)
         return next;
     query.Close();
-    OpenQuery(query,
+    OpenQuery(query, *connection_,
               QStringLiteral(
                   "SELECT MIN(d.Code) + 1 AS Code FROM dbo.AccDetails AS d WHERE d.[Type] = ? AND d.Code < ? "
                   "AND NOT EXISTS (SELECT 1 FROM dbo.AccDetails AS n WHERE n.[Type] = d.[Type] AND "
@@ -70,7 +69,7 @@ int TDetailAccountStore::NextCode(int kind) const
 std::optional<TDetailAccount> TDetailAccountStore::Find(int kind, int code) const
 {
     TADOQuery query;
-    OpenQuery(query,
+    OpenQuery(query, *connection_,
               QStringLiteral("SELECT Name, ISNULL(CurrCode, 0) AS Currency, Active FROM dbo.AccDetails WHERE "
                              "[Type] = ? AND Code = ?"),
               {kind, code});
@@ -86,10 +85,11 @@ void TDetailAccountStore::Insert(const TDetailAccount& account, const std::funct
     Save(account, true, [&] {
         if (Find(account.Kind, account.Code))
             RefuseRepeatedCode();
-        Execute(QStringLiteral(
-                    "INSERT INTO dbo.AccDetails ([Type], Code, Name, CurrCode, UniqueCode, Active) VALUES "
-                    "(?, ?, ?, ?, 0, ?)"),
-                {account.Kind, account.Code, account.Name.trimmed(), CurrencyOf(account), account.Active});
+        connection_->Execute(
+            QStringLiteral(
+                "INSERT INTO dbo.AccDetails ([Type], Code, Name, CurrCode, UniqueCode, Active) VALUES "
+                "(?, ?, ?, ?, 0, ?)"),
+            {account.Kind, account.Code, account.Name.trimmed(), CurrencyOf(account), account.Active});
         saveNumber();
     });
 }
@@ -99,17 +99,19 @@ void TDetailAccountStore::Update(const TDetailAccount& account, const TDetailAcc
 {
     Save(account, false, [&] {
         // The row is held first, so that nobody writes between the comparison and the change.
-        Execute(QStringLiteral("UPDATE dbo.AccDetails SET Name = Name WHERE [Type] = ? AND Code = ?"),
-                {account.Kind, account.Code});
+        connection_->Execute(
+            QStringLiteral("UPDATE dbo.AccDetails SET Name = Name WHERE [Type] = ? AND Code = ?"),
+            {account.Kind, account.Code});
         if (Find(account.Kind, account.Code) != loaded)
             throw EDetailRefused(
                 TDetailField::Account,
                 QStringLiteral(
                     "این حساب پس از باز شدن به دست کاربر دیگری عوض شده است؛ آن را دوباره باز کنید."));
-        Execute(QStringLiteral(
-                    "UPDATE dbo.AccDetails SET Name = ?, CurrCode = ?, Active = ? WHERE [Type] = ? AND "
-                    "Code = ?"),
-                {account.Name.trimmed(), CurrencyOf(account), account.Active, account.Kind, account.Code});
+        connection_->Execute(
+            QStringLiteral(
+                "UPDATE dbo.AccDetails SET Name = ?, CurrCode = ?, Active = ? WHERE [Type] = ? AND "
+                "Code = ?"),
+            {account.Name.trimmed(), CurrencyOf(account), account.Active, account.Kind, account.Code});
         saveNumber();
     });
 }
@@ -132,28 +134,10 @@ void TDetailAccountStore::Save(const TDetailAccount& account, bool isNew, const 
     }
 }
 
-void TDetailAccountStore::Execute(const QString& statement, const QVariantList& parameters)
-{
-    TADOCommand command;
-    command.SetConnection(connection_);
-    command.CommandText = statement;
-    command.Parameters = parameters;
-    command.Execute();
-}
-
-void TDetailAccountStore::OpenQuery(TADOQuery& query, const QString& statement,
-                                    const QVariantList& parameters) const
-{
-    query.SetConnection(connection_);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
-}
-
 QVector<TNamedCode> TDetailAccountStore::NamedCodes(const QString& statement) const
 {
     TADOQuery query;
-    OpenQuery(query, statement);
+    OpenQuery(query, *connection_, statement);
     QVector<TNamedCode> codes;
     for (query.First(); !query.Eof(); query.Next())
         codes.append({query.FieldByName(QStringLiteral("Code"))->AsInteger(),

@@ -74,8 +74,6 @@ public:
 
 private:
     void Save(const TDetailAccount& account, bool isNew, const std::function<void()>& write);
-    void Execute(const QString& statement, const QVariantList& parameters);
-    void OpenQuery(TADOQuery& query, const QString& statement, const QVariantList& parameters = {}) const;
     QVector<TNamedCode> NamedCodes(const QString& statement) const;
 
     TADOConnection* connection_;

@@ -1,5 +1,6 @@
 #include "ListForm.h"
 
+#include "FormParts.h"
 #include "General_Search_UNT.h"
 #include "HostApplication.h"
 #include "ListFooter.h"
@@ -18,7 +19,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 struct TListForm::TParts
@@ -171,12 +171,8 @@ void TListForm::ConnectLabels()
     // What is no longer listed would be written to unseen.
     connect(&parts.Manager, &TTarvaSearchManager::conditionChanged, parts.Grid,
             &TSmartDBGrid_TRV::ClearMarks);
-    const auto onKey = [this](const QKeySequence& key, void (TListLabels::*action)()) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, parts_->Labels.get(), action);
-    };
-    onKey(QKeySequence(Qt::Key_F8), &TListLabels::TogglePanel);
-    onKey(QKeySequence(Qt::Key_F9), &TListLabels::ToggleFilters);
+    FormParts::OnKey(this, Qt::Key_F8, [this] { parts_->Labels->TogglePanel(); });
+    FormParts::OnKey(this, Qt::Key_F9, [this] { parts_->Labels->ToggleFilters(); });
 }
 
 void TListForm::ConnectKeys()
@@ -188,14 +184,10 @@ void TListForm::ConnectKeys()
     connect(parts.Keys, &TListKeys::rowChosen, this, &TListForm::OpenCard);
     connect(parts.Keys, &TListKeys::gridEntered, this, &TListForm::SelectFirstRow);
     parts.Grid->OnDblClick = [this](QObject* /*Sender*/) { OpenCard(); };
-    const auto onKey = [this](const QKeySequence& key, void (TListForm::*action)()) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::Key_F10), &TListForm::FocusSearchField);
-    onKey(QKeySequence(Qt::Key_F7), &TListForm::ShowSortMenu);
-    onKey(QKeySequence(Qt::Key_F5), &TListForm::Refresh);
-    onKey(QKeySequence(Qt::Key_Escape), &TListForm::ClearSearch);
+    FormParts::OnKey(this, Qt::Key_F10, &TListForm::FocusSearchField);
+    FormParts::OnKey(this, Qt::Key_F7, &TListForm::ShowSortMenu);
+    FormParts::OnKey(this, Qt::Key_F5, &TListForm::Refresh);
+    FormParts::OnKey(this, Qt::Key_Escape, &TListForm::ClearSearch);
 }
 
 void TListForm::StartSearch()

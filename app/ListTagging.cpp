@@ -3,6 +3,7 @@
 #include "AdvListEditorPer.h"
 #include "Balloon.h"
 #include "Category_Search_UNT.h"
+#include "FormParts.h"
 #include "ListSelection.h"
 #include "Look.h"
 #include "MessageDialog.h"
@@ -21,16 +22,6 @@
 namespace {
 
 constexpr int taggingWidth = 340;
-
-TSmartButton_TRV* NewTaggingButton(QWidget* parent, const QString& name, const QString& caption)
-{
-    auto* button = new TSmartButton_TRV(parent);
-    button->setObjectName(name);
-    button->SetAutoWidth(true);
-    button->setText(caption);
-    button->setFixedHeight(Look::ControlHeight);
-    return button;
-}
 
 } // namespace
 
@@ -77,7 +68,7 @@ QWidget* TListTagging::NewHead()
     heading_->SetShowAccelChar(false);
     heading_->setFont(RelativeFonts::Bold());
     row->addWidget(heading_, 1);
-    auto* close = NewTaggingButton(head, QStringLiteral("CloseTagging_BTN"), QStringLiteral("بستن"));
+    auto* close = FormParts::NewBarButton(head, QStringLiteral("CloseTagging_BTN"), QStringLiteral("بستن"));
     close->setFocusPolicy(Qt::NoFocus);
     close->OnClick = [this](QObject*) { Q_EMIT closed(); };
     row->addWidget(close);
@@ -93,11 +84,11 @@ QWidget* TListTagging::NewCategoryLines()
     column->addWidget(category_);
     auto* row = new QHBoxLayout;
     row->setSpacing(Look::Margin);
-    auto* assign =
-        NewTaggingButton(lines, QStringLiteral("AssignCategory_BTN"), QStringLiteral("&گذاشتن در این دسته"));
+    auto* assign = FormParts::NewBarButton(lines, QStringLiteral("AssignCategory_BTN"),
+                                           QStringLiteral("&گذاشتن در این دسته"));
     assign->OnClick = [this](QObject*) { AssignCategory(); };
     auto* takeAway =
-        NewTaggingButton(lines, QStringLiteral("TakeCategory_BTN"), QStringLiteral("&برداشتن دسته"));
+        FormParts::NewBarButton(lines, QStringLiteral("TakeCategory_BTN"), QStringLiteral("&برداشتن دسته"));
     takeAway->OnClick = [this](QObject*) { TakeCategoryAway(); };
     row->addWidget(assign);
     row->addWidget(takeAway);

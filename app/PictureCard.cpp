@@ -1,16 +1,16 @@
 #include "PictureCard.h"
 
-#include "ADOQuery.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "Pic_Get_UNT.h"
 #include "PictureReader.h"
+#include "QueryOpening.h"
 #include "SmartButton_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "UnsavedQuestion.h"
 
 #include <QHBoxLayout>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -53,22 +53,9 @@ void TPictureCard::Lay()
     column->addWidget(picture_);
     column->addWidget(note_);
     auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    const auto add = [this, row](const QString& name, const QString& caption) {
-        auto* button = new TSmartButton_TRV(this);
-        button->setObjectName(name);
-        button->setText(caption);
-        button->setMinimumSize(88, Look::ControlHeight);
-        button->setAutoDefault(false);
-        row->addWidget(button);
-        return button;
-    };
-    save_ = add(QStringLiteral("Save_BTN"), QStringLiteral("&ذخیره"));
-    save_->OnClick = [this](QObject*) { Save(); };
-    add(QStringLiteral("Cancel_BTN"), QStringLiteral("ا&نصراف"))->OnClick = [this](QObject*) { reject(); };
+    save_ = FormParts::AddSaveButtons(row, this, [this] { Save(); });
     column->addLayout(row);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    connect(new QShortcut(QKeySequence(Qt::Key_F2), this), &QShortcut::activated, this, &TPictureCard::Save);
     Tell(QStringLiteral("پروندهٔ JPEG با پسوند %1، تا ۱۰ مگابایت").arg(Extension()), false);
 }
 
@@ -77,10 +64,8 @@ void TPictureCard::Load()
     if (id_ == 0)
         return;
     TADOQuery query;
-    query.SetConnection(connection_);
-    query.SQL.SetText(QStringLiteral("SELECT address, picture FROM dbo.PhotoGallery WHERE Id = ?"));
-    query.Parameters = {id_};
-    query.Open();
+    OpenQuery(query, *connection_,
+              QStringLiteral("SELECT address, picture FROM dbo.PhotoGallery WHERE Id = ?"), {id_});
     if (query.IsEmpty())
         return;
     // As the viewer does it: the file counts where it is there.

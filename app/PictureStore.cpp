@@ -1,6 +1,5 @@
 #include "PictureStore.h"
 
-#include "ADOCommand.h"
 #include "PictureReader.h"
 
 #include <QFile>
@@ -46,18 +45,19 @@ EPictureRefused::~EPictureRefused() = default;
 void TPictureStore::Add(const TPictureOwner& owner, const QString& path)
 {
     const QByteArray content = ContentOf(path);
-    Execute(QStringLiteral(
-                "INSERT INTO dbo.PhotoGallery (GRPCode, Id_Pic, address, name, picture) VALUES (?, ?, ?, "
-                "?, ?)"),
-            {owner.Group, owner.Item, AddressOf(path), NameOf(path), content});
+    connection_->Execute(
+        QStringLiteral(
+            "INSERT INTO dbo.PhotoGallery (GRPCode, Id_Pic, address, name, picture) VALUES (?, ?, ?, "
+            "?, ?)"),
+        {owner.Group, owner.Item, AddressOf(path), NameOf(path), content});
 }
 
 void TPictureStore::Replace(int id, const QString& path)
 {
     const QByteArray content = ContentOf(path);
-    const qint64 written =
-        Execute(QStringLiteral("UPDATE dbo.PhotoGallery SET address = ?, name = ?, picture = ? WHERE Id = ?"),
-                {AddressOf(path), NameOf(path), content, id});
+    const qint64 written = connection_->Execute(
+        QStringLiteral("UPDATE dbo.PhotoGallery SET address = ?, name = ?, picture = ? WHERE Id = ?"),
+        {AddressOf(path), NameOf(path), content, id});
     if (written == 0)
         throw EPictureRefused(
             QStringLiteral("این عکس را کاربر دیگری حذف کرده است؛ عکس خود را تازه بیفزایید."));
@@ -65,14 +65,5 @@ void TPictureStore::Replace(int id, const QString& path)
 
 void TPictureStore::Remove(int id)
 {
-    Execute(QStringLiteral("DELETE FROM dbo.PhotoGallery WHERE Id = ?"), {id});
-}
-
-qint64 TPictureStore::Execute(const QString& statement, const QVariantList& parameters)
-{
-    TADOCommand command;
-    command.SetConnection(connection_);
-    command.CommandText = statement;
-    command.Parameters = parameters;
-    return command.Execute();
+    connection_->Execute(QStringLiteral("DELETE FROM dbo.PhotoGallery WHERE Id = ?"), {id});
 }

@@ -46,7 +46,5 @@ public:
     void Remove(int id);
 
 private:
-    qint64 Execute(const QString& statement, const QVariantList& parameters);
-
     TADOConnection* connection_;
 };

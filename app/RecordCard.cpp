@@ -1,13 +1,12 @@
 #include "RecordCard.h"
 
 #include "DisplayText.h"
+#include "FormParts.h"
 #include "HostServices.h"
 #include "Look.h"
 #include "PagedDataSet.h"
 #include "RecordPictures.h"
-#include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
-#include "SmartPanel_TRV.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -38,22 +37,8 @@ TRecordCard::TRecordCard(const TListDescription& list, TPagedDataSet& dataSet, Q
 {
     setLayoutDirection(Qt::RightToLeft);
     setWindowTitle(QStringLiteral("کارت ") + list_.RecordName);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, Look::GroupGap);
-    column->setSpacing(Look::GroupGap);
-    auto* band = new TSmartPanel_TRV(this);
-    band->SetGround(TSmartPanel_TRV::gBand);
-    auto* bandRow = new QHBoxLayout(band);
-    bandRow->setContentsMargins(Look::GroupGap, Look::Margin, Look::GroupGap, Look::Margin);
-    heading_->SetOnBand(true);
-    heading_->setFont(RelativeFonts::Bold());
-    heading_->setTextFormat(Qt::PlainText);
-    bandRow->addWidget(heading_);
-    column->addWidget(band);
-    auto* form = new QFormLayout;
-    form->setContentsMargins(Look::GroupGap, 0, Look::GroupGap, 0);
-    form->setVerticalSpacing(Look::LineGap);
-    form->setHorizontalSpacing(Look::GroupGap);
+    auto* column = FormParts::NewCardColumn(this, heading_);
+    auto* form = FormParts::NewCardFields();
     AddFields(form);
     auto* body = new QHBoxLayout;
     body->setContentsMargins(0, 0, 0, 0);
@@ -85,11 +70,8 @@ QString TRecordCard::FieldText(const QString& fieldName) const
 void TRecordCard::AddFields(QFormLayout* form)
 {
     for (const TCardField& field : qAsConst(list_.CardFields)) {
-        auto* label = new TSmartLabel_TRV(this);
-        label->SetCaption(field.Title);
         auto* edit = NewField(field, this);
-        label->SetFocusControl(edit);
-        form->addRow(label, edit);
+        form->addRow(FormParts::NewLabel(field.Title, edit), edit);
         edits_.append(edit);
     }
 }

@@ -1,6 +1,5 @@
 #include "RecordFacts.h"
-
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 namespace {
 
@@ -115,10 +114,7 @@ QHash<QString, QVariant> RecordFacts::Read(TADOConnection& connection, const QSt
     QHash<QString, QVariant> values;
     for (const QString& statement : Statements(listKey)) {
         TADOQuery query;
-        query.SetConnection(&connection);
-        query.SQL.SetText(statement);
-        query.Parameters = {code};
-        query.Open();
+        OpenQuery(query, connection, statement, {code});
         if (query.IsEmpty())
             continue;
         for (int field = 0; field < query.FieldCount(); ++field)
@@ -130,9 +126,8 @@ QHash<QString, QVariant> RecordFacts::Read(TADOConnection& connection, const QSt
 bool RecordFacts::HidesPurchasePrices(TADOConnection& connection, int user)
 {
     TADOQuery query;
-    query.SetConnection(&connection);
-    query.SQL.SetText(QStringLiteral("SELECT Value FROM dbo.Settings WHERE UserCode = ? AND Name = ?"));
-    query.Parameters = {user, QStringLiteral("HidePurchasePrices")};
-    query.Open();
+    OpenQuery(query, connection,
+              QStringLiteral("SELECT Value FROM dbo.Settings WHERE UserCode = ? AND Name = ?"),
+              {user, QStringLiteral("HidePurchasePrices")});
     return !query.IsEmpty() && query.Field(0)->AsString() == u"1";
 }

@@ -3,6 +3,7 @@
 #include "Balloon.h"
 #include "DateRange_Display_UNT.h"
 #include "DisplayText.h"
+#include "FormParts.h"
 #include "GregorianDateDelegate.h"
 #include "HostApplication.h"
 #include "ListFooter.h"
@@ -25,7 +26,6 @@
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QShortcut>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
@@ -119,11 +119,8 @@ QWidget* TReportForm::NewFooter()
     };
     add(QStringLiteral("پروندهٔ &PDF…"), QKeySequence(Qt::CTRL | Qt::Key_P), &TReportForm::SavePdf);
     add(QStringLiteral("پروندهٔ &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), &TReportForm::SaveCsv);
-    auto* button = new TSmartButton_TRV(footer);
-    button->setObjectName(QStringLiteral("Save_BTN"));
-    button->SetAutoWidth(true);
-    button->setText(QStringLiteral("&ذخیرهٔ گزارش"));
-    button->setFixedHeight(Look::ControlHeight);
+    auto* button =
+        FormParts::NewBarButton(footer, QStringLiteral("Save_BTN"), QStringLiteral("&ذخیرهٔ گزارش"));
     button->OnClick = [button, menu](QObject*) {
         menu->popup(button->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
     };
@@ -194,14 +191,10 @@ void TReportForm::ConnectExport()
 
 void TReportForm::ConnectKeys()
 {
-    const auto onKey = [this](const QKeySequence& key, void (TReportForm::*action)()) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::Key_F10), &TReportForm::FocusPeriod);
-    onKey(QKeySequence(Qt::Key_F6), &TReportForm::SwitchBetweenFiltersAndGrid);
-    onKey(QKeySequence(Qt::Key_F5), &TReportForm::Refresh);
-    onKey(QKeySequence(Qt::Key_Escape), &TReportForm::Clear);
+    FormParts::OnKey(this, Qt::Key_F10, &TReportForm::FocusPeriod);
+    FormParts::OnKey(this, Qt::Key_F6, &TReportForm::SwitchBetweenFiltersAndGrid);
+    FormParts::OnKey(this, Qt::Key_F5, &TReportForm::Refresh);
+    FormParts::OnKey(this, Qt::Key_Escape, &TReportForm::Clear);
 }
 
 QVector<TKeyHelp> TReportForm::Keys() const

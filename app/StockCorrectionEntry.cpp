@@ -1,13 +1,13 @@
 #include "StockCorrectionEntry.h"
 
 #include "EnterChain.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "SmartButton_TRV.h"
 #include "SmartComboBox_TRV.h"
 #include "SmartDateEdit_TRV.h"
 #include "SmartEdit_TRV.h"
-#include "SmartLabel_TRV.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -23,19 +23,6 @@ constexpr int quantityDecimals = 3;
 constexpr int quantityLength = 16;
 constexpr double quantityBound = 999999999999.0;
 constexpr int longestReason = 200;
-
-void AddControl(QHBoxLayout* row, const QString& caption, QWidget* control, int width)
-{
-    auto* label = new TSmartLabel_TRV(control->parentWidget());
-    label->SetCaption(caption);
-    label->SetFocusControl(control);
-    control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
-    control->setFixedHeight(Look::ControlHeight);
-    if (width > 0)
-        control->setFixedWidth(width);
-    row->addWidget(label);
-    row->addWidget(control, width > 0 ? 0 : 1);
-}
 
 } // namespace
 
@@ -70,12 +57,12 @@ void TStockCorrectionEntry::Lay()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     auto* first = new QHBoxLayout;
-    AddControl(first, QStringLiteral("&تاریخ:"), date_, correctionDateWidth);
-    AddControl(first, QStringLiteral("&نوع:"), direction_, directionWidth);
-    AddControl(first, QStringLiteral("&مقدار:"), quantity_, quantityWidth);
+    FormParts::AddField(first, QStringLiteral("&تاریخ:"), date_, correctionDateWidth);
+    FormParts::AddField(first, QStringLiteral("&نوع:"), direction_, directionWidth);
+    FormParts::AddField(first, QStringLiteral("&مقدار:"), quantity_, quantityWidth);
     first->addStretch(1);
     auto* second = new QHBoxLayout;
-    AddControl(second, QStringLiteral("&شرح:"), reason_, 0);
+    FormParts::AddField(second, QStringLiteral("&شرح:"), reason_, 0);
     const auto add = [this, second](const QString& name, const QString& caption, auto signal) {
         auto* button = new TSmartButton_TRV(this);
         button->setObjectName(name);

@@ -3,18 +3,18 @@
 #include "Balloon.h"
 #include "Detail_Button_UNT.h"
 #include "DisplayText.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "MessageDialog.h"
 #include "PersianText.h"
+#include "QueryOpening.h"
 #include "ReferenceHost.h"
-#include "RelativeFonts.h"
 #include "ServiceRefused.h"
 #include "SmartButton_TRV.h"
 #include "SmartDateEdit_TRV.h"
 #include "SmartDBGrid_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
-#include "SmartPanel_TRV.h"
 #include "StockCorrectionEntry.h"
 
 #include <QDateTime>
@@ -65,19 +65,10 @@ void TStockCorrectionForm::Lay(const QString& name)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, Look::Margin);
     column->setSpacing(0);
-    auto* band = new TSmartPanel_TRV(this);
-    band->SetGround(TSmartPanel_TRV::gBand);
-    auto* bandRow = new QHBoxLayout(band);
-    bandRow->setContentsMargins(Look::GroupGap, Look::Margin, Look::GroupGap, Look::Margin);
-    auto* heading = new TSmartLabel_TRV(band);
-    heading->SetOnBand(true);
-    heading->SetShowAccelChar(false);
-    heading->setFont(RelativeFonts::Bold());
+    auto* heading = new TSmartLabel_TRV(this);
     heading->SetCaption(QStringLiteral("اصلاح موجودی «%1»").arg(name));
     stock_->SetOnBand(true);
-    bandRow->addWidget(heading, 1);
-    bandRow->addWidget(stock_);
-    column->addWidget(band);
+    FormParts::AddHeading(column, heading)->addWidget(stock_);
     grid_->SetColumns({
         {QStringLiteral("CorrectionDate"), QStringLiteral("تاریخ"), 110, TGridColumn::ckDate},
         {QStringLiteral("Quantity"), QStringLiteral("مقدار"), 120, TGridColumn::ckNumber},
@@ -113,21 +104,18 @@ void TStockCorrectionForm::ConnectButtons()
 
 void TStockCorrectionForm::Read()
 {
-    rows_.SetConnection(&host_->Connection());
-    rows_.SQL.SetText(QStringLiteral("SELECT Id, CorrectionDate, Quantity, Sharh FROM dbo.StockCorrections "
-                                     "WHERE KalaCode = ? ORDER BY CorrectionDate, Id"));
-    rows_.Parameters = {kala_};
     rows_.Close();
-    rows_.Open();
+    OpenQuery(rows_, host_->Connection(),
+              QStringLiteral("SELECT Id, CorrectionDate, Quantity, Sharh FROM dbo.StockCorrections "
+                             "WHERE KalaCode = ? ORDER BY CorrectionDate, Id"),
+              {kala_});
     if (grid_->DataSource() == nullptr) {
         source_.SetDataSet(&rows_);
         grid_->SetDataSource(&source_);
     }
     TADOQuery goods;
-    goods.SetConnection(&host_->Connection());
-    goods.SQL.SetText(QStringLiteral("SELECT Stock, UnitName FROM dbo.kala WHERE Code = ?"));
-    goods.Parameters = {kala_};
-    goods.Open();
+    OpenQuery(goods, host_->Connection(),
+              QStringLiteral("SELECT Stock, UnitName FROM dbo.kala WHERE Code = ?"), {kala_});
     if (!goods.IsEmpty())
         stock_->SetCaption(QStringLiteral("موجودی: %1 %2")
                                .arg(DisplayText::FieldValue(goods.FieldValue(0), TGridColumn::ckNumber),

@@ -1,16 +1,14 @@
 #include "TagPalette.h"
 
-#include "ADOQuery.h"
 #include "Look.h"
+#include "QueryOpening.h"
 
 void TTagPalette::Read(TADOConnection& connection)
 {
     TADOQuery query;
-    query.SetConnection(&connection);
-    query.SQL.SetText(
-        QStringLiteral("SELECT t.Code, t.Name, c.cl_code FROM dbo.TagS AS t INNER JOIN dbo.colors AS c "
-                       "ON c.code = t.color_code"));
-    query.Open();
+    OpenQuery(query, connection,
+              QStringLiteral("SELECT t.Code, t.Name, c.cl_code FROM dbo.TagS AS t INNER JOIN dbo.colors AS c "
+                             "ON c.code = t.color_code"));
     tags_.clear();
     for (int row = 0; row < query.RecordCount(); ++row)
         tags_.insert(query.ValueAt(row, 0).toString(), {Look::StringToColor(query.ValueAt(row, 2).toString()),

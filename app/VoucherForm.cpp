@@ -1,5 +1,6 @@
 #include "VoucherForm.h"
 
+#include "FormParts.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "ReferenceHost.h"
@@ -12,7 +13,6 @@
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace {
@@ -105,11 +105,7 @@ void TVoucherForm::Lay()
     footer->setSpacing(Look::Margin);
     footer->addWidget(parts.Totals, 1);
     const auto addButton = [this, footer](const QString& name, const QString& caption, auto action) {
-        auto* button = new TSmartButton_TRV(this);
-        button->setObjectName(name);
-        button->SetAutoWidth(true);
-        button->setText(caption);
-        button->setFixedHeight(Look::ControlHeight);
+        auto* button = FormParts::NewBarButton(this, name, caption);
         button->setFocusPolicy(Qt::NoFocus);
         button->OnClick = [this, action](QObject*) { (this->*action)(); };
         footer->addWidget(button);
@@ -141,18 +137,14 @@ void TVoucherForm::ConnectParts()
 
 void TVoucherForm::ConnectKeys()
 {
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_N), &TVoucherForm::NewVoucher);
-    onKey(QKeySequence(Qt::Key_F2), &TVoucherForm::Save);
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_S), &TVoucherForm::Save);
-    onKey(QKeySequence(Qt::Key_F3), [this] { parts_->Head->FocusNumber(); });
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_O), [this] { parts_->Head->FocusNumber(); });
-    onKey(QKeySequence(Qt::Key_F6), &TVoucherForm::SwitchBetweenBandAndGrid);
-    onKey(QKeySequence(Qt::Key_F8), [this] { parts_->Band->FocusCurrency(); });
-    onKey(QKeySequence(Qt::Key_Escape), &TVoucherForm::ClearBand);
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_N, &TVoucherForm::NewVoucher);
+    FormParts::OnKey(this, Qt::Key_F2, &TVoucherForm::Save);
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_S, &TVoucherForm::Save);
+    FormParts::OnKey(this, Qt::Key_F3, [this] { parts_->Head->FocusNumber(); });
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_O, [this] { parts_->Head->FocusNumber(); });
+    FormParts::OnKey(this, Qt::Key_F6, &TVoucherForm::SwitchBetweenBandAndGrid);
+    FormParts::OnKey(this, Qt::Key_F8, [this] { parts_->Band->FocusCurrency(); });
+    FormParts::OnKey(this, Qt::Key_Escape, &TVoucherForm::ClearBand);
 }
 
 QVector<TKeyHelp> TVoucherForm::Keys() const

@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "GetVoucher_UNT.h"
 #include "Look.h"
+#include "QueryOpening.h"
 #include "ReferenceHost.h"
 #include "RelativeFonts.h"
 #include "SmartDBGrid_TRV.h"
@@ -68,11 +69,10 @@ void TVoucherGlance::Lay()
 void TVoucherGlance::ReadHead(int fiscalYear, int number)
 {
     TADOQuery head;
-    head.SetConnection(&host_->Connection());
-    head.SQL.SetText(
-        QStringLiteral("SELECT Id, VoucherDate, Title FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"));
-    head.Parameters = {fiscalYear, number};
-    head.Open();
+    OpenQuery(
+        head, host_->Connection(),
+        QStringLiteral("SELECT Id, VoucherDate, Title FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),
+        {fiscalYear, number});
     if (head.IsEmpty()) {
         head_->SetCaption(QStringLiteral("سند %1 سال %2 دیگر وجود ندارد.").arg(number).arg(fiscalYear));
         return;
@@ -87,19 +87,18 @@ void TVoucherGlance::ReadHead(int fiscalYear, int number)
 
 void TVoucherGlance::ReadLines(int voucherId)
 {
-    lines_.SetConnection(&host_->Connection());
-    lines_.SQL.SetText(QStringLiteral(
-        "SELECT Kol, Moin, Tafzili, Bed, Bes, Sharh FROM dbo.Sanad_Detail WHERE SanadId = ? ORDER BY RowNo"));
-    lines_.Parameters = {voucherId};
-    lines_.Open();
+    OpenQuery(
+        lines_, host_->Connection(),
+        QStringLiteral(
+            "SELECT Kol, Moin, Tafzili, Bed, Bes, Sharh FROM dbo.Sanad_Detail WHERE SanadId = ? ORDER BY RowNo"),
+        {voucherId});
     source_.SetDataSet(&lines_);
     grid_->SetDataSource(&source_);
     TADOQuery sums;
-    sums.SetConnection(&host_->Connection());
-    sums.SQL.SetText(
-        QStringLiteral("SELECT SUM(Bed) AS Bed, SUM(Bes) AS Bes FROM dbo.Sanad_Detail WHERE SanadId = ?"));
-    sums.Parameters = {voucherId};
-    sums.Open();
+    OpenQuery(
+        sums, host_->Connection(),
+        QStringLiteral("SELECT SUM(Bed) AS Bed, SUM(Bes) AS Bes FROM dbo.Sanad_Detail WHERE SanadId = ?"),
+        {voucherId});
     const auto amount = [&sums](int field) {
         return DisplayText::FieldValue(sums.FieldValue(field), TGridColumn::ckMoney);
     };

@@ -2,12 +2,12 @@
 
 #include "Balloon.h"
 #include "EnterChain.h"
+#include "FormParts.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "SmartComboBox_TRV.h"
 #include "SmartDateEdit_TRV.h"
 #include "SmartEdit_TRV.h"
-#include "SmartLabel_TRV.h"
 
 #include <algorithm>
 #include <QHBoxLayout>
@@ -66,23 +66,10 @@ void TVoucherHeadBar::Lay()
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(Look::Margin, Look::Margin, Look::Margin, Look::Margin);
     row->setSpacing(Look::Margin);
-    AddField(row, QStringLiteral("سال &مالی:"), year_, yearWidth);
-    AddField(row, QStringLiteral("ش&ماره:"), number_, numberWidth);
-    AddField(row, QStringLiteral("&تاریخ:"), date_, dateWidth);
-    AddField(row, QStringLiteral("&شرح سند:"), title_, 0);
-}
-
-void TVoucherHeadBar::AddField(QHBoxLayout* row, const QString& caption, QWidget* control, int width)
-{
-    auto* label = new TSmartLabel_TRV(this);
-    label->SetCaption(caption);
-    label->SetFocusControl(control);
-    control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
-    control->setFixedHeight(Look::ControlHeight);
-    if (width > 0)
-        control->setFixedWidth(width);
-    row->addWidget(label);
-    row->addWidget(control, width > 0 ? 0 : 1);
+    FormParts::AddField(row, QStringLiteral("سال &مالی:"), year_, yearWidth);
+    FormParts::AddField(row, QStringLiteral("ش&ماره:"), number_, numberWidth);
+    FormParts::AddField(row, QStringLiteral("&تاریخ:"), date_, dateWidth);
+    FormParts::AddField(row, QStringLiteral("&شرح سند:"), title_, 0);
 }
 
 void TVoucherHeadBar::SetCalendar(bool gregorian, std::function<QDate()> today)

@@ -52,7 +52,6 @@ Q_SIGNALS:
 
 private:
     void Lay();
-    void AddField(QHBoxLayout* row, const QString& caption, QWidget* control, int width);
     void ShowNumber();
     void EnterNumber();
 

@@ -1,21 +1,11 @@
 #include "VoucherStore.h"
 
 #include "AccountBook.h"
-#include "ADOCommand.h"
-#include "ADOQuery.h"
+#include "QueryOpening.h"
 
 namespace {
 
 constexpr int manualKind = 1;
-
-void OpenQuery(TADOQuery& query, TADOConnection* connection, const QString& statement,
-               const QVariantList& parameters = {})
-{
-    query.SetConnection(connection);
-    query.SQL.SetText(statement);
-    query.Parameters = parameters;
-    query.Open();
-}
 
 int IntegerOf(TADOQuery& query, const char16_t* field)
 {
@@ -52,7 +42,7 @@ EVoucherRefused::~EVoucherRefused() = default;
 QVector<TFiscalYear> TVoucherStore::FiscalYears() const
 {
     TADOQuery query;
-    OpenQuery(query, connection_,
+    OpenQuery(query, *connection_,
               QStringLiteral(
                   "SELECT Code, Title, FromDate, ToDate, Closed FROM dbo.FiscalYears ORDER BY Code DESC"));
     QVector<TFiscalYear> years;
@@ -65,7 +55,7 @@ QVector<TFiscalYear> TVoucherStore::FiscalYears() const
 QHash<int, QString> TVoucherStore::CurrencyTitles() const
 {
     TADOQuery query;
-    OpenQuery(query, connection_, QStringLiteral("SELECT CurCode, CurTitle FROM dbo.AccCurrency"));
+    OpenQuery(query, *connection_, QStringLiteral("SELECT CurCode, CurTitle FROM dbo.AccCurrency"));
     QHash<int, QString> titles;
     for (query.First(); !query.Eof(); query.Next())
         titles.insert(IntegerOf(query, u"CurCode"), TextOf(query, u"CurTitle"));
@@ -76,7 +66,7 @@ int TVoucherStore::NextNumber(int fiscalYear) const
 {
     TADOQuery query;
     OpenQuery(
-        query, connection_,
+        query, *connection_,
         QStringLiteral("SELECT ISNULL(MAX(Number), 0) + 1 AS Number FROM dbo.Sanad WHERE FiscalYear = ?"),
         {fiscalYear});
     return IntegerOf(query, u"Number");
@@ -88,7 +78,7 @@ bool TVoucherStore::Find(int fiscalYear, int number, TVoucherDraft& draft) const
     {
         TADOQuery query;
         OpenQuery(
-            query, connection_,
+            query, *connection_,
             QStringLiteral("SELECT Id, VoucherDate, Title, Confirmed FROM dbo.Sanad WHERE FiscalYear = ? "
                            "AND Number = ?"),
             {fiscalYear, number});
@@ -109,7 +99,7 @@ QVector<TVoucherLine> TVoucherStore::ReadLines(int voucherId) const
 {
     TADOQuery query;
     OpenQuery(
-        query, connection_,
+        query, *connection_,
         QStringLiteral("SELECT Kol, Moin, Tafzili, Tafsili2, Sharh, Bed, Bes, CurrCode, CurrRate, CurrAmount "
                        "FROM dbo.Sanad_Detail WHERE SanadId = ? ORDER BY RowNo"),
         {voucherId});
@@ -164,18 +154,19 @@ TVoucherHead TVoucherStore::Save(const TVoucherDraft& draft, const TVoucherEntry
 // before; a year that is being closed is waited for.
 void TVoucherStore::HoldYear(int fiscalYear)
 {
-    Execute(QStringLiteral("UPDATE dbo.FiscalYears SET Title = Title WHERE Code = ?"), {fiscalYear});
+    connection_->Execute(QStringLiteral("UPDATE dbo.FiscalYears SET Title = Title WHERE Code = ?"),
+                         {fiscalYear});
 }
 
 void TVoucherStore::Insert(TVoucherHead& head, const TVoucherEntry& entry)
 {
     head.Number = NextNumber(head.FiscalYear);
-    Execute(
+    connection_->Execute(
         QStringLiteral("INSERT INTO dbo.Sanad (FiscalYear, Number, VoucherDate, RegisteredAt, Kind, Title, "
                        "UserCode, Confirmed) VALUES (?, ?, ?, CAST(? AS datetime), ?, ?, ?, 0)"),
         {head.FiscalYear, head.Number, head.Date, entry.Moment, manualKind, head.Title, entry.UserCode});
     TADOQuery query;
-    OpenQuery(query, connection_,
+    OpenQuery(query, *connection_,
               QStringLiteral("SELECT Id FROM dbo.Sanad WHERE FiscalYear = ? AND Number = ?"),
               {head.FiscalYear, head.Number});
     head.Id = IntegerOf(query, u"Id");
@@ -189,9 +180,10 @@ void TVoucherStore::Update(const TVoucherDraft& draft, const TVoucherHead& head,
         Refuse(
             TVoucherField::Voucher,
             QStringLiteral("این سند پس از باز شدن به دست کاربر دیگری عوض شده است؛ آن را دوباره باز کنید."));
-    Execute(QStringLiteral("UPDATE dbo.Sanad SET VoucherDate = ?, Title = ?, UserCode = ? WHERE Id = ?"),
-            {head.Date, head.Title, entry.UserCode, head.Id});
-    Execute(QStringLiteral("DELETE FROM dbo.Sanad_Detail WHERE SanadId = ?"), {draft.Head.Id});
+    connection_->Execute(
+        QStringLiteral("UPDATE dbo.Sanad SET VoucherDate = ?, Title = ?, UserCode = ? WHERE Id = ?"),
+        {head.Date, head.Title, entry.UserCode, head.Id});
+    connection_->Execute(QStringLiteral("DELETE FROM dbo.Sanad_Detail WHERE SanadId = ?"), {draft.Head.Id});
 }
 
 void TVoucherStore::InsertLines(int voucherId, const QVector<TVoucherLine>& lines)
@@ -202,16 +194,8 @@ void TVoucherStore::InsertLines(int voucherId, const QVector<TVoucherLine>& line
         "CAST(? AS decimal(19,9)), CAST(? AS money))");
     int number = 0;
     for (const TVoucherLine& line : lines)
-        Execute(statement, {voucherId, ++number, line.Account.Total, line.Account.Assistant,
-                            line.Account.Detail, line.Account.ExpenseCenter, line.Description, line.Debit,
-                            line.Credit, line.Currency.Code, line.Currency.Rate, line.Currency.Amount});
-}
-
-void TVoucherStore::Execute(const QString& statement, const QVariantList& parameters)
-{
-    TADOCommand command;
-    command.SetConnection(connection_);
-    command.CommandText = statement;
-    command.Parameters = parameters;
-    command.Execute();
+        connection_->Execute(statement,
+                             {voucherId, ++number, line.Account.Total, line.Account.Assistant,
+                              line.Account.Detail, line.Account.ExpenseCenter, line.Description, line.Debit,
+                              line.Credit, line.Currency.Code, line.Currency.Rate, line.Currency.Amount});
 }

@@ -61,7 +61,6 @@ private:
     void Update(const TVoucherDraft& draft, const TVoucherHead& head, const TVoucherEntry& entry);
     void InsertLines(int voucherId, const QVector<TVoucherLine>& lines);
     QVector<TVoucherLine> ReadLines(int voucherId) const;
-    void Execute(const QString& statement, const QVariantList& parameters);
 
     TADOConnection* connection_;
 };

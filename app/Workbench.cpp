@@ -1,7 +1,6 @@
 #include "Workbench.h"
 
 #include "AdoError.h"
-#include "ADOQuery.h"
 #include "DatabaseFile.h"
 #include "HostApplication.h"
 #include "Look.h"
@@ -9,6 +8,7 @@
 #include "OffscreenMessages.h"
 #include "PersianText.h"
 #include "ProgressWindow.h"
+#include "QueryOpening.h"
 #include "ReferenceHost.h"
 #include "ServerDatabase.h"
 #include "StartMessages.h"
@@ -63,16 +63,14 @@ QString NameOf(const QString& connectionString)
 TUserInfo SignIn(TADOConnection& connection, const QString& name)
 {
     TADOQuery query;
-    query.SetConnection(&connection);
-    if (name.isEmpty()) {
-        query.SQL.SetText(
-            QStringLiteral("SELECT TOP 1 Code, Name FROM dbo.users WHERE Active = 1 ORDER BY Code"));
-    } else {
-        query.SQL.SetText(QStringLiteral(
-            "SELECT Code, Name FROM dbo.users WHERE Active = 1 AND (LoginName = ? OR Name = ?)"));
-        query.Parameters = {name, name};
-    }
-    query.Open();
+    if (name.isEmpty())
+        OpenQuery(query, connection,
+                  QStringLiteral("SELECT TOP 1 Code, Name FROM dbo.users WHERE Active = 1 ORDER BY Code"));
+    else
+        OpenQuery(query, connection,
+                  QStringLiteral(
+                      "SELECT Code, Name FROM dbo.users WHERE Active = 1 AND (LoginName = ? OR Name = ?)"),
+                  {name, name});
     if (!query.IsEmpty())
         return {query.FieldByName(QStringLiteral("Code"))->AsInteger(),
                 query.FieldByName(QStringLiteral("Name"))->AsString()};

@@ -2,6 +2,7 @@
 
 #include "ADOConnection.h"
 #include "AdoError.h"
+#include "FormParts.h"
 #include "GalleryInspector.h"
 #include "HostApplication.h"
 #include "Look.h"
@@ -13,7 +14,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -104,15 +104,11 @@ void TGalleryForm::FillList()
 
 void TGalleryForm::ConnectKeys()
 {
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, action);
-    };
-    onKey(QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { Step(1); });
-    onKey(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [this] { Step(-1); });
+    FormParts::OnKey(this, Qt::CTRL | Qt::Key_Tab, [this] { Step(1); });
+    FormParts::OnKey(this, Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { Step(-1); });
     // With Shift held, X11 sends another key for Tab.
-    onKey(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), [this] { Step(-1); });
-    onKey(QKeySequence(Qt::Key_F6), [this] { SwitchBetweenListAndFrame(); });
+    FormParts::OnKey(this, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, [this] { Step(-1); });
+    FormParts::OnKey(this, Qt::Key_F6, [this] { SwitchBetweenListAndFrame(); });
 }
 
 QVector<TKeyHelp> TGalleryForm::Keys() const

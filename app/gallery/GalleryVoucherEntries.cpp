@@ -1,8 +1,8 @@
-#include "ADOQuery.h"
 #include "Detail_Button_UNT.h"
 #include "GalleryEntry.h"
 #include "GetVoucher_UNT.h"
 #include "ListDetail_FRAME_UNT.h"
+#include "QueryOpening.h"
 #include "ReferenceHost.h"
 #include "RefreshAutoVouchersFrame_UNT.h"
 #include "SaveAutoVouchersFrame_UNT.h"
@@ -22,9 +22,8 @@ void SetUp(TDetial_Grid_Frame& frame, const TGalleryStage& stage)
     frame.EditRecord_BTN->OnClick = stage.Event(QStringLiteral("EditRecord_BTN.OnClick"));
     frame.DeleteRecord_BTN->OnClick = stage.Event(QStringLiteral("DeleteRecord_BTN.OnClick"));
     TADOQuery vouchers;
-    vouchers.SetConnection(&stage.Host.Connection());
-    vouchers.SQL.SetText(QStringLiteral("SELECT TOP 1 Id FROM dbo.Sanad ORDER BY Id"));
-    vouchers.Open();
+    OpenQuery(vouchers, stage.Host.Connection(),
+              QStringLiteral("SELECT TOP 1 Id FROM dbo.Sanad ORDER BY Id"));
     frame.SetEnableButton(&vouchers);
 }
 
