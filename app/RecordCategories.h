@@ -6,7 +6,7 @@
 
 class TADOConnection;
 
-/// Gives records their category, and takes it away. Each change is one transaction or one statement.
+/// Gives records their category, and takes it away. Each change is one transaction.
 class TRecordCategories
 {
 public:
@@ -16,8 +16,10 @@ public:
     {
     }
 
-    /// The records with the keys, whole numbers each, get the category, whatever they had before. Throws
-    /// EADOError where the database fails; nothing is written then.
+    // Of any number of records, by their keys, whole numbers each. Throws EADOError where the database fails;
+    // nothing is written then.
+
+    /// The records get the category, whatever they had before.
     void Assign(const QStringList& keys, int category);
     void TakeAway(const QStringList& keys);
 

@@ -7,6 +7,12 @@
 
 namespace {
 
+TAdvListAccessible::TListener& Listener()
+{
+    static TAdvListAccessible::TListener listener = nullptr;
+    return listener;
+}
+
 QAccessibleInterface* AccessibleOf(const QString& className, QObject* object)
 {
     auto* editor = className == u"TAdvListEditorPer" ? qobject_cast<TAdvListEditorPer*>(object) : nullptr;
@@ -117,6 +123,20 @@ void TAdvListAccessible::Install()
     std::call_once(installed, [] { QAccessible::installFactory(AccessibleOf); });
 }
 
+void TAdvListAccessible::Tell(QAccessibleEvent& event)
+{
+    if (const TListener listener = Listener())
+        listener(event);
+    // The toolkit makes the interfaces of an event even where nobody asks for them.
+    if (QAccessible::isActive())
+        QAccessible::updateAccessibility(&event);
+}
+
+void TAdvListAccessible::SetListener(TListener listener)
+{
+    Listener() = listener;
+}
+
 TAdvListEditorPer* TAdvListAccessible::Editor() const
 {
     return qobject_cast<TAdvListEditorPer*>(object());
@@ -201,13 +221,13 @@ void TAdvListEditorPer::TPrivate::TellFocus() const
     // The bubble before the caret is what the user has come to.
     QAccessibleEvent focus(editor, QAccessible::Focus);
     focus.setChild(caret > 0 ? caret - 1 : values.Count());
-    QAccessible::updateAccessibility(&focus);
+    TAdvListAccessible::Tell(focus);
 }
 
 void TAdvListEditorPer::TPrivate::TellSelection() const
 {
     QAccessibleEvent selection(editor, QAccessible::SelectionWithin);
-    QAccessible::updateAccessibility(&selection);
+    TAdvListAccessible::Tell(selection);
 }
 
 void TAdvListEditorPer::TPrivate::TellItems(TAdvListValues::TChange change, int index) const
@@ -217,9 +237,9 @@ void TAdvListEditorPer::TPrivate::TellItems(TAdvListValues::TChange change, int 
     if (change == TAdvListValues::TChange::Changed) {
         QAccessibleEvent renamed(editor, QAccessible::NameChanged);
         renamed.setChild(index);
-        QAccessible::updateAccessibility(&renamed);
+        TAdvListAccessible::Tell(renamed);
         return;
     }
     QAccessibleEvent reordered(editor, QAccessible::ObjectReorder);
-    QAccessible::updateAccessibility(&reordered);
+    TAdvListAccessible::Tell(reordered);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SuiteExport.h"
+
 #include <QAccessibleWidget>
 #include <QHash>
 
@@ -14,6 +16,12 @@ public:
 
     /// Makes the suite's token editors known to the toolkit; once is enough.
     static void Install();
+
+    /// Tells a screen reader, where one is at work, and the listener.
+    static void Tell(QAccessibleEvent& event);
+    /// Hears what all editors of the process tell, whether or not a screen reader is at work; null for none.
+    using TListener = void (*)(const QAccessibleEvent& event);
+    SUITE_EXPORT static void SetListener(TListener listener);
 
     TAdvListEditorPer* Editor() const;
     /// Items are told apart by their place, so what stood for them goes with each change.

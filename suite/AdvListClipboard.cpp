@@ -25,8 +25,11 @@ QString CleanPaste(const QString& text)
         const QChar character = text.at(place);
         const bool startsPair =
             character.isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
+        const bool startsBreak = character == u'\r' && place + 1 < text.size() && text.at(place + 1) == u'\n';
         if (startsPair)
             clean += QStringView(text).mid(place++, 2);
+        else if (startsBreak)
+            continue;
         else if (IsPastedLineBreak(character))
             clean += u'\n';
         else if (character == u'\t')

@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QListView>
+#include <QMimeData>
 
 namespace {
 
@@ -25,6 +27,22 @@ struct TCompletionForm : TTokenForm
     {
         auto* list = editor.findChild<QListView*>();
         return list && list->isVisible() ? list : nullptr;
+    }
+    /// Drags a text from elsewhere over the box for typing; drops it where the box takes it.
+    bool Drop(const QString& text)
+    {
+        QWidget* box = editor.focusProxy();
+        const QPoint place = box->rect().center();
+        QMimeData data;
+        data.setText(text);
+        QDragEnterEvent enters(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(box, &enters);
+        if (!enters.isAccepted())
+            return false;
+        QDropEvent drops(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        drops.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(box, &drops);
+        return drops.isAccepted() && drops.dropAction() == Qt::CopyAction;
     }
     QStringList Offered() const
     {
@@ -60,6 +78,8 @@ private Q_SLOTS:
     void anItemIsMadeWhereTheCaretStands();
     void aPastedListBecomesItemsAndLeavesTheRest();
     void aPastedTextWithoutPartsIsTyped();
+    void aDroppedTextIsTakenAsAPastedOne();
+    void nothingIsDroppedIntoAReadOnlyEditor();
     void theHandlerMayChangeTheItemsText();
     void theHandlerMayRebuildTheItems();
     void tooLongATextIsCutWithASentence();
@@ -293,6 +313,30 @@ void AdvListEditorPerCompletionTest::aPastedTextWithoutPartsIsTyped()
     form.Stroke(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(form.editor.EditText(), QStringLiteral("ا\u202Bنا ن\u202C۱ب"));
     QVERIFY(form.editor.Values().IsEmpty());
+}
+
+void AdvListEditorPerCompletionTest::aDroppedTextIsTakenAsAPastedOne()
+{
+    TCompletionForm form;
+    QVERIFY(form.Show());
+    QVERIFY(form.Drop(QStringLiteral("نان;پنیر")));
+    QCOMPARE(form.Row(), QStringLiteral("نان"));
+    QCOMPARE(form.editor.EditText(), QStringLiteral("پنیر"));
+    QCOMPARE(form.told, QStringList(QStringLiteral("0 نان")));
+    form.editor.clear();
+    QVERIFY(form.Drop(QStringLiteral("ماست\r\nکره")));
+    QCOMPARE(form.editor.EditText(), QStringLiteral("ماست کره"));
+    QCOMPARE(form.Row(), QStringLiteral("نان"));
+}
+
+void AdvListEditorPerCompletionTest::nothingIsDroppedIntoAReadOnlyEditor()
+{
+    TCompletionForm form;
+    QVERIFY(form.Show());
+    form.editor.SetReadOnly(true);
+    QVERIFY(!form.Drop(QStringLiteral("نان;پنیر")));
+    QCOMPARE(form.Row(), QString());
+    QCOMPARE(form.editor.EditText(), QString());
 }
 
 void AdvListEditorPerCompletionTest::theHandlerMayChangeTheItemsText()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void copiedBubblesAreTheirTextsWithTheSeparator();
     void cutBubblesAreRemovedAsByDelete();
     void typedTextStaysAsItWasTyped();
+    void undoIsForTheTypedTextAlone();
     void anInputMethodsTextIsTyped();
     void enterWithATextStaysInTheEditorAndWithoutGoesToTheWindow();
     void tabWithATextIsReleasedInTheEditorBeforeTheFocusGoes();
@@ -284,6 +285,29 @@ void AdvListEditorPerKeysTest::typedTextStaysAsItWasTyped()
     form.Type(text);
     form.Stroke(0, Qt::NoModifier, QStringLiteral("😀"));
     QCOMPARE(form.editor.EditText(), text + QStringLiteral("😀"));
+}
+
+void AdvListEditorPerKeysTest::undoIsForTheTypedTextAlone()
+{
+    TTokenForm form;
+    form.Fill(QStringLiteral("آب نان"));
+    QVERIFY(form.Show());
+    form.Type(QStringLiteral("نمک"));
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.editor.EditText(), QString());
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.Row(), QStringLiteral("آب نان"));
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(form.editor.EditText(), QStringLiteral("نمک"));
+    // What an owner has cleared, such as a name that was not found, can be had back.
+    form.editor.clear();
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.editor.EditText(), QStringLiteral("نمک"));
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier);
+    form.Stroke(Qt::Key_Backspace);
+    form.Stroke(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.Row(), QStringLiteral("آب"));
+    QCOMPARE(form.editor.EditText(), QString());
 }
 
 void AdvListEditorPerKeysTest::anInputMethodsTextIsTyped()
