@@ -29,6 +29,7 @@ install(TARGETS BaseFrame_Designer LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/
 
 # The scripts that a server database is made of.
 install(FILES database/schema.sql database/functions.sql DESTINATION "${CMAKE_INSTALL_DATADIR}/BaseFrame_PKG")
+install(DIRECTORY database/upgrades DESTINATION "${CMAKE_INSTALL_DATADIR}/BaseFrame_PKG" FILES_MATCHING PATTERN "*.sql")
 install(DIRECTORY docs/ DESTINATION "${CMAKE_INSTALL_DOCDIR}" PATTERN "*.md" PATTERN "*.png")
 install(FILES README.md LICENSE NOTICE suite/fonts/OFL.txt DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 

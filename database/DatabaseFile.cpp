@@ -6,6 +6,7 @@
 #include "DatabaseSchema.h"
 #include "FileCreation.h"
 #include "FileHeader.h"
+#include "FileUpgrade.h"
 #include "ServerDatabase.h"
 
 #include <atomic>
@@ -19,6 +20,16 @@ constexpr QLatin1String MemoryName(":memory:");
 [[noreturn]] void Refuse(TAdoErrorKind kind, const QString& message, const QString& path)
 {
     throw EADOError(kind, message.arg(path));
+}
+
+[[noreturn]] void RefuseNewer(const QString& path)
+{
+    Refuse(
+        TAdoErrorKind::NotADatabase,
+        QStringLiteral(
+            "پایگاه دادهٔ «%1» را نسخهٔ تازه‌تری از برنامه ساخته است؛ برنامه را به‌روز "
+            "کنید."),
+        path);
 }
 
 void RefuseUnlessGood(const QString& path)
@@ -55,7 +66,7 @@ void RefuseUnlessGood(const QString& path)
                 "«%1» پایگاه دادهٔ برنامهٔ دیگری است و دست‌نخورده ماند. نام دیگری برای پایگاه "
                 "داده بدهید."),
             path);
-    case TVerdict::OtherVersion:
+    case TVerdict::UnknownVersion:
         Refuse(
             TAdoErrorKind::NotADatabase,
             QStringLiteral(
@@ -63,45 +74,44 @@ void RefuseUnlessGood(const QString& path)
                 "ماند."),
             path);
     case TVerdict::NewerVersion:
-        Refuse(
-            TAdoErrorKind::NotADatabase,
-            QStringLiteral(
-                "پایگاه دادهٔ «%1» را نسخهٔ تازه‌تری از برنامه ساخته است؛ برنامه را به‌روز "
-                "کنید."),
-            path);
+        RefuseNewer(path);
     }
 }
 
-/// The version that the tables themselves tell; throws where there are no such tables.
-int SchemaVersion(TADOConnection& connection)
-{
-    const std::unique_ptr<IEngineRows> rows =
-        connection.Run(QStringLiteral("SELECT Version FROM dbo.SchemaInfo"));
-    return rows->Next() ? static_cast<int>(rows->Int64(0)) : 0;
-}
-
-bool HasTables(TADOConnection& connection)
+/// 0 where there are no tables of this application.
+int TablesVersion(TADOConnection& connection)
 {
     try {
-        return SchemaVersion(connection) == DatabaseSchema::Version;
+        return DatabaseSchema::VersionOf(connection);
     } catch (const EADOError& error) {
         if (!IsAnswerOfTheDatabase(error))
             throw;
-        return false;
+        return 0;
     }
 }
 
-void CheckFileTables(TADOConnection& connection, const QString& path)
+/// Opens a file whose header is good, brought up to this program's version where it is of an older one.
+void OpenTables(TADOConnection& connection, const QString& path)
 {
-    if (HasTables(connection))
+    connection.Open();
+    const int version = TablesVersion(connection);
+    if (version == 0) {
+        Refuse(
+            TAdoErrorKind::NotADatabase,
+            QStringLiteral(
+                "پایگاه دادهٔ «%1» آسیب دیده است: جدول‌های برنامه در آن خوانده نمی‌شود. نسخهٔ "
+                "پشتیبان آن را "
+                "بازگردانید."),
+            path);
+    }
+    // While another program has the file open its header may be behind.
+    if (version > DatabaseSchema::Version)
+        RefuseNewer(path);
+    if (version == DatabaseSchema::Version)
         return;
-    Refuse(
-        TAdoErrorKind::NotADatabase,
-        QStringLiteral(
-            "پایگاه دادهٔ «%1» آسیب دیده است: جدول‌های برنامه در آن خوانده نمی‌شود. نسخهٔ "
-            "پشتیبان آن را "
-            "بازگردانید."),
-        path);
+    connection.Close();
+    UpgradeDatabaseFile(path);
+    connection.Open();
 }
 
 void OpenFile(TADOConnection& connection, const QString& path, const TDatabaseOptions& options)
@@ -116,8 +126,7 @@ void OpenFile(TADOConnection& connection, const QString& path, const TDatabaseOp
     }
     RefuseUnlessGood(path);
     connection.SetConnectionString(EmbeddedPrefix + path);
-    connection.Open();
-    CheckFileTables(connection, path);
+    OpenTables(connection, path);
 }
 
 /// The maker's statements are not the business of who listens to the connection, so a connection of its own
@@ -130,7 +139,7 @@ void OpenMemory(TADOConnection& connection, const QString& name, const TDatabase
     TADOConnection maker;
     maker.SetConnectionString(EmbeddedPrefix + shared);
     maker.Open();
-    if (!HasTables(maker))
+    if (TablesVersion(maker) == 0)
         CreateSampleDatabase(maker, options.Size, options.Progress);
     connection.SetConnectionString(EmbeddedPrefix + shared);
     connection.Open();

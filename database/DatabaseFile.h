@@ -17,11 +17,11 @@ struct DATABASE_EXPORT TDatabaseOptions
 
 /// Opens the application's database with its functions.
 ///
-/// `sqlite:FILE` is opened when it is a database of this application of a version that is understood;
-/// anything else is refused and stays as it is, to the byte. A missing file is made and filled under another
-/// name beside its place and comes there complete or not at all; of several programs that make the same file
-/// one does it and the others wait for it. `sqlite::memory:` is made and filled. `odbc:...` must have the
-/// tables and functions already.
+/// `sqlite:FILE` is opened when it is a database of this application; one of an older version is brought up
+/// to this program's first, completely or not at all. Anything else, a newer version too, is refused and
+/// stays as it is, to the byte. A missing file is made and filled under another name beside its place and
+/// comes there complete or not at all; of several programs that make the same file one does it and the others
+/// wait for it. `sqlite::memory:` is made and filled. `odbc:...` must have the tables and functions already.
 ///
 /// Throws EADOError with a Persian message (CannotOpen, NotADatabase, Cancelled and what opening throws);
 /// `connection` is closed then.

@@ -1,6 +1,9 @@
 #include "DatabaseSchema.h"
 
+#include "ADOConnection.h"
+
 #include <QFile>
+#include <QRegularExpression>
 
 namespace {
 
@@ -15,13 +18,18 @@ bool MakesIndexOrView(const QString& statement)
     return false;
 }
 
+QStringList BatchesOf(const QString& script)
+{
+    QFile file(QStringLiteral(":/database/") + script);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s is missing from the program's resources", qPrintable(script));
+    return DatabaseSchema::Batches(QString::fromUtf8(file.readAll()));
+}
+
 QStringList SchemaStatements(bool indexesAndViews)
 {
-    QFile file(QStringLiteral(":/database/schema.sql"));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("schema.sql is missing from the program's resources");
     QStringList result;
-    for (const QString& statement : DatabaseSchema::Batches(QString::fromUtf8(file.readAll()))) {
+    for (const QString& statement : BatchesOf(QStringLiteral("schema.sql"))) {
         if (MakesIndexOrView(statement) == indexesAndViews)
             result.append(statement);
     }
@@ -59,4 +67,27 @@ QStringList DatabaseSchema::TableStatements()
 QStringList DatabaseSchema::IndexAndViewStatements()
 {
     return SchemaStatements(true);
+}
+
+QVector<DatabaseSchema::TUpgradeStatement> DatabaseSchema::UpgradeStatements(int version)
+{
+    static const QRegularExpression condition(
+        QStringLiteral("^IF OBJECT_ID\\(N'dbo\\.(\\w+)'\\) IS NULL\\s+"));
+    QStringList batches = BatchesOf(QStringLiteral("upgrades/%1.sql").arg(version));
+    // The first and the last are the server's transaction.
+    batches.removeFirst();
+    batches.removeLast();
+    QVector<TUpgradeStatement> result;
+    for (const QString& batch : qAsConst(batches)) {
+        const QRegularExpressionMatch match = condition.match(batch);
+        result.append({batch.mid(match.capturedLength()), match.captured(1)});
+    }
+    return result;
+}
+
+int DatabaseSchema::VersionOf(TADOConnection& connection)
+{
+    const std::unique_ptr<IEngineRows> rows =
+        connection.Run(QStringLiteral("SELECT Version FROM dbo.SchemaInfo"));
+    return rows->Next() ? static_cast<int>(rows->Int64(0)) : 0;
 }

@@ -4,12 +4,17 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
+
+class TADOConnection;
 
 /// The tables of the accounting database, as schema.sql defines them.
 namespace DatabaseSchema {
 
-/// The version that SchemaInfo and, on the embedded engine, the file's header carry. A higher one is refused.
-constexpr int Version = 1;
+/// The version that SchemaInfo and, on the embedded engine, the file's header carry. A higher one is refused;
+/// a file of a lower one is brought up to it.
+constexpr int Version = 2;
+constexpr int OldestVersion = 1;
 /// What the header of an embedded database carries, so that a foreign file is recognised.
 constexpr quint32 ApplicationId = 0x42465047;
 
@@ -24,5 +29,19 @@ DATABASE_EXPORT QStringList Batches(const QString& script);
 DATABASE_EXPORT QStringList TableStatements();
 /// The statements that make indexes and views; run after a large database has been filled.
 DATABASE_EXPORT QStringList IndexAndViewStatements();
+
+/// A statement of an upgrade.
+struct TUpgradeStatement
+{
+    QString Text;
+    QString UnlessThere; ///< table that makes the statement needless; empty where it runs in any case
+};
+/// What brings the tables of the version before up to `version`, in order, to be run in one transaction. The
+/// last one writes the version.
+DATABASE_EXPORT QVector<TUpgradeStatement> UpgradeStatements(int version);
+
+/// The version that the tables themselves tell, 0 where they tell none. Throws where there are no such
+/// tables.
+DATABASE_EXPORT int VersionOf(TADOConnection& connection);
 
 } // namespace DatabaseSchema

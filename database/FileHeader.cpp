@@ -56,8 +56,10 @@ FileHeader::TVerdict FileHeader::Examine(const QString& path)
     if (Number(header, ApplicationIdOffset) != DatabaseSchema::ApplicationId)
         return TVerdict::Foreign;
     const quint32 version = Number(header, UserVersionOffset);
-    if (version != DatabaseSchema::Version)
-        return version > DatabaseSchema::Version ? TVerdict::NewerVersion : TVerdict::OtherVersion;
+    if (version > DatabaseSchema::Version)
+        return TVerdict::NewerVersion;
+    if (version < DatabaseSchema::OldestVersion)
+        return TVerdict::UnknownVersion;
     return IsShorterThanItSays(file, header) ? TVerdict::Incomplete : TVerdict::Good;
 }
 

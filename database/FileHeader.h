@@ -7,13 +7,13 @@
 namespace FileHeader {
 
 enum class TVerdict {
-    Good,
-    Unreadable,   ///< the file cannot be read
-    NotADatabase, ///< not a file of the embedded engine
-    Incomplete,   ///< shorter than its header says
-    Foreign,      ///< the database of another application
-    OtherVersion, ///< of this application, but of a version that is not understood
-    NewerVersion, ///< made by a later version of this application
+    Good,           ///< of this version or of an older one that can be brought up to it
+    Unreadable,     ///< the file cannot be read
+    NotADatabase,   ///< not a file of the embedded engine
+    Incomplete,     ///< shorter than its header says
+    Foreign,        ///< the database of another application
+    UnknownVersion, ///< of this application, but of no version that there has been
+    NewerVersion,   ///< made by a later version of this application
 };
 
 TVerdict Examine(const QString& path);

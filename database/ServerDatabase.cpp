@@ -37,6 +37,20 @@ qint64 Answer(TADOConnection& connection, const QString& statement, const QStrin
     }
 }
 
+QString VersionProblem(qint64 version)
+{
+    if (version > DatabaseSchema::Version)
+        return QStringLiteral(
+            "جدول‌های پایگاه دادهٔ سرور از نسخهٔ تازه‌تری از برنامه است؛ برنامه را به‌روز کنید.");
+    if (version >= DatabaseSchema::OldestVersion)
+        return QStringLiteral(
+                   "جدول‌های پایگاه دادهٔ سرور از نسخهٔ پیشین برنامه است. نخست دستورهای "
+                   "database/upgrades/%1.sql را در آن اجرا کنید.")
+            .arg(version + 1);
+    return QStringLiteral(
+        "نسخهٔ جدول‌های پایگاه دادهٔ سرور با این برنامه نمی‌خواند.");
+}
+
 } // namespace
 
 void ServerDatabase::Open(TADOConnection& connection, const QString& connectionString)
@@ -47,12 +61,8 @@ void ServerDatabase::Open(TADOConnection& connection, const QString& connectionS
                                   QStringLiteral("schema.sql"));
     Answer(connection, QStringLiteral("SELECT dbo.Category_SubNodes(0,0,1) AS value"),
            QStringLiteral("functions.sql"));
-    if (version != DatabaseSchema::Version) {
-        throw EADOError(
-            TAdoErrorKind::CannotOpen,
-            QStringLiteral("نسخهٔ جدول‌های پایگاه دادهٔ سرور با این "
-                           "برنامه نمی‌خواند."));
-    }
+    if (version != DatabaseSchema::Version)
+        throw EADOError(TAdoErrorKind::CannotOpen, VersionProblem(version));
 }
 
 QString ServerDatabase::CollationWarning(TADOConnection& connection)

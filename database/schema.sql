@@ -11,7 +11,7 @@ CREATE TABLE dbo.SchemaInfo (
   Version int NOT NULL PRIMARY KEY
 )
 GO
-INSERT INTO dbo.SchemaInfo (Version) VALUES (1)
+INSERT INTO dbo.SchemaInfo (Version) VALUES (2)
 GO
 
 -- People and settings of the program itself.
@@ -307,7 +307,7 @@ GO
 -- cl_code is the colour by name or as $00BBGGRR; the pictures are PNG, for a tag on all and on some records.
 CREATE TABLE dbo.colors (
   code int IDENTITY(1,1) NOT NULL PRIMARY KEY,
-  cl_code nvarchar(50) NOT NULL UNIQUE,
+  cl_code nvarchar(50) NOT NULL,
   [h-img] varbinary(max) NULL,
   [l-img] varbinary(max) NULL
 )
@@ -537,6 +537,8 @@ GO
 CREATE INDEX IX_AccDetails_Name ON dbo.AccDetails ([Type], Name)
 GO
 CREATE INDEX IX_ExpenseCenters_Title ON dbo.ExpenseCenters (Title, Code)
+GO
+CREATE UNIQUE INDEX UX_colors_cl_code ON dbo.colors (cl_code)
 GO
 CREATE UNIQUE INDEX IX_TagS_Name ON dbo.TagS (Name)
 GO

@@ -3,6 +3,7 @@
 #include "ADOConnection.h"
 #include "AdoError.h"
 #include "DatabaseCheck.h"
+#include "DatabaseSchema.h"
 #include "OrdinaryUser.h"
 
 #include <QDir>
@@ -208,7 +209,8 @@ void DatabaseFileTest::aFileThatIsNotOursIsRefusedAndNotTouched_data()
         << ForeignDatabase(folder.filePath(QStringLiteral("foreign.db"))) << QStringLiteral("برنامهٔ دیگری");
     QTest::newRow("another application's mark")
         << WithNumber(sample_, 68, 0x0F055112) << QStringLiteral("برنامهٔ دیگری");
-    QTest::newRow("a newer version") << WithNumber(sample_, 60, 2) << QStringLiteral("تازه‌تری");
+    QTest::newRow("a newer version") << WithNumber(sample_, 60, DatabaseSchema::Version + 1)
+                                     << QStringLiteral("تازه‌تری");
     QTest::newRow("an unknown version") << WithNumber(sample_, 60, 0) << QStringLiteral("شناخته نیست");
     QTest::newRow("cut short") << sample_.left(sample_.size() / 2) << QStringLiteral("ناقص");
     QTest::newRow("damaged inside") << QByteArray(sample_.left(100) + QByteArray(sample_.size() - 100, 'x'))

@@ -122,6 +122,8 @@ private Q_SLOTS:
     void aServerThatIsReadyOpens();
     void aServerThatIsNotReadySaysWhatToDo_data();
     void aServerThatIsNotReadySaysWhatToDo();
+    void tablesOfAnotherVersionAreRefused_data();
+    void tablesOfAnotherVersionAreRefused();
     void aLossOnTheWayIsALoss();
     void aCollationWithoutThePersianLettersIsWarnedOf_data();
     void aCollationWithoutThePersianLettersIsWarnedOf();
@@ -155,9 +157,25 @@ void ServerDatabaseTest::aServerThatIsNotReadySaysWhatToDo()
     const QString refusal = Refusal(answers, &kind);
     QVERIFY2(refusal.contains(words), qPrintable(refusal));
     QCOMPARE(kind, TAdoErrorKind::CannotOpen);
-    answers = ReadyServer();
-    answers[tables] = {{DatabaseSchema::Version + 1}};
-    QVERIFY(Refusal(answers).contains(QStringLiteral("نسخهٔ")));
+}
+
+void ServerDatabaseTest::tablesOfAnotherVersionAreRefused_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("newer") << DatabaseSchema::Version + 1 << QStringLiteral("تازه‌تری");
+    QTest::newRow("older") << 1 << QStringLiteral("database/upgrades/2.sql");
+    QTest::newRow("none") << 0 << QStringLiteral("نمی‌خواند");
+}
+
+void ServerDatabaseTest::tablesOfAnotherVersionAreRefused()
+{
+    QFETCH(const int, version);
+    QFETCH(const QString, words);
+    TAnswers answers = ReadyServer();
+    answers[tables] = {{version}};
+    const QString refusal = Refusal(answers);
+    QVERIFY2(refusal.contains(words), qPrintable(refusal));
 }
 
 void ServerDatabaseTest::aLossOnTheWayIsALoss()

@@ -20,7 +20,7 @@ if(NOT help MATCHES "--tour")
   message(FATAL_ERROR "The packed workbench says: ${help}")
 endif()
 foreach(file IN ITEMS lib/cmake/BaseFrame_PKG/BaseFrame_PKGConfig.cmake include/BaseFrame_PKG/HostServices.h
-    share/BaseFrame_PKG/schema.sql)
+    share/BaseFrame_PKG/schema.sql share/BaseFrame_PKG/upgrades/2.sql)
   if(NOT EXISTS "${folder}/root/usr/${file}")
     message(FATAL_ERROR "The package lacks /usr/${file}")
   endif()
