@@ -13,6 +13,8 @@ constexpr QChar TimeSeparator = u':';
 constexpr int HoursOfDay = 24;
 constexpr int MinutesOfHour = 60;
 constexpr int MinutesOfDay = HoursOfDay * MinutesOfHour;
+/// The pattern that looks for a time takes the square of a text's length.
+constexpr qsizetype LongestPaste = 100;
 
 QList<TSectionText::TSection> TimeSections()
 {
@@ -50,6 +52,8 @@ QString TSmartTime_TRV::ProblemOf(const QString& text) const
 
 QString TSmartTime_TRV::Pasted(const QString& text) const
 {
+    if (text.size() > LongestPaste)
+        return {};
     static const QRegularExpression pattern(
         QStringLiteral("^\\D*(\\d{1,2})(?:\\s*\\D\\s*(\\d{1,2})(?:\\D\\d{1,2})?|(\\d{2}))\\D*$"));
     const QRegularExpressionMatch found = pattern.match(PersianText::AsciiDigits(text));
