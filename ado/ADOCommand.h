@@ -13,10 +13,10 @@ public:
     explicit TADOCommand(QObject* parent = nullptr);
     ~TADOCommand() override;
 
-    void SetConnection(TADOConnection* connection);
+    void SetConnection(TADOConnection* connection); ///< not owned; null for none
     TADOConnection* Connection() const;
 
-    QString CommandText;
+    QString CommandText;     ///< one T-SQL statement
     QVariantList Parameters; ///< values of the text's `?` marks
 
     /// Runs the text; returns the rows it wrote (-1 where the engine cannot tell).

@@ -26,15 +26,15 @@ public:
     /// `sqlite:FILE`, `sqlite::memory:` or `odbc:CONNECTION STRING`. Takes effect at the next Open().
     void SetConnectionString(const QString& connectionString);
     QString ConnectionString() const;
-    void SetOptions(const TEngineOptions& options);
+    void SetOptions(const TEngineOptions& options); ///< takes effect at the next Open()
     TEngineOptions Options() const;
     /// Opens the engine in the place of OpenEngine(), for a host or a test with an engine of its own. Clones
     /// have it too and call it in their threads. Takes effect at the next Open().
     void SetEngineFactory(TEngineFactory factory);
 
-    void Open();  ///< throws EADOError; an open connection stays as it is
-    void Close(); ///< rolls back an open transaction
-    bool Connected() const;
+    void Open();            ///< throws EADOError; an open connection stays as it is
+    void Close();           ///< rolls back an open transaction
+    bool Connected() const; ///< open, and not found dead since
     /// True after an error has told that the connection is dead. Nothing is reopened or repeated by itself.
     bool IsLost() const;
     /// Close() and Open(), on the user's word. A lost connection that cannot be opened stays a lost one.
@@ -45,6 +45,8 @@ public:
     /// Runs a statement to its end and returns the rows it wrote (-1 where the engine cannot tell).
     qint64 Execute(const QString& text, const QVariantList& parameters = {});
 
+    /// Transactions do not nest. Each of the three throws EADOError, of the kind WrongState where there is
+    /// one already, or none to end, or a result is still being read.
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans();
@@ -60,10 +62,10 @@ public:
     /// A database in memory is found again while one of the connections is open.
     std::unique_ptr<TADOConnection> Clone();
 
-    TWillExecuteEvent OnWillExecute;
+    TWillExecuteEvent OnWillExecute; ///< in the thread of the statement; null for none
 
 Q_SIGNALS:
-    void willExecute(const QString& text);
+    void willExecute(const QString& text); ///< with OnWillExecute
     /// The connection was found dead; `message` is the Persian sentence for the user.
     void connectionLost(const QString& message);
 
@@ -96,7 +98,7 @@ public:
     TTransaction(const TTransaction&) = delete;
     TTransaction& operator=(const TTransaction&) = delete;
     ~TTransaction();
-    void Commit();
+    void Commit(); ///< at most once; throws EADOError, and the transaction is rolled back then
 
 private:
     QPointer<TADOConnection> connection_;

@@ -11,9 +11,10 @@
 class ADO_EXPORT TSqlText
 {
 public:
-    void Clear() { lines_.clear(); }
-    void Add(const QString& line) { lines_.append(line); }
-    void SetText(const QString& text) { lines_ = QStringList{text}; }
+    void Clear() { lines_.clear(); }                                  ///< no text
+    void Add(const QString& line) { lines_.append(line); }            ///< one more line at the end
+    void SetText(const QString& text) { lines_ = QStringList{text}; } ///< in place of all lines
+    /// The statement as it is sent.
     QString Text() const { return lines_.size() == 1 ? lines_.front() : lines_.join(QStringLiteral("\r\n")); }
 
 private:
@@ -34,10 +35,10 @@ public:
     explicit TADOQuery(QObject* parent = nullptr);
     ~TADOQuery() override;
 
-    void SetConnection(TADOConnection* connection);
+    void SetConnection(TADOConnection* connection); ///< not owned; null for none
     TADOConnection* Connection() const;
 
-    TSqlText SQL;
+    TSqlText SQL;            ///< one T-SQL statement; a change takes effect at the next opening
     QVariantList Parameters; ///< values of the text's `?` marks
 
     bool Active() const override;
@@ -74,9 +75,9 @@ public:
     /// it is handed. Null shows all. Takes effect at once and keeps the current row where it stays visible.
     using TRowFilter = std::function<bool(const TADOQuery& query, int sourceRow)>;
     void SetRowFilter(TRowFilter filter);
-    QVariant SourceValue(int sourceRow, int index) const;
+    QVariant SourceValue(int sourceRow, int index) const; ///< of an unfiltered row, counted from 0
 
-    TNotifyEvent AfterOpen;
+    TNotifyEvent AfterOpen; ///< after each opening, the first row being the current one
 
 private:
     TADOConnection& LiveConnection() const;

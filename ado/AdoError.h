@@ -23,11 +23,12 @@ enum class TAdoErrorKind {
 class ADO_EXPORT EADOError : public std::runtime_error
 {
 public:
+    /// `message` is for the user, the rest for whoever looks after the program; see the getters.
     EADOError(TAdoErrorKind kind, const QString& message, const QString& statement = {},
               const QString& serverMessage = {}, const QString& state = {}, int code = 0);
     ~EADOError() override;
 
-    TAdoErrorKind Kind() const { return kind_; }
+    TAdoErrorKind Kind() const { return kind_; } ///< what a caller can act on
     /// One Persian sentence for the user: what is wrong and, where there is something, what to do.
     QString Message() const { return message_; }
     /// The statement as the caller wrote it; empty where no statement was running.

@@ -17,20 +17,21 @@ public:
     using QObject::QObject;
     ~TDataSet() override;
 
-    virtual bool Active() const = 0;
-    virtual void Open() = 0;
-    virtual void Close() = 0;
+    virtual bool Active() const = 0; ///< open
+    virtual void Open() = 0;         ///< throws EADOError; the first row becomes the current one
+    virtual void Close() = 0;        ///< an open one only; its fields go
     /// True when there is no row; waits for an answer that is still under way. A closed data set is empty.
     virtual bool IsEmpty() = 0;
-    virtual int RecordCount() = 0;
-    virtual int FieldCount() const = 0;
+    virtual int RecordCount() = 0;        ///< rows, as far as they are known
+    virtual int FieldCount() const = 0;   ///< 0 while closed
     virtual TField* Field(int index) = 0; ///< owned by the data set
     virtual TField*
     FindField(const QString& name) = 0;       ///< null when there is none; letter case does not matter
     TField* FieldByName(const QString& name); ///< throws EADOError(WrongState) when there is none
 
-    virtual bool Bof() const = 0;
-    virtual bool Eof() const = 0;
+    virtual bool Bof() const = 0; ///< before the first row, or without rows
+    virtual bool Eof() const = 0; ///< behind the last row, or without rows
+    /// Each of the moves announces scrolled where it comes to another row.
     virtual void First() = 0;
     virtual void Prior() = 0;
     virtual void Next() = 0;
@@ -46,7 +47,7 @@ public:
     /// While disabled (calls nest) nothing is announced to controls; EnableControls announces once.
     void DisableControls();
     void EnableControls();
-    bool ControlsDisabled() const;
+    bool ControlsDisabled() const; ///< by a DisableControls without its EnableControls
 
 Q_SIGNALS:
     void dataChanged(); ///< rows or fields are others than before: opened, closed, requeried, filtered

@@ -27,6 +27,8 @@ public:
     virtual const QVector<TColumnInfo>& Columns() const = 0;
     /// Moves to the next row; false behind the last one. Before the first call there is no current row.
     virtual bool Next() = 0;
+    /// The values of a column in the current row, converted where its type is another one; NULL reads as 0,
+    /// as empty text or as no bytes.
     virtual bool IsNull(int column) = 0;
     virtual qint64 Int64(int column) = 0;
     virtual double Double(int column) = 0;
@@ -60,12 +62,12 @@ public:
     IEngine() = default;
     IEngine(const IEngine&) = delete;
     IEngine& operator=(const IEngine&) = delete;
-    virtual ~IEngine();
+    virtual ~IEngine(); ///< closes the connection; an open transaction is rolled back
 
     /// Runs a T-SQL text. `parameters` fill its `?` marks in order: QString, QByteArray, bool, int, qint64,
     /// double, or an invalid variant for NULL. Throws EADOError.
     virtual std::unique_ptr<IEngineRows> Execute(const QString& text, const QVariantList& parameters) = 0;
-    virtual void Begin() = 0;
+    virtual void Begin() = 0; ///< throws EADOError; transactions do not nest
     virtual void Commit() = 0;
     virtual void Rollback() = 0;
     virtual bool InTransaction() const = 0;
@@ -81,17 +83,19 @@ public:
 /// How a connection string opens: `sqlite:FILE`, `sqlite::memory:` or `odbc:CONNECTION STRING`.
 struct TEngineOptions
 {
-    bool ReadOnly = false;
+    bool ReadOnly = false;      ///< writes are refused by the engine
     bool CreateMissing = false; ///< embedded engine only: create the file when there is none
     int BusyTimeout = 5000;     ///< milliseconds to wait for another user's lock
     int LoginTimeout = 15;      ///< seconds; ODBC only
 };
 
+/// Opens an engine; throws EADOError where it cannot.
 using TEngineFactory =
     std::function<std::unique_ptr<IEngine>(const QString& connectionString, const TEngineOptions& options)>;
 
 /// Opens the engine that the string's prefix names. Throws EADOError (CannotOpen, NotADatabase, Busy).
 ADO_EXPORT std::unique_ptr<IEngine> OpenEngine(const QString& connectionString,
                                                const TEngineOptions& options);
+/// The engines that OpenEngine chooses from; the strings come without the prefix.
 std::unique_ptr<IEngine> OpenSqliteEngine(const QString& file, const TEngineOptions& options);
 std::unique_ptr<IEngine> OpenOdbcEngine(const QString& connectionString, const TEngineOptions& options);

@@ -23,7 +23,7 @@ enum class TFieldType {
 /// A result column as the engine describes it.
 struct TColumnInfo
 {
-    QString Name;
-    TFieldType Type = TFieldType::ftUnknown;
+    QString Name;                            ///< as the statement names it
+    TFieldType Type = TFieldType::ftUnknown; ///< ftUnknown where the engine cannot tell
     int Size = 0; ///< declared length in characters or bytes; 0 when unbounded or unknown
 };

@@ -38,7 +38,7 @@ public:
     /// Orders by one of the source's fields; an empty name orders by the key. Throws EADOError(WrongState)
     /// for another.
     void SetOrder(const QString& field, Qt::SortOrder order);
-    QString OrderField() const;
+    QString OrderField() const; ///< never empty once there is a source
     Qt::SortOrder Order() const;
     /// Reads again, keeping condition and order. The current row stays on its key where that still exists,
     /// else on the row that has taken its place. Also opens a lost connection again.
@@ -50,8 +50,8 @@ public:
     /// The number of rows that answer a condition; nothing happens when it is no longer the one that was
     /// asked for.
     void GiveCount(const QString& condition, int count);
-    bool CountIsExact() const;
-    bool Busy() const; ///< a page or the count is under way
+    bool CountIsExact() const; ///< false while rows are still being counted
+    bool Busy() const;         ///< a page or the count is under way
     /// Waits until the first page of the newest condition is here; false when it has not come after
     /// `milliseconds` and when its statement failed. Handles no events meanwhile.
     bool WaitForFirstPage(int milliseconds = 30000);
@@ -82,9 +82,9 @@ public:
     QVariant ValueAt(int row, int index) const override; ///< asks for the row's page when it is not here
 
 Q_SIGNALS:
-    void rowsArrived(int first, int last);
-    void countChanged(int count, bool exact);
-    void busyChanged(bool busy);
+    void rowsArrived(int first, int last); ///< numbers of rows, counted from 0, whose values can be read now
+    void countChanged(int count, bool exact); ///< of the rows known so far; `exact` when it is all of them
+    void busyChanged(bool busy);              ///< with Busy()
     /// A statement failed; the list keeps what it has. The handler of the application shows it.
     void failed(const QString& message, const QString& serverMessage);
 

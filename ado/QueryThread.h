@@ -26,7 +26,9 @@ public:
     /// Abandons the work and waits until the thread has ended.
     ~TQueryThread() override;
 
+    /// Gives the thread a task; returns at once.
     void Begin(TTask task);
+    /// Drops the task that waits or is at work, and its answer; returns at once.
     void Abandon();
     /// A task is waiting or at work, or its answer has not been taken.
     bool IsBusy() const { return busy_; }

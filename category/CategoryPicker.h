@@ -27,7 +27,7 @@ public:
     /// The controls and the query are the frame's own; `onItemClick` is the handler of every menu item.
     TCategoryPicker(TAdvListEditorPer& editor, TPopupMenu& menu, TADOQuery& query, TNotifyEvent onItemClick);
 
-    const TCategoryTree& Tree() const { return tree_; }
+    const TCategoryTree& Tree() const { return tree_; } ///< on the frame's query
 
     /// The menu of the top level.
     void Runfirst() { createmenuItemByCode(0); }

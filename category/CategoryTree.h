@@ -11,9 +11,9 @@ class TADOQuery;
 /// One category as the statements deliver it. Id 0 is no category: it stands for the root.
 struct TCategoryRow
 {
-    int Id = 0;
+    int Id = 0;       ///< above 0 for a category
     int ParentId = 0; ///< 0 or less at the top level
-    QString Name;
+    QString Name;     ///< as the user knows it
 };
 Q_DECLARE_TYPEINFO(TCategoryRow, Q_RELOCATABLE_TYPE);
 
@@ -21,7 +21,7 @@ Q_DECLARE_TYPEINFO(TCategoryRow, Q_RELOCATABLE_TYPE);
 struct TCategoryBubble
 {
     QString Name;
-    QString Id;
+    QString Id; ///< decimal digits
     int ParentId = 0;
 };
 

@@ -48,6 +48,7 @@ public:
     /// with a comma, whose bubbles hold other texts.
     int ChosenCategory() const { return picker_->ChosenId().toInt(); }
 
+    /// What TCategoryPicker and TCategoryTree do under the same names.
     void Runfirst() { picker_->Runfirst(); }
     void createmenuItemByCode(int code) { picker_->createmenuItemByCode(code); }
     void create_bubble(int code, quint8 mode) { picker_->create_bubble(code, mode); }
@@ -62,6 +63,7 @@ public:
     void POP_click(QObject* Sender);
     /// Opens the menu at the mouse pointer.
     void select_BTNClick(QObject* Sender) const;
+    /// The handler of the editor, for owners that put their own in front of it.
     void EditorKeyDown(QObject* Sender, quint16& Key, Qt::KeyboardModifiers Shift) const;
 
     TAdvListEditorPer* Editor = nullptr;

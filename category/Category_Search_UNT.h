@@ -34,6 +34,7 @@ public:
     /// with a comma, whose bubbles hold other texts.
     int ChosenCategory() const { return picker_->ChosenId().toInt(); }
 
+    /// What TCategoryPicker and TCategoryTree do under the same names.
     void Runfirst() { picker_->Runfirst(); }
     void createmenuItemByCode(int code) { picker_->createmenuItemByCode(code); }
     void create_bubble(int code, quint8 mode) { picker_->create_bubble(code, mode); }

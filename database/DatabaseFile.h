@@ -10,8 +10,8 @@ class TADOConnection;
 /// How OpenDatabase makes a database that is not there yet.
 struct DATABASE_EXPORT TDatabaseOptions
 {
-    bool CreateMissing = true;
-    TSampleSize Size = TSampleSize::Normal();
+    bool CreateMissing = true;                ///< otherwise a missing file is refused
+    TSampleSize Size = TSampleSize::Normal(); ///< of what a new database is filled with
     TProgressHandler Progress; ///< may be called for as long as another program makes the same file
 };
 

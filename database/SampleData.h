@@ -10,11 +10,11 @@ class TADOConnection;
 /// How much sample data is made. The n-th goods item or person is the same in every size.
 struct DATABASE_EXPORT TSampleSize
 {
-    int Goods = 2000;
-    int Persons = 500;
-    int VouchersPerYear = 400;
-    int FiscalYears = 4;      ///< 1 to 4, the first one is 1402
-    int PicturedRecords = 40; ///< goods and persons, each, that have pictures
+    int Goods = 2000;          ///< items
+    int Persons = 500;         ///< records
+    int VouchersPerYear = 400; ///< in each fiscal year, about
+    int FiscalYears = 4;       ///< 1 to 4, the first one is 1402
+    int PicturedRecords = 40;  ///< goods and persons, each, that have pictures
 
     static TSampleSize Small();  ///< for tests: made in a blink
     static TSampleSize Normal(); ///< a shop; what a missing database is filled with

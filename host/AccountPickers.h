@@ -18,6 +18,7 @@ public:
     /// Both must outlive the pickers.
     TAccountPickers(TADOConnection& connection, THostSettings& settings);
 
+    /// As IPickers says it, the three below too.
     THCSelectedCode Select_AccountCodes(TSelectGroups groups, const QString& total, const QString& assistant,
                                         const QString& detail, quint8 focusLevel);
     /// Throws EADOError(WrongState) where `groups` holds anything else than numbers between commas.

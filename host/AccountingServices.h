@@ -31,7 +31,7 @@ public:
                                int number) override;
     void VoucherConflictThread_Start(QWidget* control) override;
 
-    TVoucherConflictCheck& ConflictCheck() { return conflictCheck_; }
+    TVoucherConflictCheck& ConflictCheck() { return conflictCheck_; } ///< in the background; belongs to this
 
 private:
     TADOConnection* connection_;

@@ -17,9 +17,9 @@ class TADOConnection;
 /// Who holds a code.
 struct TCodeHolder
 {
-    int UserCode = 0;
-    QString UserName;
-    QString Machine;
+    int UserCode = 0;  ///< 0 where nobody is signed in
+    QString UserName;  ///< as messages call him
+    QString Machine;   ///< the name of his computer
     QDateTime TakenAt; ///< UTC, by the database server's clock
 };
 
@@ -54,7 +54,7 @@ public:
     bool Renew(const QString& code, TSoftwarePart part);
     /// False where this run does not hold the code.
     bool Release(const QString& code, TSoftwarePart part);
-    void ReleaseAll();
+    void ReleaseAll(); ///< what this run holds
 
     /// Seconds from the last renewal of a hold to its end, for what is taken and renewed from now on. 0 and
     /// below mean DefaultLifetime, more than LongestLifetime means that.

@@ -13,8 +13,8 @@ class TADOConnection;
 /// What is shown of an error: a sentence for the user, and technical words behind a button.
 struct TErrorReport
 {
-    QString Text;
-    QString Details = {};
+    QString Text;                     ///< empty where there is nothing to show
+    QString Details = {};             ///< empty where there are none
     bool ConnectionLost = false;      ///< the connection is dead; the user may have it opened again
     std::function<void()> Retry = {}; ///< what "try again" does; the box offers it where there is something
 };
@@ -28,6 +28,7 @@ class HOST_EXPORT THostApplication : public QApplication
     Q_OBJECT
 
 public:
+    /// As QApplication: both must outlive the application.
     THostApplication(int& argumentCount, char** arguments);
     ~THostApplication() override;
 
@@ -46,7 +47,7 @@ public:
     void SetErrorDisplay(TDisplay display);
 
 Q_SIGNALS:
-    void connectionReopened();
+    void connectionReopened(); ///< the user had the lost connection opened again
 
 private:
     void Enqueue(const TErrorReport& report, bool byUser);

@@ -13,6 +13,7 @@ public:
     /// An empty name means DefaultFileName(). A file that does not exist yet is created at the first change.
     explicit THostSettings(const QString& fileName = {});
 
+    /// The file in the user's configuration folder.
     static QString DefaultFileName();
     /// False where the file is there but cannot be read as settings. The defaults are in force then, and the
     /// file stays as it is: changes last as long as the program runs.
@@ -22,8 +23,8 @@ public:
     const TIniOptions& IniOptions() const override { return options_; }
     const TUserInfo& UserInfo() const override { return user_; }
 
-    void SetGregorian(bool gregorian);
-    void SetIniOptions(const TIniOptions& options);
+    void SetGregorian(bool gregorian);              ///< the calendar of dates on the screen
+    void SetIniOptions(const TIniOptions& options); ///< written into the file
     /// Signs a user in, for this run of the program.
     void SetUserInfo(const TUserInfo& user) { user_ = user; }
 

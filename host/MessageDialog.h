@@ -14,8 +14,8 @@ class QVBoxLayout;
 /// A button of a message box and what Ask() returns for it, above 0.
 struct TDialogButton
 {
-    QString Caption;
-    int Result = 0;
+    QString Caption; ///< may mark its key by an ampersand
+    int Result = 0;  ///< what Ask() returns for it
 };
 
 /// Right-to-left message box with Persian buttons, the first at the right. Enter presses the default button,
@@ -25,19 +25,22 @@ class HOST_EXPORT TMessageDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Which sign stands beside the text.
     enum class TKind { Information, Warning, Error, Question };
 
+    /// `buttons` is not empty; the box stands over `parent`, or alone.
     TMessageDialog(TKind kind, const QString& text, QVector<TDialogButton> buttons, QWidget* parent);
     ~TMessageDialog() override;
 
-    QString Text() const { return text_; }
-    void SetDefaultButton(int index);
+    QString Text() const { return text_; } ///< as it was given
+    void SetDefaultButton(int index);      ///< counted from 0; without such a button nothing happens
     /// Technical words for whoever looks after the program, left to right, hidden until the user asks for
     /// them.
     void SetDetails(const QString& details);
     /// Shows the box, waits for the answer and returns the Result of its button.
     int Ask();
 
+    /// The usual buttons, with the numbers of TMessageResult.
     static TDialogButton OkButton();
     static TDialogButton YesButton();
     static TDialogButton NoButton();

@@ -23,6 +23,7 @@ public:
     TReferenceHost& operator=(const TReferenceHost&) = delete;
     ~TReferenceHost();
 
+    /// The host's own parts, for the application. All live as long as the host.
     THostSettings& Settings() { return *settings_; }
     const THostSettings& Settings() const { return *settings_; }
     TADOConnection& Connection() { return *dataModule_.ADOConnection1(); }

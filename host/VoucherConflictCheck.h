@@ -25,6 +25,7 @@ public:
     /// Checks, and afterwards shows or hides the control by the result. A control that has been destroyed
     /// meanwhile is forgotten; one whose check has failed stays as it is.
     void Start(QWidget* control);
+    /// A check is waiting or at work.
     bool IsBusy() const { return thread_ != nullptr && thread_->IsBusy(); }
 
 Q_SIGNALS:

@@ -22,23 +22,26 @@ class TSelectGroups
 {
 public:
     constexpr TSelectGroups() = default;
-    constexpr explicit TSelectGroups(quint32 bits) : bits_(bits) {}
+    constexpr explicit TSelectGroups(quint32 bits) : bits_(bits) {} ///< one bit per ordinal
+    /// Adds a kind; returns the set.
     constexpr TSelectGroups& Include(THCSelectGroups kind)
     {
         bits_ |= 1U << static_cast<unsigned>(kind);
         return *this;
     }
+    /// Takes a kind out; returns the set.
     constexpr TSelectGroups& Exclude(THCSelectGroups kind)
     {
         bits_ &= ~(1U << static_cast<unsigned>(kind));
         return *this;
     }
+    /// Whether the kind itself is in the set.
     constexpr bool Contains(THCSelectGroups kind) const
     {
         return (bits_ & 1U << static_cast<unsigned>(kind)) != 0;
     }
-    constexpr bool IsEmpty() const { return bits_ == 0; }
-    constexpr quint32 Bits() const { return bits_; }
+    constexpr bool IsEmpty() const { return bits_ == 0; } ///< lets every group through
+    constexpr quint32 Bits() const { return bits_; }      ///< one bit per ordinal
     friend constexpr bool operator==(TSelectGroups first, TSelectGroups second) = default;
 
 private:
@@ -49,9 +52,9 @@ private:
 /// means that the user cancelled.
 struct THCSelectedCode
 {
-    int Total = 0;
-    int Assistant = 0;
-    int Detail = 0;
+    int Total = 0;     ///< of the total account
+    int Assistant = 0; ///< of the assistant account
+    int Detail = 0;    ///< of the detail account
 };
 
 /// A property of a total account; a set of them is what AccTotals.Properties stores.

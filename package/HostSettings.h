@@ -8,9 +8,9 @@
 /// place.
 struct TSettingRecord
 {
-    static constexpr int Size = 64;
+    static constexpr int Size = 64; ///< bytes of the record
 
-    std::array<quint8, Size> Bytes{};
+    std::array<quint8, Size> Bytes{}; ///< the record as the host keeps it
 
     /// The value 4 of the twelfth byte: set means that dates are Gregorian, clear that they are Persian.
     bool IsGregorian() const { return (Bytes[CalendarByte] & CalendarBit) != 0; }
@@ -36,7 +36,7 @@ struct TIniOptions
 struct TUserInfo
 {
     int Code = 0; ///< 0 where nobody is signed in; statements then find nothing
-    QString Name;
+    QString Name; ///< as messages call him
 };
 
 /// What the host knows about the installation and its user. Frames ask afresh each time and keep nothing.
@@ -45,7 +45,7 @@ class ISettings
 public:
     virtual ~ISettings() = default;
 
-    virtual const TSettingRecord& SettingRecord() const = 0;
-    virtual const TIniOptions& IniOptions() const = 0;
-    virtual const TUserInfo& UserInfo() const = 0;
+    virtual const TSettingRecord& SettingRecord() const = 0; ///< settings of the installation
+    virtual const TIniOptions& IniOptions() const = 0;       ///< options of the option file
+    virtual const TUserInfo& UserInfo() const = 0;           ///< who is signed in now
 };

@@ -45,9 +45,9 @@ struct BASEFRAME_EXPORT TSearchItem
     QString FoldedName; ///< column that keeps FiledName already folded (PersianText::Fold), empty where there
                         ///< is none
     TSearchDataType DataType = TSearchDataType::idtString;
-    TSearchFilterType FilterType = TSearchFilterType::iftDataset;
-    TSearchItemResult ItemResult = TSearchItemResult::irSQL;
-    int MaxLength = 0;  ///< longest value; 0 means no limit
+    TSearchFilterType FilterType = TSearchFilterType::iftDataset; ///< where the condition goes
+    TSearchItemResult ItemResult = TSearchItemResult::irSQL;      ///< what becomes of the condition
+    int MaxLength = 0;                                            ///< longest value; 0 means no limit
     QVariant ItemValue; ///< fixed value that comes with the item (an entity kind, a tab's state)
     /// Says the condition in the owner's words, where codes have names that the manager does not know. An
     /// empty answer leaves it to the manager's own words, as does a value that does not fit the item.
@@ -58,8 +58,8 @@ struct BASEFRAME_EXPORT TSearchItem
 class BASEFRAME_EXPORT TSearchCollection
 {
 public:
-    TSearchItem& Add(const TSearchItem& item = {});
-    void Clear();
+    TSearchItem& Add(const TSearchItem& item = {}); ///< at the end; stays valid until Clear()
+    void Clear();                                   ///< takes all items out
     int Count() const;
     /// Throws std::out_of_range for an index outside the collection.
     TSearchItem& GetItem(int index);
@@ -82,20 +82,23 @@ public:
     explicit TTarvaSearch(QObject* parent = nullptr);
     ~TTarvaSearch() override;
 
+    /// Whether the criterion filters. False at first.
     bool Active() const { return active_; }
     void SetActive(bool active);
+    /// Whether the condition is negated. False at first.
     bool Reverst() const { return reverst_; }
     void SetReverst(bool reverst);
+    /// How the values are compared: one value, a range of a kind, a tab. stGeneral at first.
     TSearchType SearchTypes() const { return searchTypes_; }
     void SetSearchTypes(TSearchType type);
-    TSearchCollection SearchItems;
+    TSearchCollection SearchItems; ///< filled by the owner; changes raise nothing
     /// -1 for none. An index outside the items is kept and means none until there is such an item.
     int ItemIndex() const { return itemIndex_; }
     void SetItemIndex(int index);
     /// The item in force; null where ItemIndex names none.
     const TSearchItem* CurrentItem() const;
-    QVariant Value1() const { return value1_; }
-    QVariant Value2() const { return value2_; }
+    QVariant Value1() const { return value1_; } ///< the value, or the lower bound of a range
+    QVariant Value2() const { return value2_; } ///< the upper bound of a range
     /// Null (invalid) and empty text mean no value.
     void SetValue1(const QVariant& value);
     void SetValue2(const QVariant& value);
@@ -113,14 +116,14 @@ public:
     QWidget* FollowControl() const { return followControl_; }
     void SetFollowControl(QWidget* control);
 
-    TNotifyEvent OnChange;
-    TNotifyEvent OnChangeItemIndex;
+    TNotifyEvent OnChange;          ///< Value1 or Value2 is another one
+    TNotifyEvent OnChangeItemIndex; ///< ItemIndex is another one
 
 Q_SIGNALS:
-    void activeChanged(bool active);
-    void reverstChanged(bool reverst);
-    void changed();
-    void itemIndexChanged(int index);
+    void activeChanged(bool active);   ///< no handler goes with it
+    void reverstChanged(bool reverst); ///< no handler goes with it
+    void changed();                    ///< at the moments of OnChange
+    void itemIndexChanged(int index);  ///< at the moments of OnChangeItemIndex
 
 private:
     void RaiseChange();

@@ -24,8 +24,8 @@ public:
     explicit TTarvaSearchManager(QObject* parent = nullptr);
     ~TTarvaSearchManager() override;
 
-    void Add(TTarvaSearch* criterion); ///< not owned; a destroyed criterion leaves by itself
-    void Remove(TTarvaSearch* criterion);
+    void Add(TTarvaSearch* criterion);    ///< not owned; a destroyed criterion leaves by itself
+    void Remove(TTarvaSearch* criterion); ///< one that was not added is left alone
 
     /// The data set that is filtered; not owned. A paged list gets the whole condition in its statements; a
     /// client cursor gets iftQuery items through `conditionChanged` (its owner writes the statement) and the

@@ -17,9 +17,11 @@ constexpr std::array<qint32, 7> DAYNUMM = {2, 3, 4, 5, 6, 7, 1};
 class BASEFRAME_EXPORT TDatePeriods
 {
 public:
+    /// `gregorian` chooses the calendar of the periods and of their texts.
     TDatePeriods(const QDate& today, bool gregorian) : today_(today), gregorian_(gregorian) {}
 
-    QString Today() const { return TextOf(today_); }
+    QString Today() const { return TextOf(today_); } ///< the day itself
+    /// A day so many days earlier.
     QString DaysBefore(int days) const { return TextOf(today_.addDays(-days)); }
     /// The first day of the month. A week begins the day before its first day: for the Persian week that is
     /// the Friday before, for the Gregorian week the Saturday before.

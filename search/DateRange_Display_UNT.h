@@ -26,13 +26,13 @@ public:
     void RangeDate_CMBChange(QObject* Sender) const;
     /// Writes the bounds of the chosen period into the criterion.
     void SetRangeValue() const;
-    QString getToday() const;
+    QString getToday() const; ///< as text in the calendar of the host, as all days here
     /// Today less `days`.
     QString decDay(int days) const;
     /// The start of the current month or week.
     QString GetCurrentTime(currentTime kind) const;
-    QString GetEndmonth() const;
-    QString GetEndWeek() const;
+    QString GetEndmonth() const; ///< the last day of the current month
+    QString GetEndWeek() const;  ///< the last day of the current week
     /// The condition without a part of it.
     QString DeleteSubCondition(const QString& condition, const QString& subCondition) const;
 

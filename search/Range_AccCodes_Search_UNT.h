@@ -29,6 +29,7 @@ public:
     /// Empties both codes and opens all bounds.
     void Clear();
 
+    /// The levels that the filter shows; init() follows a change.
     TCodeItems CodeItems() const { return FCodeItems; }
     void SetCodeItems(TCodeItems levels);
     int CodeItemBits() const { return FCodeItems.Bits(); }

@@ -21,12 +21,12 @@ public:
     TAccountChart(IDataModule& dataModule, IAccounting& accounting);
 
     // A negative code throws std::invalid_argument before anything is sent.
-    int GetTotalDetailType(int total) const;
-    int GetTotalNatureType(int total) const;
-    int GetTotalGroupType(int total) const;
+    int GetTotalDetailType(int total) const; ///< what AccTotals.DetailType stores
+    int GetTotalNatureType(int total) const; ///< what AccTotals.Nature stores
+    int GetTotalGroupType(int total) const;  ///< what AccGroups.Type stores for the account
     /// The kind of the group of a total account; `fallback` where `total` is 0.
     THCSelectGroups GetGroupType(int total, THCSelectGroups fallback) const;
-    TPropertiesItems GetSelectCodeProperties(int total) const;
+    TPropertiesItems GetSelectCodeProperties(int total) const; ///< what AccTotals.Properties stores
     /// The currency of a detail account; 1, the base currency, where it has none or `code` has no detail.
     int GetCurrCode(const THCSelectedCode& code) const;
     /// The title of an expense center; empty, without asking, where `code` is not made of ASCII digits only.

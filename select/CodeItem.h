@@ -11,6 +11,7 @@ class TCodeItems
 {
 public:
     constexpr TCodeItems() = default;
+    /// In any order.
     constexpr TCodeItems(std::initializer_list<TCodeItem> levels)
     {
         for (const TCodeItem level : levels)
@@ -24,10 +25,11 @@ public:
         return items;
     }
 
+    /// Whether the level is in the set.
     constexpr bool Contains(TCodeItem level) const { return (bits_ & Bit(level)) != 0; }
     constexpr bool ContainsAccount() const { return (bits_ & AccountBits) != 0; } ///< any of the first three
-    constexpr bool IsEmpty() const { return bits_ == 0; }
-    constexpr quint8 Bits() const { return bits_; }
+    constexpr bool IsEmpty() const { return bits_ == 0; }                         ///< no level
+    constexpr quint8 Bits() const { return bits_; }                               ///< 0 to 15
     friend constexpr bool operator==(TCodeItems first, TCodeItems second) = default;
 
 private:

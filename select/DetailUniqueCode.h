@@ -8,10 +8,11 @@
 /// The statements on the unique codes of detail accounts. Numbers are whole and stand in them bare.
 namespace DetailUniqueCode {
 
-BASEFRAME_EXPORT QString NextFree(TFloatingAccountsType kind);
-BASEFRAME_EXPORT QString Stored(TFloatingAccountsType kind, int detailCode);
+BASEFRAME_EXPORT QString NextFree(TFloatingAccountsType kind); ///< the next free number of the kind
+BASEFRAME_EXPORT QString Stored(TFloatingAccountsType kind, int detailCode); ///< the number of an account
 /// The accounts that have a unique code, of all kinds.
 BASEFRAME_EXPORT QString AccountsOf(int uniqueCode);
+/// Writes the number of an account that is there.
 BASEFRAME_EXPORT QString Save(TFloatingAccountsType kind, int detailCode, int uniqueCode);
 /// A row for every use of a detail account's unique code in posted data and in settings.
 BASEFRAME_EXPORT QString Uses(TFloatingAccountsType kind, int detailCode);
@@ -32,7 +33,7 @@ public:
     void Adopt(TFloatingAccountsType kind, int code);
     /// Does nothing where there is no number, or it is released already.
     void Release();
-    bool IsTaken() const { return taken_; }
+    bool IsTaken() const { return taken_; } ///< Take has got the number, and it is not released
 
 private:
     void Remember(TFloatingAccountsType kind, int code);

@@ -68,6 +68,7 @@ public:
     /// The name of the account as far as CodeItem shows it. `found` tells whether there is one.
     QString HesabName(bool& found) const;
 
+    /// The levels that the line shows; init() follows a change.
     TCodeItems CodeItem() const { return FCodeItem; }
     void SetCodeItem(TCodeItems levels);
     int CodeItemBits() const { return FCodeItem.Bits(); }
@@ -84,24 +85,26 @@ public:
     void SetSelectCodeProperties(TPropertiesItems properties); ///< kept for the owner
     TSelectGroups GroupTypeFilter() const { return FGroupTypeFilter; }
     void SetGroupTypeFilter(TSelectGroups groups); ///< which groups of accounts the pickers offer
+    /// The kind that GetGroupType answers without a total. sgNone at first.
     THCSelectGroups GroupType() const { return FGroupType; }
     void SetGroupType(THCSelectGroups group);
     bool AllowClear() const { return FAllowClear; }
     /// Whether the user has changed a level since the last exit, so that the next one empties what is below.
     void SetAllowClear(bool allow);
     TCodeItem ActiveItem() const { return FActiveItem; } ///< the level whose box last got the focus
-    void SetOnChange(TNotifyEvent handler);
+    void SetOnChange(TNotifyEvent handler);              ///< the same as writing the event
+    /// AsistantId; the name is written as it is on purpose.
     QString getAssitanId() const { return AsistantId; }
-    QString getDetailId() const { return DetailId; }
+    QString getDetailId() const { return DetailId; } ///< DetailId
 
     // The levels one by one, for frames that this one is part of.
-    TSmartEdit_TRV* BoxOf(TCodeItem level) const;
-    int CodeOf(TCodeItem level) const;
+    TSmartEdit_TRV* BoxOf(TCodeItem level) const; ///< never null
+    int CodeOf(TCodeItem level) const;            ///< 0 where nothing, or no number, stands in the box
     /// Writes a text into a box as it is; no exit runs.
     void WriteText(TCodeItem level, const QString& text);
     /// Shows the level's name where the box is empty.
     void RestorePlaceholder(TCodeItem level) const;
-    void RunExit(TCodeItem level, QObject* sender);
+    void RunExit(TCodeItem level, QObject* sender); ///< as if the user had left the box
 
     // The handlers of the controls, for owners that put their own in front of them.
     void TotalCode_EDTExit(QObject* sender);
@@ -113,8 +116,8 @@ public:
     void AccCodeSelect_PUMClick(QObject* sender);
     void ExpenseCenter_PUMClick(QObject* sender);
 
-    TNotifyEvent OnChange;
-    TNotifyEvent OnTotalCodeChanged;
+    TNotifyEvent OnChange;           ///< the exit of a level has run, or an account was picked
+    TNotifyEvent OnTotalCodeChanged; ///< the total account is another one; so the two below for their levels
     TNotifyEvent OnAssistantCodeChanged;
     TNotifyEvent OnDetailCodeChanged;
 

@@ -50,6 +50,7 @@ public:
     /// emptied. May destroy the frame, but not the control that is about to get the focus: an owner who
     /// closes the whole form here does it with deleteLater().
     TNotifyEvent OnCodeChanged;
+    /// The same as writing the event.
     void SetOnCodeChanged(TNotifyEvent handler) { OnCodeChanged = std::move(handler); }
 
     /// For the list of goods only: the host's parameters before the box's own.
@@ -59,7 +60,7 @@ public:
     TSmartLabel_TRV* Name_LBL = nullptr;
 
 Q_SIGNALS:
-    void codeChanged();
+    void codeChanged(); ///< with OnCodeChanged
 
 protected:
     bool event(QEvent* event) override;

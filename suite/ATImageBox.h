@@ -21,17 +21,17 @@ public:
     explicit TATImageBox(QWidget* parent = nullptr);
     ~TATImageBox() override;
 
-    const QImage& Picture() const { return picture_; }
+    const QImage& Picture() const { return picture_; } ///< null for none
     /// The next picture, null for none. It takes the place of the one before at the same zoom;
     /// UpdateImageInfo fits it.
     void SetPicture(const QImage& picture);
-    void Clear() { SetPicture({}); }
+    void Clear() { SetPicture({}); } ///< shows no picture
     /// Takes the measures of the picture anew and fits it to the area.
     void UpdateImageInfo();
 
     /// Whether the picture is fitted, and stays so when the area changes.
     bool IsFitted() const { return fitted_; }
-    void Fit();
+    void Fit(); ///< shows the whole picture as large as the area lets it
     /// Pixels of the widget per pixel of the picture; 1 where there is no picture.
     double Zoom() const { return zoom_; }
     /// Zooms so that what is shown at `anchor` stays there. Not further out than fitted.
@@ -42,7 +42,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void zoomChanged();
+    void zoomChanged(); ///< by the user or by code
 
 protected:
     bool event(QEvent* event) override;

@@ -173,7 +173,7 @@ public:
     /// The codes of the items as their owner has loaded them; the editor only carries them.
     QStringList SnapshotCodes;
 
-    TMouseDownEvent OnMouseDown;
+    TMouseDownEvent OnMouseDown; ///< see its type
     /// After a typed text has become an item. The text that the handler leaves in `Text` becomes the item's,
     /// unless the handler has changed the items.
     TValueEditDoneEvent OnValueEditDone;

@@ -9,8 +9,8 @@
 /// One item of a token editor, or one entry of its auto-completion.
 struct TAdvListValueItem
 {
-    QString DisplayText;
-    QString Value;
+    QString DisplayText; ///< what is shown
+    QString Value;       ///< what the owner knows it by; usually a code
     /// Index into the editor's pictures; -1 and every index without a picture show none, so that an owner
     /// without pictures may keep a number of its own here.
     int ImageIndex = -1;
@@ -32,12 +32,12 @@ public:
     TAdvListValues() = default;
     /// A copy has the items, not the observer.
     TAdvListValues(const TAdvListValues& other) : items_(other.items_) {}
-    TAdvListValues& operator=(const TAdvListValues& other);
+    TAdvListValues& operator=(const TAdvListValues& other); ///< the observer stays and is told
     ~TAdvListValues() = default;
 
     int Count() const { return static_cast<int>(items_.size()); }
-    bool IsEmpty() const { return items_.isEmpty(); }
-    const TAdvListValueItem& operator[](int index) const { return GetItem(index); }
+    bool IsEmpty() const { return items_.isEmpty(); }                               ///< without items
+    const TAdvListValueItem& operator[](int index) const { return GetItem(index); } ///< counted from 0
     const TAdvListValueItem& GetItem(int index) const;
     /// The last item; an empty one where there is none.
     const TAdvListValueItem& Last() const;
@@ -47,12 +47,13 @@ public:
     void AddPair(const QString& displayText, const QString& value, int imageIndex = -1);
     /// Adds an item before the one at `index`; behind all at Count().
     void Insert(int index, const TAdvListValueItem& item);
-    void Clear();
-    void Delete(int index);
+    void Clear();           ///< removes all items
+    void Delete(int index); ///< removes one item
     /// Removes the items from `first` to before `last`.
     void DeleteRange(int first, int last);
     /// Takes the item out and puts it where it then has the index `to`.
     void Move(int from, int to);
+    /// Each changes one part of an item.
     void SetDisplayText(int index, const QString& text);
     void SetValue(int index, const QString& value);
     void SetImageIndex(int index, int imageIndex);

@@ -52,11 +52,11 @@ using TKeyPressEvent = std::function<void(QObject* Sender, QChar& Key)>;
 /// control to control: a window that is switched, a popup or a menu that opens raises neither.
 struct SUITE_EXPORT TControlEvents
 {
-    TNotifyEvent OnEnter;
-    TNotifyEvent OnExit;
-    TKeyEvent OnKeyDown;
-    TKeyEvent OnKeyUp;
-    TKeyPressEvent OnKeyPress;
+    TNotifyEvent OnEnter;      ///< the control has got the focus
+    TNotifyEvent OnExit;       ///< the control has lost the focus to another one
+    TKeyEvent OnKeyDown;       ///< before the control handles the key
+    TKeyEvent OnKeyUp;         ///< after the control has handled the key
+    TKeyPressEvent OnKeyPress; ///< between them, for keys that make a character
 };
 
 /// Virtual key code of a Qt key event, keypad keys apart from the main row; 0 where there is none.

@@ -8,9 +8,9 @@
 /// Year, month and day as numbers, not yet known to be a day of any calendar.
 struct TDateNumbers
 {
-    int Year = 0;
-    int Month = 0;
-    int Day = 0;
+    int Year = 0;  ///< as it is written
+    int Month = 0; ///< counted from 1
+    int Day = 0;   ///< counted from 1
     friend bool operator==(const TDateNumbers&, const TDateNumbers&) = default;
 };
 

@@ -15,7 +15,7 @@ public:
     explicit TExpandHeader(QWidget* parent = nullptr);
     ~TExpandHeader() override;
 
-    bool IsExpanded() const { return expanded_; }
+    bool IsExpanded() const { return expanded_; } ///< as it was last told by ShowState
     /// Only how the header looks and what it tells; the panel follows wanted().
     void ShowState(bool expanded, const QString& text);
 

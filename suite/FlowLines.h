@@ -9,14 +9,15 @@
 /// Rectangles one after the other in lines that break where the width ends, each in the middle of its line.
 struct SUITE_EXPORT TFlowLines
 {
-    int Width = 0; ///< of every line
-    int Spacing = 0;
-    int LineSpacing = 0;
+    int Width = 0;          ///< of every line
+    int Spacing = 0;        ///< pixels between the rectangles of a line
+    int LineSpacing = 0;    ///< pixels between lines
     bool FromRight = false; ///< lines begin at the right
 
+    /// A rectangle that is to be placed.
     struct TPiece
     {
-        QSize Size;
+        QSize Size;            ///< in pixels
         bool WithNext = false; ///< no line ends between this one and the next
     };
 

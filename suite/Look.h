@@ -15,7 +15,9 @@ class QRect;
 /// widget.
 namespace Look {
 
+/// The palette: that of the desktop, or one of the two whatever the desktop has.
 enum class TScheme { FollowSystem, Light, Dark };
+/// The shape in which the fonts draw the ASCII digits; texts keep them.
 enum class TDigits { Persian, Latin };
 
 /// Everything that has a colour of its own. Values in docs/look.md and in the palettes' test.
@@ -45,16 +47,16 @@ enum class TRole {
 SUITE_EXPORT void Install(QApplication& application, TScheme scheme = TScheme::FollowSystem,
                           TDigits digits = TDigits::Persian);
 SUITE_EXPORT void SetScheme(TScheme scheme); ///< takes effect at once
-SUITE_EXPORT bool IsDark();
-SUITE_EXPORT void SetDigits(TDigits digits);
-SUITE_EXPORT TDigits Digits();
+SUITE_EXPORT bool IsDark();                  ///< whether the dark palette is in force
+SUITE_EXPORT void SetDigits(TDigits digits); ///< takes effect at once
+SUITE_EXPORT TDigits Digits();               ///< in force
 
-SUITE_EXPORT QColor Color(TRole role);
-SUITE_EXPORT QColor ColorOf(TRole role, bool dark);
-SUITE_EXPORT QPalette Palette(bool dark);
-SUITE_EXPORT QFont BodyFont();  ///< 14 px
-SUITE_EXPORT QFont SmallFont(); ///< 13 px: grids and hints
-SUITE_EXPORT QFont BoldFont();  ///< 14 px bold: labels over a band
+SUITE_EXPORT QColor Color(TRole role);              ///< in the palette in force
+SUITE_EXPORT QColor ColorOf(TRole role, bool dark); ///< in either palette
+SUITE_EXPORT QPalette Palette(bool dark);           ///< of the whole application
+SUITE_EXPORT QFont BodyFont();                      ///< 14 px
+SUITE_EXPORT QFont SmallFont();                     ///< 13 px: grids and hints
+SUITE_EXPORT QFont BoldFont();                      ///< 14 px bold: labels over a band
 
 constexpr int Unit = 4; ///< everything is a multiple of it, in pixels at scale 1
 constexpr int ControlHeight = 28;

@@ -21,16 +21,16 @@ public:
     explicit TNxExpandPanel(QWidget* parent = nullptr);
     ~TNxExpandPanel() override;
 
-    QString CollapsedText() const { return collapsedText_; }
-    void SetCollapsedText(const QString& text); ///< of the header while the panel is closed
+    QString CollapsedText() const { return collapsedText_; } ///< beside the arrow while the panel is closed
+    void SetCollapsedText(const QString& text);              ///< of the header while the panel is closed
     QString ExpandedText() const { return expandedText_; }
-    void SetExpandedText(const QString& text);
-    bool Expanded() const { return expanded_; }
+    void SetExpandedText(const QString& text);  ///< of the header while the panel is open
+    bool Expanded() const { return expanded_; } ///< whether the body is shown
     /// Closed at first. The focus goes from a part that disappears to the header.
     void SetExpanded(bool expanded);
     QWidget* Body() const { return body_; }
-    void SetBody(QWidget* body); ///< a widget inside the panel; null for none
-    TExpandHeader* Header() const { return header_; }
+    void SetBody(QWidget* body);                      ///< a widget inside the panel; null for none
+    TExpandHeader* Header() const { return header_; } ///< never null
 
     TNotifyEvent OnExpandedChange; ///< by the user or by code
 
@@ -38,7 +38,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    void expandedChanged(bool expanded);
+    void expandedChanged(bool expanded); ///< with OnExpandedChange
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -29,6 +29,7 @@ public:
     TMenuItem* AddItem(const QString& caption, int tag = 0, int imageIndex = -1);
     /// Takes all items out; also from within the handler of one of them.
     void Clear();
+    /// Of all items, those that typing hides too.
     int Count() const { return static_cast<int>(items_.size()); }
     /// In the order of adding; throws std::out_of_range.
     TMenuItem* Item(int index) const;

@@ -20,6 +20,7 @@ class SUITE_EXPORT TSectionEdit : public QLineEdit, public TControlEvents
     Q_PROPERTY(bool CanTakeFocus READ CanTakeFocus WRITE SetCanTakeFocus)
 
 public:
+    /// The sections in the order in which they are typed, and the sign between them.
     TSectionEdit(const QList<TSectionText::TSection>& sections, QChar separator, QWidget* parent);
     ~TSectionEdit() override;
 
@@ -39,10 +40,10 @@ public:
     /// Shows a text; one that makes no value is shown too, marked as wrong. Raises OnChange where the text
     /// differs; OnEditValueChange is for what the user changes.
     virtual void SetText(const QString& text);
-    void SetEnabled(bool enabled) { setEnabled(enabled); }
+    void SetEnabled(bool enabled) { setEnabled(enabled); } ///< a disabled edit shows its text in grey
     /// Shows the edit as wrong, with a balloon of one sentence, until the user types.
     void ShowError(const QString& sentence);
-    bool HasError() const { return error_; }
+    bool HasError() const { return error_; } ///< shown as wrong, by ShowError or by its own text
 
     /// On every change of Text(), by the user or by code.
     TNotifyEvent OnChange;
@@ -51,7 +52,7 @@ public:
     TNotifyEvent OnEditValueChange;
 
 Q_SIGNALS:
-    void editValueChanged();
+    void editValueChanged(); ///< with OnEditValueChange
 
 protected:
     /// What a complete text means; empty where it means nothing.

@@ -12,35 +12,41 @@
 class SUITE_EXPORT TSectionText
 {
 public:
+    /// One of the numbers.
     struct TSection
     {
-        int Digits = 2;
-        int Least = 0;
-        int Most = 0;
+        int Digits = 2;             ///< of the number when it is complete
+        int Least = 0;              ///< the smallest number that is taken
+        int Most = 0;               ///< the greatest number that is taken
         QString Refusal;            ///< the sentence that says what the section takes
         bool TakesExtremes = false; ///< zeros only and nines only are taken too, as open bounds begin
     };
 
+    /// Empty, with the sections in the order in which they are typed.
     TSectionText(const QList<TSection>& sections, QChar separator);
 
     /// Completes a section that the user leaves with too few digits; by zeros in front where none is set.
     using TCompletion = std::function<QString(qsizetype section, const QString& digits)>;
     void SetCompletion(TCompletion completion) { completion_ = std::move(completion); }
+    /// Other limits for a section, for what is typed from now on.
     void SetLimits(qsizetype section, int least, int most, const QString& refusal);
 
-    QString Text() const;
+    QString Text() const; ///< as far as it is typed, in ASCII digits with separators
     /// Text() as it is once every section is completed.
     QString Settled() const;
-    qsizetype MaxLength() const;
-    bool IsEmpty() const { return now_.foreign.isEmpty() && Join(now_).isEmpty(); }
+    qsizetype MaxLength() const;                                                    ///< of a complete text
+    bool IsEmpty() const { return now_.foreign.isEmpty() && Join(now_).isEmpty(); } ///< nothing is typed
     /// Every section has all its digits.
     bool IsComplete() const;
 
+    /// Place in Text(), as all places here.
     qsizetype Caret() const { return PositionOf(now_.section, now_.offset); }
-    void Select(qsizetype anchor, qsizetype caret);
+    void Select(qsizetype anchor, qsizetype caret); ///< the same place twice selects nothing
     /// The section that the selection or the caret stands in; the last one where everything is selected.
     qsizetype CurrentSection() const;
+    /// The place before its first digit.
     qsizetype SectionStart(qsizetype section) const { return PositionOf(section, 0); }
+    /// Digits that are typed of it.
     qsizetype SectionLength(qsizetype section) const { return now_.digits.at(section).size(); }
 
     /// Each of these answers whether anything changed, the caret included. Refusal() tells why a digit was
@@ -52,8 +58,8 @@ public:
     bool DeleteSelection();
     bool Undo();
     bool Redo();
-    bool CanUndo() const { return !undo_.isEmpty(); }
-    bool CanRedo() const { return !redo_.isEmpty(); }
+    bool CanUndo() const { return !undo_.isEmpty(); } ///< whether Undo() would change anything
+    bool CanRedo() const { return !redo_.isEmpty(); } ///< whether Redo() would change anything
     /// Completes what is half typed.
     bool Settle();
     const QString& Refusal() const { return refusal_; }

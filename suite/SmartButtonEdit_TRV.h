@@ -22,6 +22,7 @@ class SUITE_EXPORT TSmartButtonEdit_TRV : public TSmartEdit_TRV
     Q_PROPERTY(bool ShowButton READ ShowButton WRITE SetShowButton)
 
 public:
+    /// What the edit is for.
     enum TButtonEditType {
         betString, ///< any text; + is a character like others
         betEntity, ///< the user can bring in digits only

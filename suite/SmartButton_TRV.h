@@ -22,13 +22,14 @@ class SUITE_EXPORT TSmartButton_TRV : public QPushButton, public TControlEvents
 public:
     enum TButtonKind { bkStandard, bkDropDown }; ///< ordinals 0 and 1
     Q_ENUM(TButtonKind)
+    /// What the button does, which gives it its usual caption and icon.
     enum TButtonType { btNone, btOk, btCancel, btNew, btEdit, btDelete };
     Q_ENUM(TButtonType)
 
     explicit TSmartButton_TRV(QWidget* parent = nullptr);
     ~TSmartButton_TRV() override;
 
-    TButtonKind ButtonKind() const;
+    TButtonKind ButtonKind() const; ///< bkStandard at first
     /// bkDropDown shows an arrow part that opens DropDownMenu; the rest of the button still clicks.
     void SetButtonKind(TButtonKind kind);
     TButtonType ButtonType() const;
@@ -48,7 +49,7 @@ public:
     void SetDropDownMenu(QMenu* menu); ///< not owned
     void Click();                      ///< as if the user had pressed it
 
-    TNotifyEvent OnClick;
+    TNotifyEvent OnClick; ///< by mouse, key, short cut or Click(); a disabled button raises nothing
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

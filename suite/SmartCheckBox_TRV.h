@@ -14,10 +14,10 @@ public:
     explicit TSmartCheckBox_TRV(QWidget* parent = nullptr);
     ~TSmartCheckBox_TRV() override;
 
-    bool Checked() const { return isChecked(); }
-    void SetChecked(bool checked) { setChecked(checked); }
+    bool Checked() const { return isChecked(); }           ///< ticked
+    void SetChecked(bool checked) { setChecked(checked); } ///< raises OnClick where that is a change
 
-    TNotifyEvent OnClick;
+    TNotifyEvent OnClick; ///< after every change of Checked()
 
 protected:
     bool event(QEvent* event) override;

@@ -19,12 +19,12 @@ public:
 
     int ItemIndex() const { return currentIndex(); } ///< -1 for none
     void SetItemIndex(int index);                    ///< out of range selects none
-    int Count() const { return count(); }
-    void Clear();
+    int Count() const { return count(); }            ///< of the entries
+    void Clear();                                    ///< takes all entries out; raises nothing
     /// `object` is a number that travels with the entry, as a code does.
     void AddItem(const QString& text, qint64 object = 0);
-    qint64 ItemObject(int index) const;
-    QString ItemText(int index) const { return itemText(index); }
+    qint64 ItemObject(int index) const; ///< the number of an entry; 0 where there is no such entry
+    QString ItemText(int index) const { return itemText(index); } ///< empty where there is no such entry
 
     void showPopup() override;
 

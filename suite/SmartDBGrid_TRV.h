@@ -12,8 +12,8 @@
 /// A coloured mark in a cell, and what it stands for.
 struct TGridDot
 {
-    QColor Color;
-    QString Name;
+    QColor Color; ///< of the mark
+    QString Name; ///< what it stands for, in words
 };
 
 /// A column of a TSmartDBGrid_TRV.
@@ -22,12 +22,12 @@ struct SUITE_EXPORT TGridColumn
     /// Codes, numbers and money align to the digit. A colour is a text for Look::StringToColor, shown as a
     /// swatch of it.
     enum TKind { ckText, ckCode, ckNumber, ckMoney, ckDate, ckColor };
-    QString FieldName;
-    QString Title;
-    int Width = 100; ///< pixels at scale 1
-    TKind Kind = ckText;
-    bool Visible = true;
-    int Digits = 0; ///< codes shorter than this are shown with leading zeros
+    QString FieldName;   ///< of the data set; without such a field the column is empty
+    QString Title;       ///< in the header
+    int Width = 100;     ///< pixels at scale 1
+    TKind Kind = ckText; ///< how values are shown
+    bool Visible = true; ///< whether the column is shown at all
+    int Digits = 0;      ///< codes shorter than this are shown with leading zeros
     /// The coloured marks that a value stands for, painted in place of its text; their names are what is
     /// copied and read out. Empty for a column of text.
     std::function<QVector<TGridDot>(const QVariant& value)> Dots = {};
@@ -55,22 +55,22 @@ public:
     ~TSmartDBGrid_TRV() override;
 
     void SetDataSource(TDataSource* source); ///< not owned; the current row follows the data set and back
-    TDataSource* DataSource() const;
+    TDataSource* DataSource() const;         ///< null for none
     /// Without column definitions every field is a column.
     void SetColumns(const QVector<TGridColumn>& columns);
     QVector<TGridColumn> Columns() const;
-    QString EmptyText() const;
+    QString EmptyText() const; ///< in the middle of a grid without rows; empty for none
     void SetEmptyText(const QString& text);
     /// Widths as the user left them, for the host's settings.
     QByteArray SaveLayout() const;
-    void RestoreLayout(const QByteArray& layout);
+    void RestoreLayout(const QByteArray& layout); ///< what does not fit the columns is left out
 
     /// Letters are left to the owner; searching row by row would read the whole list.
     void keyboardSearch(const QString& search) override;
 
     TNotifyEvent OnDblClick; ///< on a row
 
-    bool MultiSelect() const;
+    bool MultiSelect() const; ///< false at first
     void SetMultiSelect(bool on);
     /// Reads the keys of rows that are not here; without it only rows that are here can be marked.
     void SetReadKeys(TReadKeysEvent reader);
@@ -79,12 +79,12 @@ public:
     void SetMarkLimit(int limit);
     /// In no order; empty where nothing is marked.
     QStringList MarkedKeys() const;
-    void SetMarkedKeys(const QStringList& keys);
-    void ClearMarks() { SetMarkedKeys({}); }
-    bool IsMarked(int row) const;
+    void SetMarkedKeys(const QStringList& keys); ///< no more of them than MarkLimit
+    void ClearMarks() { SetMarkedKeys({}); }     ///< takes all marks off
+    bool IsMarked(int row) const;                ///< counted from 0; false for a row that is not here
 
 Q_SIGNALS:
-    void marksChanged();
+    void marksChanged(); ///< by the user or by code
     /// More rows were to be marked than MarkLimit; the first ones are.
     void marksLimited();
 

@@ -23,6 +23,7 @@ class SUITE_EXPORT TSmartDateEdit_TRV : public TSectionEdit
     Q_PROPERTY(bool CalendarButton READ CalendarButton WRITE SetCalendarButton)
 
 public:
+    /// Solar is the calendar of Iran.
     enum TCalendarType { ctSolar, ctGregorian };
     Q_ENUM(TCalendarType)
 

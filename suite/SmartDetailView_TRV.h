@@ -14,9 +14,9 @@ class QMenu;
 /// A value that a TSmartDetailView_TRV can show.
 struct SUITE_EXPORT TDetailItem
 {
-    QString Caption;
-    QVariant Value;
-    TGridColumn::TKind Kind = TGridColumn::ckText;
+    QString Caption;                               ///< before the value and in the menu
+    QVariant Value;                                ///< where no field gives it
+    TGridColumn::TKind Kind = TGridColumn::ckText; ///< how the value is shown
     QString FieldName = {}; ///< of the data source, whose current row then gives the value; empty for none
     bool Selectable = true; ///< offered by the popup menu
     bool Denied = false;    ///< the user may not see the value
@@ -36,17 +36,17 @@ public:
     explicit TSmartDetailView_TRV(QWidget* parent = nullptr);
     ~TSmartDetailView_TRV() override;
 
-    int AddItem(const TDetailItem& item); ///< returns its index
-    void ClearItems();
-    int ItemCount() const { return static_cast<int>(items_.size()); }
+    int AddItem(const TDetailItem& item);                             ///< returns its index
+    void ClearItems();                                                ///< shows nothing then
+    int ItemCount() const { return static_cast<int>(items_.size()); } ///< of the items, shown or not
     /// Throws std::out_of_range where there is no such item; so do the setters below.
     const TDetailItem& Item(int index) const;
-    void SetValue(int index, const QVariant& value);
-    void SetDenied(int index, bool denied);
+    void SetValue(int index, const QVariant& value); ///< shown at once where the item is
+    void SetDenied(int index, bool denied);          ///< whether the user may not see the value
     /// After the items have been changed: rebuilds the popup menu of the selectable ones. An item shown that
     /// is gone, or cannot be selected any more, gives way to item 0.
     void Fill_PopMenu();
-    QMenu* PopupMenu() const { return menu_; }
+    QMenu* PopupMenu() const { return menu_; } ///< of the selectable items; owned by the view
 
     int ItemIndex() const { return itemIndex_; } ///< of the item shown
     void SetItemIndex(int index);                ///< raises nothing; below 0 counts as 0
@@ -72,7 +72,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    void itemChosen(int index);
+    void itemChosen(int index); ///< with OnChange
 
 protected:
     bool event(QEvent* event) override;

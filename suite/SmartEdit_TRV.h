@@ -29,16 +29,20 @@ class SUITE_EXPORT TSmartEdit_TRV : public QLineEdit, public TControlEvents
     Q_PROPERTY(bool CanTakeFocus READ CanTakeFocus WRITE SetCanTakeFocus)
 
 public:
+    /// Text, a whole number, or an amount with grouping and decimals.
     enum TEditType { etString, etNumeric, etCurrency };
     Q_ENUM(TEditType)
+    /// Whether an amount may have decimals.
     enum TValueType { vtFloat, vtInt };
     Q_ENUM(TValueType)
 
     explicit TSmartEdit_TRV(QWidget* parent = nullptr);
     ~TSmartEdit_TRV() override;
 
+    /// etString at first. A text that stands already is read anew by the new type.
     TEditType EditType() const;
     void SetEditType(TEditType type);
+    /// vtFloat at first; vtInt leaves an etCurrency edit no decimals, whatever Precision says.
     TValueType ValueType() const;
     void SetValueType(TValueType type);
     /// Longest text the user may type, grouping signs and minus not counted; 0 means no limit.
@@ -58,8 +62,10 @@ public:
     /// Whether F4 or the button at the edit's left end opens a calculator under a number edit.
     bool Calculator() const;
     void SetCalculator(bool on);
+    /// Whether the edit tells rate and currency in its hint. False by default.
     bool MultiCurrency() const;
     void SetMultiCurrency(bool on);
+    /// Kept for the owner; the edit ignores it. False by default.
     bool ReverseCurrency() const;
     void SetReverseCurrency(bool on);
     /// Bounds that a value typed by the user may not leave; equal bounds mean none.
@@ -82,20 +88,22 @@ public:
     /// The value of a number edit, 0 where there is none; the text of a text edit read as a number.
     long double GetValue() const;
     void SetValue(long double value);
-    void SetEnabled(bool enabled);
+    void SetEnabled(bool enabled); ///< a disabled edit cannot be written by the user
     /// Rate and title that a MultiCurrency edit shows in its hint.
     void SetCurrencyRate(long double rate);
     void SetCurrencyTypeTitle(const QString& title);
+    /// The place of the caret in the shown text, counted from 0; one outside is moved to the nearer end.
     int CaretPos() const;
     void SetCaretPos(int position);
     /// Shows the edit as wrong, with a balloon of one sentence, until the user types.
     void ShowError(const QString& sentence);
-    bool HasError() const;
+    bool HasError() const; ///< shown as wrong
 
     /// On every change of Text(), by the user or by code.
     TNotifyEvent OnChange;
     /// Once, DelayTimeCount after the user's last change of the value; at once when the edit is left.
     TNotifyEvent OnEditValueChange;
+    /// The same as writing the event.
     void SetOnEditValueChange(TNotifyEvent handler) { OnEditValueChange = std::move(handler); }
     /// Raises OnEditValueChange now where it is still due.
     void AnnouncePendingValue();
@@ -104,7 +112,7 @@ public:
     TPasteEvent OnPaste;
 
 Q_SIGNALS:
-    void editValueChanged();
+    void editValueChanged(); ///< with OnEditValueChange
 
 protected:
     /// A key that a derived edit handles in its own way, asked after OnKeyDown and OnKeyPress; true where it

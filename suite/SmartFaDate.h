@@ -11,7 +11,7 @@
 class SUITE_EXPORT TFaDate
 {
 public:
-    static constexpr int FirstYear = 1;
+    static constexpr int FirstYear = 1;   ///< of the solar calendar, as LastYear
     static constexpr int LastYear = 9377; ///< its last day is in the Gregorian year 9999
 
     /// No day.
@@ -20,24 +20,25 @@ public:
     /// such.
     static TFaDate CreateByPersianDate(const QString& text);
     static TFaDate CreateByPersianDate(int year, int month, int day);
+    /// No day where the date is invalid or its solar year is not FirstYear to LastYear.
     static TFaDate CreateByGregorianDate(const QDate& date);
     /// "2024/03/28", read like a Persian date.
     static TFaDate CreateByGregorianDate(const QString& text);
 
-    bool IsValid() const { return date_.isValid(); }
-    int Year() const { return solar_.Year; }   ///< 0 where this is no day
-    int Month() const { return solar_.Month; } ///< 1 to 12
-    int Day() const { return solar_.Day; }     ///< 1 to 31
+    bool IsValid() const { return date_.isValid(); } ///< false for no day
+    int Year() const { return solar_.Year; }         ///< 0 where this is no day
+    int Month() const { return solar_.Month; }       ///< 1 to 12
+    int Day() const { return solar_.Day; }           ///< 1 to 31
     /// Days of the month in which this day is; 0 where this is no day.
     int GetDaysInMonth() const;
     /// "1403/01/09"; empty where this is no day.
     QString ToDateString() const;
     /// "2024/03/28"; empty where this is no day.
     QString GetGregorianDateString() const;
-    QDate GetGregorianDate() const { return date_; }
+    QDate GetGregorianDate() const { return date_; } ///< invalid where this is no day
     friend bool operator==(const TFaDate&, const TFaDate&) = default;
 
-    static bool IsLeapYear(int year);
+    static bool IsLeapYear(int year); ///< a year of the solar calendar
     /// 0 for a month that is not 1 to 12.
     static int DaysInMonth(int year, int month);
     /// "فروردین" for 1 to "اسفند" for 12.

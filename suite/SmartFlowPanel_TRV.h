@@ -14,6 +14,7 @@ class SUITE_EXPORT TSmartFlowPanel_TRV : public TSmartPanel_TRV
     Q_PROPERTY(int Spacing READ Spacing WRITE SetSpacing)
 
 public:
+    /// The side at which lines begin.
     enum TFlowStyle { fsLeftRightTopBottom, fsRightLeftTopBottom };
     Q_ENUM(TFlowStyle)
 

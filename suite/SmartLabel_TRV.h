@@ -22,11 +22,11 @@ public:
     explicit TSmartLabel_TRV(QWidget* parent = nullptr);
     ~TSmartLabel_TRV() override;
 
-    QString Caption() const { return text(); }
-    void SetCaption(const QString& caption) { setText(caption); }
-    void Clear() { setText(QString()); }
-    QWidget* FocusControl() const;
-    void SetFocusControl(QWidget* control); ///< also its buddy for assistive tools
+    QString Caption() const { return text(); }                    ///< as it was given, with its ampersands
+    void SetCaption(const QString& caption) { setText(caption); } ///< plain text
+    void Clear() { setText(QString()); }                          ///< no caption
+    QWidget* FocusControl() const;                                ///< null for none
+    void SetFocusControl(QWidget* control);                       ///< also its buddy for assistive tools
     /// Whether the label stands on the dark band and is painted in the band's text colour.
     bool OnBand() const { return onBand_; }
     void SetOnBand(bool on);

@@ -9,8 +9,10 @@
 class SUITE_EXPORT TRegExp
 {
 public:
+    /// Kinds of characters that can be typed.
     enum TAllowedKey { vkLetter = 1, vkNumber = 2, vkSpace = 4, vkPunctuation = 8 };
     Q_DECLARE_FLAGS(TAllowedKeys, TAllowedKey)
+    /// How the pattern is compared.
     enum TOption { roIgnoreCase = 1 };
     Q_DECLARE_FLAGS(TOptions, TOption)
 
@@ -18,18 +20,21 @@ public:
     /// there already stays; it is checked when the edit is left.
     void SetRegExp(const QString& pattern);
     QString RegExp() const { return pattern_; }
-    void SetOptions(TOptions options);
+    void SetOptions(TOptions options); ///< none at first
     TOptions Options() const { return options_; }
 
     bool ValidateIfEmpty = false; ///< whether an empty text has to match too
+    /// The sentence for a text that does not match.
     QString ErrorMessage = QStringLiteral("مقدار وارده معتبر نیست");
+    /// Other keys are refused, whatever the pattern says.
     TAllowedKeys AllowedKeys = TAllowedKeys(vkLetter | vkNumber | vkSpace | vkPunctuation);
-    bool DisablePaste = false;
+    bool DisablePaste = false; ///< nothing can be pasted or dropped
 
+    /// The whole text; an empty one unless ValidateIfEmpty says otherwise.
     bool Matches(const QString& text) const;
     /// Whether the text matches or could be typed on until it does.
     bool MayMatch(const QString& text) const;
-    bool Allows(QChar character) const;
+    bool Allows(QChar character) const; ///< by AllowedKeys
 
 private:
     QString pattern_;
@@ -50,9 +55,10 @@ public:
     explicit TSmartMaskEdit_TRV(QWidget* parent = nullptr);
     ~TSmartMaskEdit_TRV() override;
 
+    /// What the edit takes; owned by the edit.
     TRegExp& RegExp() { return regExp_; }
     const TRegExp& RegExp() const { return regExp_; }
-    bool IsValid() const { return regExp_.Matches(Text()); }
+    bool IsValid() const { return regExp_.Matches(Text()); } ///< whether the text matches
 
 protected:
     QString Admitted(const QString& text) override;

@@ -18,15 +18,15 @@ public:
     ~TTabControl() override;
 
     int TabCount() const { return count(); }
-    QString TabText(int index) const { return tabText(index); }
-    void AddTab(const QString& caption);
-    void Clear();
-    int TabIndex() const { return currentIndex(); } ///< -1 where there are no tabs
-    void SetTabIndex(int index);
-    int TabHeight() const { return tabHeight_; } ///< in pixels; 0 leaves it to the style
+    QString TabText(int index) const { return tabText(index); } ///< empty where there is no such tab
+    void AddTab(const QString& caption);                        ///< behind the others
+    void Clear();                                               ///< takes all tabs out; raises nothing
+    int TabIndex() const { return currentIndex(); }             ///< -1 where there are no tabs
+    void SetTabIndex(int index);                                ///< an index without a tab is ignored
+    int TabHeight() const { return tabHeight_; }                ///< in pixels; 0 leaves it to the style
     void SetTabHeight(int height);
 
-    TNotifyEvent OnChange;
+    TNotifyEvent OnChange; ///< the user has chosen another tab
 
 protected:
     QSize tabSizeHint(int index) const override;

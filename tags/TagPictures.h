@@ -12,7 +12,7 @@ class TADOQuery;
 class BASEFRAME_EXPORT TTagPictures
 {
 public:
-    void Clear();
+    void Clear(); ///< no picture
     /// Adds the picture of each row of the query, which is opened anew with the statement while its controls
     /// are disabled, and stays open. `pictureField` holds a PNG; one that is NULL or cannot be read gets an
     /// empty picture, so that the others keep their places.

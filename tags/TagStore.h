@@ -11,8 +11,8 @@ class TADOQuery;
 struct BASEFRAME_EXPORT TTaggedRecords
 {
     QString TableName; ///< has a column `tags`
-    QString KeyField;
-    QString Keys; ///< between commas; empty where no record is selected
+    QString KeyField;  ///< its key column
+    QString Keys;      ///< between commas; empty where no record is selected
 
     /// A host's list of keys without the one character that it is wrapped in at each end: `(3,7)` is `3,7`.
     static QString Unwrapped(const QString& keyList);
@@ -40,6 +40,7 @@ BASEFRAME_EXPORT QString AddShown(const TTaggedRecords& records, const QString& 
 BASEFRAME_EXPORT QString AddUnshown(const TTaggedRecords& records, const QString& code);
 /// Takes a tag off. Leaves a lone comma where it was the last one, so that ClearEmptied must follow at once.
 BASEFRAME_EXPORT QString Remove(const TTaggedRecords& records, const QString& code);
+/// NULL in place of the lone commas that Remove has left.
 BASEFRAME_EXPORT QString ClearEmptied(const TTaggedRecords& records);
 /// The colours' pictures for a tag on all of the records, and for one on some of them: code, picture.
 BASEFRAME_EXPORT QString StrongPictures();
@@ -53,6 +54,7 @@ BASEFRAME_EXPORT QString PicturesOfTags();
 BASEFRAME_EXPORT QString MenuOfTags();
 /// The same for the question whether there is any tag; its blanks differ on purpose.
 BASEFRAME_EXPORT QString MenuOfTagsAtButton();
+/// How many tags there are.
 BASEFRAME_EXPORT QString CountOfTags();
 
 } // namespace TagStatements

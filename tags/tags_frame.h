@@ -48,7 +48,7 @@ public:
     bool finder(const QString& code) const;
     /// Reads the suggestions for what is typed.
     void exec_sql();
-    void fill_imageList();
+    void fill_imageList(); ///< reads the pictures of the colours anew
     /// Adds the items of one mode of Fill_x to the editor.
     void fill_adveditor(int mode);
     /// Lays the grid of suggestions out, and gives the frame the height for their number: 120 and 20 for each

@@ -38,6 +38,7 @@ public:
     void SetPriceValue(long double rate);
     long double GetAmountValue() const { return 0; } ///< always 0
     void SetAmountValue(long double /*amount*/) {}   ///< has no effect
+    /// As it was last written, or found when a currency was selected.
     bool BaseCurrSelected() const { return FBaseCurrSelected; }
     /// Selects the base currency; false is only stored.
     void SetBaseCurrSelected(bool selected);
@@ -49,7 +50,7 @@ public:
     /// The day, year/month/day, whose rates are shown; today's where it is empty. A rate that the user has
     /// typed stays until a currency is selected.
     void SetRateDate(const QString& date);
-    int GetBaseCurrCode() const;
+    int GetBaseCurrCode() const; ///< the code of the base currency
     /// The rate of the selected currency in force on a day, today where it is empty, as decimal text; "0"
     /// where there is none. Leaves the host's shared query open on the rate's row.
     QString GetCurrRate(const QString& date) const;

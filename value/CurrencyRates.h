@@ -15,11 +15,13 @@ public:
     /// The base currency, whose rate is always 1.
     static constexpr int BaseCode = 1;
 
+    /// A currency of the list.
     struct TCurrency
     {
-        int Code = 0;
+        int Code = 0;         ///< 1 is the base currency
         QString TitleCountry; ///< "دلار-آمریکا"
     };
+    /// A rate as it is stored.
     struct TRate
     {
         QString Text = QStringLiteral("0"); ///< exact decimal text; "0" where there is no rate
@@ -31,7 +33,7 @@ public:
 
     /// Of the base currency; empty where the database has none.
     QString BaseCountry() const;
-    QString BaseTitle() const;
+    QString BaseTitle() const; ///< its name; empty where there is none
     /// In the table's order.
     QVector<TCurrency> Currencies() const;
     /// The rate in force on a day (a text year/month/day): the latest one entered for that day or for a day

@@ -28,7 +28,7 @@ public:
     /// Shows the picture of a blob field's current row; null and NULL show none. PicAddress stays as it is
     /// where there is a picture.
     void LoadPic(TField* field);
-    void ClearPic() { LoadPic(QString()); }
+    void ClearPic() { LoadPic(QString()); } ///< shows no picture and forgets the address
     /// Has the host fit the picture into its place.
     void FitPic();
     /// The full path of the file that is shown.
@@ -39,6 +39,7 @@ public:
 
     /// Another picture was loaded, chosen or removed, or the user has confirmed a file that is ignored.
     TNotifyEvent OnChange;
+    /// The same as writing the event.
     void SetOnChange(TNotifyEvent handler) { OnChange = std::move(handler); }
 
     TSmartPanel_TRV* Pic_CXGB = nullptr;
@@ -46,7 +47,7 @@ public:
     QMenu* PIC_PMI = nullptr; ///< for owners; no control opens it
     QAction* PicInsert_PMI = nullptr;
     QAction* PicDelete_PMI = nullptr;
-    TOpenPictureDialog OpenPictureDialog1;
+    TOpenPictureDialog OpenPictureDialog1; ///< what the insert button opens
     TSmartPanel_TRV* Button_CXGB = nullptr;
     TSmartButton_TRV* PicDelete_BTN = nullptr;
     TSmartButton_TRV* PicInsert_BTN = nullptr;

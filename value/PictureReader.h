@@ -10,6 +10,7 @@
 /// corrupt, cut off, disguised and enormous ones give a null image, or a smaller one where that can be had.
 namespace PictureReader {
 
+/// None stands for everything else.
 enum class TFormat { None, Jpeg, Png };
 
 /// Larger pictures are made smaller while they are read, to a half, a fourth or an eighth in each direction.

@@ -20,6 +20,7 @@ public:
     explicit TListDetail_FRAME(QWidget* owner = nullptr);
     ~TListDetail_FRAME() override;
 
+    /// Opens the closed part, closes the open one.
     void CollapseOrExpand() const;
     /// After the views' items have been changed: rebuilds their popup menus. The name is written as it is on
     /// purpose.

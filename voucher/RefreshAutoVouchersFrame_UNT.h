@@ -19,6 +19,7 @@ public:
     explicit TRefreshAutoVouchers_FRME(QWidget* owner = nullptr);
     ~TRefreshAutoVouchers_FRME() override;
 
+    /// Whether the bar decides in Loaded() whether it is shown. False at first.
     bool CheckVisibleOnLoad() const { return FCheckVisibleOnLoad; }
     /// Counts until the frame is loaded, which comes from the event loop.
     void SetCheckVisibleOnLoad(bool check) { FCheckVisibleOnLoad = check; }

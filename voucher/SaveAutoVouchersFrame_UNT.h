@@ -22,6 +22,7 @@ public:
     explicit TSaveAutoVouchers_FRME(QWidget* owner = nullptr);
     ~TSaveAutoVouchers_FRME() override;
 
+    /// Whether the bar decides in Loaded() whether it is shown. False at first.
     bool CheckVisibleOnLoad() const { return FCheckVisibleOnLoad; }
     /// Counts until the frame is loaded, which comes from the event loop.
     void SetCheckVisibleOnLoad(bool check) { FCheckVisibleOnLoad = check; }
