@@ -68,16 +68,24 @@ TTags::~TTags()
 void TTags::MakeData()
 {
     TADOConnection* const connection = Host().DM.ADOConnection1();
-    for (TADOQuery** query : {&Tags_qry, &ADOQuery2, &tmp_qry, &Colors_qry}) {
-        *query = new TADOQuery(this);
-        (*query)->SetConnection(connection);
-    }
+    const auto newQuery = [this, connection](const QString& name) {
+        auto* const query = new TADOQuery(this);
+        query->setObjectName(name);
+        query->SetConnection(connection);
+        return query;
+    };
+    Tags_qry = newQuery(QStringLiteral("Tags_qry"));
+    ADOQuery2 = newQuery(QStringLiteral("ADOQuery2"));
+    tmp_qry = newQuery(QStringLiteral("tmp_qry"));
+    Colors_qry = newQuery(QStringLiteral("Colors_qry"));
     Tags_qry->SQL.SetText(TagStatements::TagsOfForm());
     ADOQuery2->SQL.SetText(QStringLiteral("select * from tmp"));
     Colors_qry->SQL.SetText(QStringLiteral("select  * FROM colors"));
     cmd = new TADOCommand(this);
+    cmd->setObjectName(QStringLiteral("cmd"));
     cmd->SetConnection(connection);
     DataSource1 = new TDataSource(this);
+    DataSource1->setObjectName(QStringLiteral("DataSource1"));
     DataSource1->SetDataSet(Tags_qry);
 }
 

@@ -358,6 +358,51 @@ private Q_SLOTS:
         QVERIFY(form.Editor()->hasFocus());
     }
 
+    void downBehindTheLastSuggestionComesBackToTheEditor()
+    {
+        TTagsForm form;
+        Fill(form);
+        form.Select({1});
+        QVERIFY(form.Show());
+        const auto releaseDown = [&form] {
+            form.Other->setFocus();
+            quint16 key = VirtualKey::Down;
+            form.Editor()->OnKeyUp(form.Editor(), key, Qt::NoModifier);
+        };
+        releaseDown();
+        QVERIFY(form.Other->hasFocus());
+        form.Editor()->SetEditText(QStringLiteral("هیچ"));
+        releaseDown();
+        QVERIFY(form.Editor()->hasFocus());
+    }
+
+    void comingInPutsTheCaretBehindTheItems()
+    {
+        TTagsForm form;
+        Fill(form);
+        form.Select({1, 3});
+        QVERIFY(form.Show());
+        form.Press(Qt::Key_Home);
+        form.Other->setFocus();
+        form.Editor()->setFocus();
+        form.Press(Qt::Key_Backspace);
+        QCOMPARE(form.Items(), QStringList{QStringLiteral("عمده=5:red")});
+    }
+
+    void aNameInOtherLettersIsThatOfTheTag()
+    {
+        TTagsForm form;
+        Fill(form);
+        form.Tables.AddTag(8, QStringLiteral("VIP"), 2);
+        form.Tables.AddTag(9, QStringLiteral("VIP gold"), 1);
+        form.Select({4});
+        QVERIFY(form.Show());
+        form.Enter(QStringLiteral("vip"));
+        QCOMPARE(form.Tables.TagsOf(4), QStringLiteral(",8,"));
+        QCOMPARE(form.Items(), QStringList{QStringLiteral("VIP=8:blue")});
+        QCOMPARE(form.Host.Log.Lines(), QStringList());
+    }
+
     void theGridIsEnabledAsTheEditorSays()
     {
         TTagsForm form;
@@ -390,49 +435,6 @@ private Q_SLOTS:
         QCOMPARE(spy.size(), 2);
         form.Enter(QString());
         QCOMPARE(spy.size(), 2);
-    }
-
-    void theFrameMayGoWhileTheUserIsAsked()
-    {
-        TTagsForm form;
-        Fill(form);
-        form.Select({1});
-        QVERIFY(form.Show());
-        form.Host.Messages.Answer = TMessageResult::mrYes;
-        form.Host.Messages.WhileAsked = [&form] { delete std::exchange(form.Frame, nullptr); };
-        form.Type(QStringLiteral("تازه"));
-        form.Press(Qt::Key_Return);
-        QVERIFY(form.Frame == nullptr);
-        QCOMPARE(form.Host.Log.CountOf(QStringLiteral("Call_insert_tags")), 0);
-    }
-
-    void theFrameMayGoWhileTheLimitIsTold()
-    {
-        TTagsForm form;
-        Fill(form);
-        form.Select({1});
-        QVERIFY(form.Show());
-        form.Host.Messages.Answer = TMessageResult::mrYes;
-        form.Host.Pickers.CreatedTag = -1;
-        form.Host.Messages.WhileShown = [&form](QWidget*) { delete std::exchange(form.Frame, nullptr); };
-        form.Type(QStringLiteral("تازه"));
-        form.Press(Qt::Key_Return);
-        QVERIFY(form.Frame == nullptr);
-    }
-
-    void theFrameMayGoWhileATagIsDefined()
-    {
-        TTagsForm form;
-        Fill(form);
-        form.Select({1});
-        QVERIFY(form.Show());
-        form.Host.Messages.Answer = TMessageResult::mrYes;
-        form.Host.Pickers.CreatedTag = 21;
-        form.Host.Pickers.WhilePicking = [&form] { delete std::exchange(form.Frame, nullptr); };
-        form.Type(QStringLiteral("تازه"));
-        form.Press(Qt::Key_Return);
-        QVERIFY(form.Frame == nullptr);
-        QCOMPARE(form.Tables.TagsOf(1), QStringLiteral(",5,7,"));
     }
 
 private:

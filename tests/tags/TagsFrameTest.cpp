@@ -52,6 +52,13 @@ private Q_SLOTS:
         for (TADOQuery* query : {frame.Tags_qry, frame.ADOQuery2, frame.tmp_qry, frame.Colors_qry})
             QCOMPARE(query->Connection(), &form.Tables.Connection);
         QCOMPARE(frame.cmd->Connection(), &form.Tables.Connection);
+        const QObjectList parts{frame.SmartPanel_TRV1, frame.Tags_editor, frame.Tags_grid,
+                                frame.Tags_qry,        frame.ADOQuery2,   frame.tmp_qry,
+                                frame.Colors_qry,      frame.cmd,         frame.DataSource1};
+        const QStringList names{"SmartPanel_TRV1", "Tags_editor", "Tags_grid", "Tags_qry",   "ADOQuery2",
+                                "tmp_qry",         "Colors_qry",  "cmd",       "DataSource1"};
+        for (qsizetype part = 0; part < parts.size(); ++part)
+            QCOMPARE(parts.at(part)->objectName(), names.at(part));
         QVERIFY(form.Show());
         QVERIFY(!frame.Tags_panel->isVisible());
         QCOMPARE(form.Tables.Sent(), QStringList());
@@ -93,6 +100,23 @@ private Q_SLOTS:
                                    records,
                                    TagStatements::Suggestions({QStringLiteral("5")}, QString())};
         QCOMPARE(form.Tables.Sent(), expected);
+    }
+
+    void loadingSettlesTheEditor()
+    {
+        TTagsForm form;
+        FillShop(form.Tables);
+        form.Select({1});
+        form.Editor()->SetEditText(QStringLiteral("نیمه"));
+        form.Editor()->SetReadOnly(true);
+        form.Editor()->SetRightToLeft(false);
+        form.Frame->frame_load();
+        QVERIFY(!form.Editor()->StateFlag());
+        QCOMPARE(form.Editor()->EditText(), QString());
+        QCOMPARE(form.Editor()->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(form.Frame->Colors_qry->RecordCount(), 1); // the last tag's; its pictures are all there
+        QCOMPARE(form.Editor()->Images().size(), 2 * TTagsForm::Colors);
+        QVERIFY(!form.Frame->Tags_panel->isHidden());
     }
 
     void withoutTagsNothingIsLeftOutOfTheSuggestions()
@@ -171,6 +195,8 @@ private Q_SLOTS:
         QCOMPARE(form.Grid()->columnWidth(4), 16);
         QCOMPARE(form.Grid()->columnWidth(1), 150);
         QVERIFY(form.Grid()->font().bold());
+        QCOMPARE(form.Grid()->font().pixelSize(), 15);
+        QCOMPARE(form.Grid()->font().family(), form.Frame->font().family());
         // A width that the user has changed lasts until the next reload.
         form.Grid()->setColumnWidth(1, 90);
         form.Frame->Rearrang();

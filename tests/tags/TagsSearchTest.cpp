@@ -21,6 +21,40 @@ private Q_SLOTS:
         QCOMPARE(criterion.SearchItems.Count(), 0);
         QCOMPARE(criterion.ItemIndex(), 0);
         QVERIFY(criterion.Value2().isNull());
+        for (TADOQuery* query : {frame.Tags_qry, frame.Colors_qry})
+            QCOMPARE(query->Connection(), &form_->Tables.Connection);
+        QCOMPARE(frame.cmd->Connection(), &form_->Tables.Connection);
+        QVERIFY(!frame.searchble());
+    }
+
+    void loadingTurnsTheEditorRightToLeft()
+    {
+        form_->Editor().SetRightToLeft(false);
+        form_->Frame->frame_load();
+        QCOMPARE(form_->Editor().layoutDirection(), Qt::RightToLeft);
+    }
+
+    void eachKeySettlesTheTypedText()
+    {
+        QVERIFY(form_->Show(true));
+        form_->Editor().SetReadOnly(true);
+        QTest::keyPress(&form_->Editor(), Qt::Key_A);
+        QVERIFY(!form_->Editor().StateFlag());
+        form_->Editor().SetReadOnly(false);
+        QTest::keyRelease(&form_->Editor(), Qt::Key_A);
+        QVERIFY(form_->Editor().StateFlag());
+    }
+
+    void comingInPutsTheCaretBehindTheTags()
+    {
+        QVERIFY(form_->Show(true));
+        form_->Enter(QStringLiteral("سه"));
+        form_->Enter(QStringLiteral("هفت"));
+        form_->Press(Qt::Key_Home);
+        form_->Other->setFocus();
+        form_->Editor().setFocus();
+        form_->Press(Qt::Key_Backspace);
+        QCOMPARE(form_->Items(), QStringList{QStringLiteral("سه:3:0")});
     }
 
     void loadingSendsTheListThePicturesTwiceAndTheMenu()
@@ -53,6 +87,27 @@ private Q_SLOTS:
         QVERIFY(frame.TagHelp_BTN->x() > frame.Tags_LBL->x());
         QVERIFY(frame.Tags_LBL->x() > frame.Tag_editor->x());
         QVERIFY(frame.Tag_editor->x() > frame.add_btn->x());
+    }
+
+    void choosingPutsTheCaretBehindTheTags()
+    {
+        QVERIFY(form_->Show(true));
+        form_->Enter(QStringLiteral("سه"));
+        form_->Enter(QStringLiteral("هفت"));
+        const auto removesLast = [this] {
+            form_->Press(Qt::Key_Backspace);
+            return form_->Items() == QStringList{QStringLiteral("سه:3:0"), QStringLiteral("هفت:7:0")};
+        };
+        form_->Press(Qt::Key_Home);
+        form_->Enter(QStringLiteral("پنج"));
+        QVERIFY(removesLast());
+        form_->Press(Qt::Key_Home);
+        form_->Frame->POP_click(form_->Menu().Item(1));
+        QVERIFY(removesLast());
+        form_->Press(Qt::Key_Home);
+        form_->Enter(QStringLiteral("سه"));
+        form_->Press(Qt::Key_Backspace);
+        QCOMPARE(form_->Items(), QStringList{QStringLiteral("سه:3:0")});
     }
 
     void aTypedNameFiltersByItsCode_data()

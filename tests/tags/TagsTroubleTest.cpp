@@ -253,6 +253,49 @@ private Q_SLOTS:
         QVERIFY(form.Frame == nullptr);
     }
 
+    void theFrameMayGoWhileTheUserIsAsked()
+    {
+        TTagsForm form;
+        FillShop(form);
+        form.Select({1});
+        QVERIFY(form.Show());
+        form.Host.Messages.Answer = TMessageResult::mrYes;
+        form.Host.Messages.WhileAsked = [&form] { delete std::exchange(form.Frame, nullptr); };
+        form.Type(QStringLiteral("تازه"));
+        form.Press(Qt::Key_Return);
+        QVERIFY(form.Frame == nullptr);
+        QCOMPARE(form.Host.Log.CountOf(QStringLiteral("Call_insert_tags")), 0);
+    }
+
+    void theFrameMayGoWhileTheLimitIsTold()
+    {
+        TTagsForm form;
+        FillShop(form);
+        form.Select({1});
+        QVERIFY(form.Show());
+        form.Host.Messages.Answer = TMessageResult::mrYes;
+        form.Host.Pickers.CreatedTag = -1;
+        form.Host.Messages.WhileShown = [&form](QWidget*) { delete std::exchange(form.Frame, nullptr); };
+        form.Type(QStringLiteral("تازه"));
+        form.Press(Qt::Key_Return);
+        QVERIFY(form.Frame == nullptr);
+    }
+
+    void theFrameMayGoWhileATagIsDefined()
+    {
+        TTagsForm form;
+        FillShop(form);
+        form.Select({1});
+        QVERIFY(form.Show());
+        form.Host.Messages.Answer = TMessageResult::mrYes;
+        form.Host.Pickers.CreatedTag = 21;
+        form.Host.Pickers.WhilePicking = [&form] { delete std::exchange(form.Frame, nullptr); };
+        form.Type(QStringLiteral("تازه"));
+        form.Press(Qt::Key_Return);
+        QVERIFY(form.Frame == nullptr);
+        QCOMPARE(form.Tables.TagsOf(1), QStringLiteral(",5,7,"));
+    }
+
     void aPastedLetterIsCutToANameAndWritesNothing()
     {
         TTagsForm form;
