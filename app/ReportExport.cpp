@@ -48,18 +48,11 @@ TReportExport::~TReportExport() = default;
 
 bool TReportExport::IsBusy() const
 {
-    return thread_ && thread_->IsBusy();
+    return !waiting_.empty();
 }
 
 void TReportExport::Save(const TReportQuestion& question, TFormat format, const QString& fileName)
 {
-    if (!thread_) {
-        thread_ = std::make_unique<TQueryThread>(connection_->Clone());
-        connect(thread_.get(), &TQueryThread::answered, this, [this] {
-            if (const TQueryThread::TAnswer answer = thread_->TakeAnswer())
-                answer();
-        });
-    }
     const auto work = [this, question, format,
                        fileName](TADOConnection& connection) -> TQueryThread::TAnswer {
         const TReportTable table = TReportTable::Read(connection, question);
@@ -74,8 +67,30 @@ void TReportExport::Save(const TReportQuestion& question, TFormat format, const 
                           problem);
         };
     };
-    thread_->Begin(BackgroundTask::Guarded(
+    waiting_.push_back(BackgroundTask::Guarded(
         work, [this](const QString& message, const QString& details) { Q_EMIT failed(message, details); },
         true));
+    if (waiting_.size() == 1)
+        BeginNext();
     Q_EMIT begun();
+}
+
+void TReportExport::BeginNext()
+{
+    if (!thread_) {
+        thread_ = std::make_unique<TQueryThread>(connection_->Clone());
+        connect(thread_.get(), &TQueryThread::answered, this, &TReportExport::Finish);
+    }
+    thread_->Begin(waiting_.front());
+}
+
+void TReportExport::Finish()
+{
+    const TQueryThread::TAnswer answer = thread_->TakeAnswer();
+    if (!answer)
+        return;
+    waiting_.pop_front();
+    if (!waiting_.empty())
+        BeginNext();
+    answer();
 }

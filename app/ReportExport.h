@@ -2,6 +2,7 @@
 
 #include "ReportTable.h"
 
+#include <deque>
 #include <memory>
 #include <QObject>
 
@@ -19,7 +20,7 @@ public:
     /// Abandons the reading; waits for what is being written.
     ~TReportExport() override;
 
-    /// Returns at once. Another call abandons the one under way.
+    /// Returns at once. Files are written one after the other.
     void Save(const TReportQuestion& question, TFormat format, const QString& fileName);
     bool IsBusy() const;
 
@@ -30,6 +31,10 @@ Q_SIGNALS:
     void failed(const QString& message, const QString& details);
 
 private:
+    void BeginNext();
+    void Finish();
+
     TADOConnection* connection_;
     std::unique_ptr<TQueryThread> thread_;
+    std::deque<TQueryThread::TTask> waiting_; ///< the first one is under way
 };

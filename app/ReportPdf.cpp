@@ -63,8 +63,7 @@ public:
             throw std::runtime_error("the file cannot be written");
         const int perPage = RowsPerPage();
         const int rows = static_cast<int>(table_.Rows.size());
-        // The line of the totals wants a place too.
-        pages_ = rows / perPage + 1;
+        pages_ = qMax(1, (rows + perPage - 1) / perPage);
         for (int number = 0; number < pages_; ++number) {
             if (number > 0 && !writer_.newPage())
                 throw std::runtime_error("the file cannot be written");
@@ -75,6 +74,7 @@ public:
     }
 
 private:
+    /// Beside the column titles every page keeps a line free, on the last one for the totals.
     int RowsPerPage() const
     {
         const qreal room = page_.height() - Dots(2 * titleHeight) - Dots(2 * rowHeight);

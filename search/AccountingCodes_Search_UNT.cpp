@@ -8,6 +8,7 @@
 #include "SmartEdit_TRV.h"
 #include "SmartLabel_TRV.h"
 #include "ui_AccountingCodes_Search_UNT.h"
+#include "ValueText.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -117,25 +118,25 @@ QVariant TAccountingCodes_Search_Frame::GetSearchExpenseCenterValue() const
 
 void TAccountingCodes_Search_Frame::SetSearchTotalValue(const QVariant& value)
 {
-    Select_AccountCode1->WriteText(TCodeItem::ctTotal, value.toString());
+    Select_AccountCode1->WriteText(TCodeItem::ctTotal, ValueText(value));
     TotalCode_EDTExit();
 }
 
 void TAccountingCodes_Search_Frame::SetSearchAssistantValue(const QVariant& value)
 {
-    Select_AccountCode1->WriteText(TCodeItem::ctAssistant, value.toString());
+    Select_AccountCode1->WriteText(TCodeItem::ctAssistant, ValueText(value));
     AssistantCode_EDTExit(nullptr);
 }
 
 void TAccountingCodes_Search_Frame::SetSearchDetailValue(const QVariant& value)
 {
-    Select_AccountCode1->WriteText(TCodeItem::ctDetail, value.toString());
+    Select_AccountCode1->WriteText(TCodeItem::ctDetail, ValueText(value));
     DetailCode_EDTExit(nullptr);
 }
 
 void TAccountingCodes_Search_Frame::SetSearchExpenseCenterValue(const QVariant& value)
 {
-    Select_AccountCode1->WriteText(TCodeItem::ctExpenseCenter, value.toString());
+    Select_AccountCode1->WriteText(TCodeItem::ctExpenseCenter, ValueText(value));
     ExpenseCenterCode_EDTExit(nullptr);
 }
 

@@ -161,9 +161,12 @@ void TGeneral_Search_Frame::Search_EDTKeyDown(quint16& key)
     if (!follower)
         return;
     if (key == EnterKey || key == VirtualKey::Up || key == VirtualKey::Down) {
-        follower->setFocus();
-        SetRet_press(true);
         key = 0;
+        const QPointer<TGeneral_Search_Frame> guard(this);
+        follower->setFocus();
+        if (!guard)
+            return;
+        SetRet_press(true);
     }
     if (Search_EDT->Text().trimmed().isEmpty())
         Search_EDT->SetText(QString());

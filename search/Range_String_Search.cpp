@@ -99,9 +99,9 @@ void TRange_String_Search_Frame::Complete(TSmartMaskEdit_TRV& edit, int length)
 
 void TRange_String_Search_Frame::RangeString_CHKClick()
 {
+    const QPointer<TTarvaSearch> criterion(TarvaSearch_Range_String);
     const bool checked = RangeString_CHK->Checked();
     Enable(checked);
-    const QPointer<TTarvaSearch> criterion(TarvaSearch_Range_String);
     if (checked)
         line_.FocusFields();
     if (criterion)

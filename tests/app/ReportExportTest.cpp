@@ -3,10 +3,17 @@
 #include "Balloon.h"
 #include "Range_Digit_Search.h"
 #include "ReportCsv.h"
+#include "ReportPdf.h"
 #include "SmartCheckBox_TRV.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
+#include <QSignalSpy>
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace {
 
@@ -22,6 +29,15 @@ QByteArray Bytes(const TReportTable& table)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     ReportCsv::Write(buffer, table);
+    return bytes;
+}
+
+QByteArray PdfBytes(const TReportTable& table)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    ReportPdf::Write(buffer, table);
     return bytes;
 }
 
@@ -142,6 +158,54 @@ private Q_SLOTS:
         QVERIFY(Pages(Content(answer_)) < all);
     }
 
+    void oneFileWaitsForTheOther()
+    {
+        TReportQuestion question;
+        question.Source = shop_->Report->DataSet().Source();
+        question.Columns = shop_->Report->Grid().Columns();
+        QStringList names;
+        for (const char* name : {"first.csv", "second.csv", "third.csv"})
+            names.append(shop_->Folder.filePath(QString::fromLatin1(name)));
+        TReportExport files(shop_->Connection);
+        QSignalSpy saved(&files, &TReportExport::saved);
+        for (const QString& name : qAsConst(names))
+            files.Save(question, TReportExport::TFormat::Csv, name);
+        QTRY_VERIFY(!files.IsBusy());
+        QCOMPARE(saved.count(), 3);
+        QVERIFY(Content(names.at(0)).size() > 1000);
+        QCOMPARE(Content(names.at(1)), Content(names.at(0)));
+        QCOMPARE(Content(names.at(2)), Content(names.at(0)));
+    }
+
+    void noPageIsWithoutLines()
+    {
+        QCOMPARE(PagesOf(0), 1);
+        int few = 1;
+        int many = 200;
+        while (many - few > 1) {
+            const int lines = (few + many) / 2;
+            (PagesOf(lines) == 1 ? few : many) = lines;
+        }
+        QCOMPARE(PagesOf(2 * few), 2);
+        QCOMPARE(PagesOf(2 * few + 1), 3);
+    }
+
+    void aReportWithoutLinesIsSaved()
+    {
+        SwitchNumberOn(shop_->Lines.constLast().Number + 1000);
+        QCOMPARE(shop_->Report->DataSet().RecordCount(), 0);
+        for (const Qt::Key key : {Qt::Key_E, Qt::Key_P}) {
+            answer_ = shop_->Folder.filePath(key == Qt::Key_E ? QStringLiteral("none.csv")
+                                                              : QStringLiteral("none.pdf"));
+            shop_->Press(key, Qt::ControlModifier);
+            shop_->Settle();
+        }
+        const QString csv = QString::fromUtf8(Content(shop_->Folder.filePath(QStringLiteral("none.csv"))));
+        QCOMPARE(csv.count(QStringLiteral("\r\n")), 1);
+        QVERIFY(csv.contains(QStringLiteral("\"بدهکار\"")));
+        QCOMPARE(Pages(Content(answer_)), 1);
+    }
+
     void moreLinesThanTheLimitAreCutAndSaid()
     {
         TReportQuestion question;
@@ -155,18 +219,47 @@ private Q_SLOTS:
         QVERIFY(table.Note().contains(QStringLiteral("7 ردیف نخست")));
     }
 
-    void whatCannotBeWrittenIsSaidAndLeavesTheOldFile()
+    void whatCannotBeWrittenIsSaid()
     {
-        QString told;
-        auto* application = qobject_cast<THostApplication*>(qApp);
-        application->SetErrorDisplay([&told](const TErrorReport& report) { told = report.Text; });
         answer_ = shop_->Folder.filePath(QStringLiteral("missing/lines.csv"));
-        shop_->Press(Qt::Key_E, Qt::ControlModifier);
-        QTRY_VERIFY(!told.isEmpty());
-        application->SetErrorDisplay({});
+        const QString told = RefusalOfSaving(Qt::Key_E);
         QVERIFY2(told.contains(QStringLiteral("نوشته نشد")), qPrintable(told));
         QVERIFY(!QFile::exists(answer_));
+        QVERIFY(QDir(shop_->Folder.path()).mkdir(QStringLiteral("folder.pdf")));
+        answer_ = shop_->Folder.filePath(QStringLiteral("folder.pdf"));
+        QVERIFY(RefusalOfSaving(Qt::Key_P).contains(QStringLiteral("نوشته نشد")));
     }
+
+#ifdef Q_OS_LINUX
+    /// As on a full disk.
+    void aFileThatEndsTooSoonLeavesTheOldOne_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("CSV") << static_cast<int>(Qt::Key_E);
+        QTest::newRow("PDF") << static_cast<int>(Qt::Key_P);
+    }
+    void aFileThatEndsTooSoonLeavesTheOldOne()
+    {
+        QFETCH(int, key);
+        answer_ = shop_->Folder.filePath(QStringLiteral("old.file"));
+        QFile old(answer_);
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("the old report");
+        old.close();
+        const QStringList before = QDir(shop_->Folder.path()).entryList(QDir::Files);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual{};
+        getrlimit(RLIMIT_FSIZE, &usual);
+        rlimit small = usual;
+        small.rlim_cur = 2000;
+        setrlimit(RLIMIT_FSIZE, &small);
+        const QString told = RefusalOfSaving(static_cast<Qt::Key>(key));
+        setrlimit(RLIMIT_FSIZE, &usual);
+        QVERIFY2(told.contains(QStringLiteral("نوشته نشد")), qPrintable(told));
+        QCOMPARE(Content(answer_), QByteArray("the old report"));
+        QCOMPARE(QDir(shop_->Folder.path()).entryList(QDir::Files), before);
+    }
+#endif
 
     void decliningTheFileSavesNothing()
     {
@@ -178,12 +271,31 @@ private Q_SLOTS:
     }
 
 private:
+    /// What the user is told when a key to save is pressed.
+    QString RefusalOfSaving(Qt::Key key) const
+    {
+        QString told;
+        auto* application = qobject_cast<THostApplication*>(qApp);
+        application->SetErrorDisplay([&told](const TErrorReport& report) { told = report.Text; });
+        shop_->Press(key, Qt::ControlModifier);
+        [&told] { QTRY_VERIFY(!told.isEmpty()); }();
+        application->SetErrorDisplay({});
+        return told;
+    }
     void SwitchNumberOn(int from) const
     {
         TRange_Digit_Search_Frame& frame = *shop_->Report->Filters().Digit;
         frame.SetActive(true);
         frame.SetSearchValue1(from);
         shop_->Settle();
+    }
+    /// The pages of a PDF with so many lines.
+    static int PagesOf(int lines)
+    {
+        TReportTable table;
+        table.Question.Columns = Columns();
+        table.Rows.fill({QStringLiteral("شرح"), QStringLiteral("5")}, lines);
+        return Pages(PdfBytes(table));
     }
     static int Pages(const QByteArray& bytes)
     {

@@ -168,8 +168,33 @@ private Q_SLOTS:
         QVERIFY(form.Start());
         QCOMPARE(form.Frame->GetSearchTotalValue(), QVariant(qint64{0}));
         form.Enter(form.Frame->Select_AccountCode1->TotalCode_EDT, QStringLiteral("7"));
-        QCOMPARE(form.Frame->GetSearchTotalValue().typeId(), static_cast<int>(QMetaType::LongLong));
         QCOMPARE(form.Frame->GetSearchTotalValue().toLongLong(), 7);
+        const TAccountingCodes_Search_Frame& frame = *form.Frame;
+        for (const QVariant& value : {frame.GetSearchTotalValue(), frame.GetSearchAssistantValue(),
+                                      frame.GetSearchDetailValue(), frame.GetSearchExpenseCenterValue()})
+            QCOMPARE(value.typeId(), static_cast<int>(QMetaType::LongLong));
+    }
+
+    void valuesAreWrittenAsIntegers()
+    {
+        TForm form;
+        QVERIFY(form.Start());
+        const auto areIntegers = [&form] {
+            const QVariantList values = Values(form);
+            return std::all_of(values.begin(), values.end(),
+                               [](const QVariant& value) { return value.typeId() == QMetaType::Int; });
+        };
+        form.Frame->SetSearchTotalValue(7);
+        form.Frame->SetSearchAssistantValue(2);
+        form.Frame->SetSearchDetailValue(11);
+        form.Frame->SetSearchExpenseCenterValue(QVariant());
+        QCOMPARE(Values(form), (QVariantList{7, 2, 11, 0}));
+        QVERIFY(areIntegers());
+        form.Host.Pickers.PickedAccount = {7, 2, 12};
+        form.Frame->Select_AccountCode1->TotalCode_EDT->setFocus();
+        Typing::Type(form.Frame->Select_AccountCode1->TotalCode_EDT, QStringLiteral("+"));
+        QCOMPARE(Values(form).mid(0, 3), (QVariantList{7, 2, 12}));
+        QVERIFY(areIntegers());
     }
 
     void theOwnersValuesRunTheExits()
@@ -192,6 +217,9 @@ private Q_SLOTS:
         QCOMPARE(form.Frame->GetSearchDetailValue().toInt(), 11);
         QCOMPARE(form.Frame->GetSearchExpenseCenterValue().toInt(), 1234);
         QVERIFY(form.Other->hasFocus());
+        form.Frame->SetSearchDetailValue(100000.0);
+        QCOMPARE(selector.DetailCode_EDT->Text(), QStringLiteral("100000"));
+        QCOMPARE(form.Frame->GetSearchDetailValue().toInt(), 100000);
         form.Frame->SetSearchDetailValue(QVariant());
         QCOMPARE(form.Frame->GetSearchDetailValue().toInt(), 0);
         QCOMPARE(selector.DetailCode_EDT->Text(), QStringLiteral("تفصيلي"));

@@ -166,6 +166,18 @@ private Q_SLOTS:
         QCOMPARE(list.Applied, QVariantList{QStringLiteral("نان")});
     }
 
+    void theFrameMayBeDestroyedAsTheFocusMovesOn()
+    {
+        TListForm list;
+        list.Criterion()->SetFollowControl(list.Other);
+        QVERIFY(list.Start());
+        const QPointer<TGeneral_Search_Frame> frame = list.Frame;
+        list.Frame->Search_EDT->OnExit = [&list](QObject*) { delete list.Frame; };
+        Typing::Press(list.Edit(), Qt::Key_Down);
+        QVERIFY(!frame);
+        QCOMPARE(QApplication::focusWidget(), list.Other);
+    }
+
     void otherKeysKeepTheFocus()
     {
         TListForm list;

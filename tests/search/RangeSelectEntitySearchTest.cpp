@@ -40,6 +40,12 @@ struct TRange : TEntitySearchForm<TRange_SelectEntity_Search_Frame>
         return isActive;
     }
 
+    bool BoundsAreIntegers() const
+    {
+        return Criterion->Value1().typeId() == QMetaType::Int &&
+               Criterion->Value2().typeId() == QMetaType::Int;
+    }
+
     QWidgetList FollowingControls() const
     {
         return {Frame->SelectEntity_CMB, From->Code_EDT, To->Code_EDT, Frame->SelectEntity_Reverst_CHK,
@@ -137,7 +143,7 @@ private Q_SLOTS:
             QCOMPARE(selector->Code_EDT->EntityType(), TEntityType::etExpenseLevel1);
             QCOMPARE(selector->Code_EDT->Text() + selector->Name_LBL->Caption(), QString());
         }
-        QCOMPARE(range.Criterion->Value1().typeId(), int(QMetaType::Int));
+        QVERIFY(range.BoundsAreIntegers());
     }
 
     void theCheckBoxSwitchesTheCriterion_data()
@@ -188,10 +194,12 @@ private Q_SLOTS:
         range.Frame->SetActive(false);
         QCOMPARE(range.Steps, (QStringList{QStringLiteral("0-9 on"), QStringLiteral("0-0 on"),
                                            QStringLiteral("0-0 off")}));
+        QVERIFY(range.BoundsAreIntegers());
         range.Steps.clear();
         range.Frame->SetActive(true);
         QCOMPARE(range.Steps, (QStringList{QStringLiteral("5-0 off"), QStringLiteral("5-9 off"),
                                            QStringLiteral("5-9 on")}));
+        QVERIFY(range.BoundsAreIntegers());
     }
 
     void pickedCodesReachTheirBounds()
@@ -206,6 +214,7 @@ private Q_SLOTS:
         Typing::Press(range.To->Code_EDT, Qt::Key_F4);
         QCOMPARE(range.Criterion->Value1(), QVariant(5));
         QCOMPARE(range.Criterion->Value2(), QVariant(9));
+        QVERIFY(range.BoundsAreIntegers());
     }
 
     void completedCodesGiveTheirNumber()
@@ -244,6 +253,7 @@ private Q_SLOTS:
         range.Frame->SetSearchValue2(value);
         QCOMPARE(range.Frame->GetSearchCodeValue2(), QVariant(bound));
         QCOMPARE(range.Criterion->Value2(), QVariant(int(bound)));
+        QVERIFY(range.BoundsAreIntegers());
     }
 
     void theReverseFlagFollowsItsControls()
