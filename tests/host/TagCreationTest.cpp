@@ -1,8 +1,10 @@
+#include "ADOQuery.h"
 #include "AdvListEditorPer.h"
 #include "CodeListItems.h"
 #include "HostTestMain.h"
 #include "ModalBox.h"
 #include "PopupMenu.h"
+#include "tags_frame.h"
 #include "Tags_search_UNT.h"
 #include "TagUser.h"
 #include "TarvaSearchManager.h"
@@ -70,7 +72,78 @@ private Q_SLOTS:
         form_.reset();
     }
 
+    void aNewTagIsPutOnTheSelectedRecords()
+    {
+        TTagUser user;
+        SelectRecords(user);
+        ModalBox::TAnswer yes(ModalBox::Key(Qt::Key_Return));
+        user.Play([this] { EnterNameForRecords(QStringLiteral("تازه")); },
+                  [](TTagDialog& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); });
+        QCOMPARE(yes.Boxes(), 1);
+        const QString code =
+            user.Value(QStringLiteral("SELECT Code FROM dbo.TagS WHERE Name = N'تازه'")).toString();
+        for (const int key : {4, 5})
+            QCOMPARE(TagsOf(user, key), u',' + code + u',');
+        QCOMPARE(records_->Tags_editor->Values().Last().Value, code);
+        QCOMPARE(records_->Tags_editor->EditText(), QString());
+        QCOMPARE(form_->focusWidget(), records_->Tags_editor->focusProxy());
+        form_.reset();
+    }
+
+    void atTheLimitTheUserIsToldAndNothingIsWritten()
+    {
+        TTagUser user;
+        SelectRecords(user);
+        const int before = user.Value(QStringLiteral("SELECT COUNT(*) FROM dbo.TagS")).toInt();
+        user.Settings.SetTagLimit(before);
+        ModalBox::TAnswer yes(ModalBox::Key(Qt::Key_Return));
+        EnterNameForRecords(QStringLiteral("زیادی"));
+        QCOMPARE(yes.Boxes(), 2);
+        QVERIFY(yes.Texts.at(0).contains(
+            QStringLiteral("آیا برچسب تازه‌ای ساخته شود؟")));
+        QVERIFY(yes.Texts.at(1).contains(QStringLiteral("محدودیت در تعداد تگ ها")));
+        QCOMPARE(user.Value(QStringLiteral("SELECT COUNT(*) FROM dbo.TagS")).toInt(), before);
+        QCOMPARE(TagsOf(user, 4), QString());
+        QCOMPARE(form_->focusWidget(), records_->Tags_editor->focusProxy());
+        form_.reset();
+    }
+
 private:
+    /// A form with the tags of two goods, which carry none.
+    void SelectRecords(TTagUser& user)
+    {
+        user.Connection->Execute(QStringLiteral("UPDATE dbo.kala SET tags = NULL WHERE Code IN (4, 5)"));
+        form_ = std::make_unique<QWidget>();
+        auto* column = new QVBoxLayout(form_.get());
+        records_ = new TTags(form_.get());
+        column->addWidget(records_);
+        records_->Tags_editor->TableName = QStringLiteral("dbo.kala");
+        records_->Tags_editor->KeyField = QStringLiteral("Code");
+        records_->Tags_editor->KeyList = QStringLiteral("(4,5)");
+        records_->ADOQuery2->SQL.SetText(
+            QStringLiteral("SELECT tags FROM dbo.kala WHERE Code IN (4,5) ORDER BY Code"));
+        records_->frame_load();
+        ShowForm();
+        records_->Tags_editor->setFocus();
+    }
+    void EnterNameForRecords(const QString& name)
+    {
+        records_->Tags_editor->SetEditText(name);
+        QTest::keyClick(records_->Tags_editor, Qt::Key_Return);
+    }
+    static QString TagsOf(TTagUser& user, int key)
+    {
+        return user.Value(QStringLiteral("SELECT tags FROM dbo.kala WHERE Code = %1").arg(key)).toString();
+    }
+
+    void ShowForm()
+    {
+        form_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(form_.get()));
+        form_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(form_.get()));
+    }
+
     void Open(TTagUser& user)
     {
         form_ = std::make_unique<QWidget>();
@@ -79,10 +152,7 @@ private:
         column->addWidget(frame_);
         frame_->TarvaSearch_tags->SearchItems.Add(CodeListItems::Tags(*user.Connection));
         frame_->frame_load();
-        form_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(form_.get()));
-        form_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(form_.get()));
+        ShowForm();
         frame_->Tag_editor->setFocus();
     }
 
@@ -103,6 +173,7 @@ private:
 
     std::unique_ptr<QWidget> form_;
     TTags_search_FRM* frame_ = nullptr;
+    TTags* records_ = nullptr;
 };
 
 int main(int argc, char** argv)
