@@ -2,6 +2,7 @@
 #include "CategoryDetails.h"
 #include "CategoryForm.h"
 #include "FormParts.h"
+#include "KeyTip.h"
 #include "Look.h"
 #include "MirroredTreeView.h"
 #include "ReferenceHost.h"
@@ -17,8 +18,8 @@
 namespace {
 
 constexpr int categorySearchWidth = 260;
-constexpr int categoryNameColumn = 460;
 constexpr int categoryIdColumn = 90;
+constexpr int categoryDefaultColumn = 150;
 constexpr int detailsPause = 150; // milliseconds on a category before it is looked up
 
 } // namespace
@@ -72,19 +73,25 @@ QHBoxLayout* TCategoryForm::NewBar()
     row->addWidget(FormParts::NewLabel(QStringLiteral("&جستجو:"), search_));
     row->addWidget(search_);
     row->addStretch(1);
-    const auto add = [this, row](const QString& name, const QString& caption,
+    const auto add = [this, row](const QString& name, const QString& caption, const QString& key,
                                  void (TCategoryForm::*action)()) {
         auto* button = FormParts::NewBarButton(this, name, caption);
+        button->setToolTip(KeyTip::Of(caption, key));
         // The tree keeps the keyboard; every button has a key.
         button->setFocusPolicy(Qt::NoFocus);
         button->OnClick = [this, action](QObject*) { (this->*action)(); };
         row->addWidget(button);
     };
-    add(QStringLiteral("AddTop_BTN"), QStringLiteral("دستهٔ تازه"), &TCategoryForm::AddTop);
-    add(QStringLiteral("AddChild_BTN"), QStringLiteral("زیردسته"), &TCategoryForm::AddChild);
-    add(QStringLiteral("Rename_BTN"), QStringLiteral("تغییر نام"), &TCategoryForm::Rename);
-    add(QStringLiteral("PickUp_BTN"), QStringLiteral("جابه‌جایی"), &TCategoryForm::PickUp);
-    add(QStringLiteral("Delete_BTN"), QStringLiteral("حذف"), &TCategoryForm::DeleteCurrent);
+    add(QStringLiteral("AddTop_BTN"), QStringLiteral("دستهٔ تازه"), QStringLiteral("Ctrl+N"),
+        &TCategoryForm::AddTop);
+    add(QStringLiteral("AddChild_BTN"), QStringLiteral("زیردسته"), QStringLiteral("Insert"),
+        &TCategoryForm::AddChild);
+    add(QStringLiteral("Rename_BTN"), QStringLiteral("تغییر نام"), QStringLiteral("F2"),
+        &TCategoryForm::Rename);
+    add(QStringLiteral("PickUp_BTN"), QStringLiteral("جابه‌جایی"), QStringLiteral("Ctrl+X"),
+        &TCategoryForm::PickUp);
+    add(QStringLiteral("Delete_BTN"), QStringLiteral("حذف"), QStringLiteral("Delete"),
+        &TCategoryForm::DeleteCurrent);
     return row;
 }
 
@@ -102,8 +109,11 @@ void TCategoryForm::SetUpTree()
     tree_->setObjectName(QStringLiteral("CategoryTree"));
     tree_->setAccessibleName(QStringLiteral("دسته‌ها"));
     tree_->setModel(&model_);
-    tree_->header()->resizeSection(TCategoryTreeModel::NameColumn, categoryNameColumn);
+    // The names take what the other columns leave.
+    tree_->header()->setStretchLastSection(false);
+    tree_->header()->setSectionResizeMode(TCategoryTreeModel::NameColumn, QHeaderView::Stretch);
     tree_->header()->resizeSection(TCategoryTreeModel::IdColumn, categoryIdColumn);
+    tree_->header()->resizeSection(TCategoryTreeModel::DefaultColumn, categoryDefaultColumn);
     tree_->setDragDropMode(QAbstractItemView::DragDrop);
     tree_->setDefaultDropAction(Qt::MoveAction);
     tree_->setDragDropOverwriteMode(true); // onto a row, never between two: their order is that of the names

@@ -3,6 +3,7 @@
 #include "Balloon.h"
 #include "DetailAccountCard.h"
 #include "FormParts.h"
+#include "KeyTip.h"
 #include "ListForm.h"
 #include "Look.h"
 #include "ReferenceHost.h"
@@ -48,6 +49,7 @@ void TDetailAccountForm::Lay()
     kind_->setAccessibleName(QStringLiteral("نوع حساب"));
     kind_->setFixedSize(kindWidth, Look::ControlHeight);
     auto* create = FormParts::NewBarButton(this, QStringLiteral("New_BTN"), QStringLiteral("حساب تازه"));
+    create->setToolTip(KeyTip::Of(create->text(), QStringLiteral("Ctrl+N")));
     create->setFocusPolicy(Qt::NoFocus);
     create->OnClick = [this](QObject*) { NewAccount(); };
     row->addWidget(FormParts::NewLabel(QStringLiteral("نوع &حساب:"), kind_));

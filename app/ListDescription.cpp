@@ -61,13 +61,13 @@ TListDescription GoodsList()
     };
     list.Columns = {
         Column(QStringLiteral("Code"), QStringLiteral("کد"), 80, TGridColumn::ckCode),
-        Column(QStringLiteral("Name"), QStringLiteral("نام کالا"), 300),
-        Column(QStringLiteral("tags"), QStringLiteral("برچسب"), 90),
+        Column(QStringLiteral("Name"), QStringLiteral("نام کالا"), 270),
+        Column(QStringLiteral("tags"), QStringLiteral("برچسب"), 80),
         Column(QStringLiteral("Barcode"), QStringLiteral("بارکد"), 140, TGridColumn::ckCode),
-        Column(QStringLiteral("UnitName"), QStringLiteral("واحد"), 90),
+        Column(QStringLiteral("UnitName"), QStringLiteral("واحد"), 80),
         Column(QStringLiteral("Price"), QStringLiteral("قیمت"), 130, TGridColumn::ckMoney),
-        Column(QStringLiteral("Stock"), QStringLiteral("موجودی"), 110, TGridColumn::ckNumber),
-        Column(QStringLiteral("GroupName"), QStringLiteral("گروه"), 160),
+        Column(QStringLiteral("Stock"), QStringLiteral("موجودی"), 100, TGridColumn::ckNumber),
+        Column(QStringLiteral("GroupName"), QStringLiteral("گروه"), 140),
     };
     list.CardFields = {
         {QStringLiteral("Code"), QStringLiteral("کد"), TGridColumn::ckCode},

@@ -1,6 +1,7 @@
 #include "ListLabels.h"
 
 #include "Balloon.h"
+#include "DisplayText.h"
 #include "ReferenceHost.h"
 
 #include <QJsonDocument>
@@ -114,7 +115,7 @@ QVector<TKeyHelp> TListLabels::Keys() const
              "برگزیدن ردیف‌های پیاپی؛ با Home، End، PageUp، PageDown و کلیک هم")},
         {QStringLiteral("Ctrl+A"),
          QStringLiteral("برگزیدن همهٔ ردیف‌های جستجو، تا %1 ردیف")
-             .arg(parts_.Grid.MarkLimit())},
+             .arg(DisplayText::Grouped(QString::number(parts_.Grid.MarkLimit())))},
         {QStringLiteral("F8"),
          QStringLiteral(
              "برچسب‌ها و دستهٔ ردیف‌های برگزیده، یا ردیف جاری")},

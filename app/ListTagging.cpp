@@ -4,6 +4,7 @@
 #include "Balloon.h"
 #include "Category_Search_UNT.h"
 #include "FormParts.h"
+#include "KeyTip.h"
 #include "ListSelection.h"
 #include "Look.h"
 #include "MessageDialog.h"
@@ -70,6 +71,7 @@ QWidget* TListTagging::NewHead()
     row->addWidget(heading_, 1);
     auto* close = FormParts::NewBarButton(head, QStringLiteral("CloseTagging_BTN"), QStringLiteral("بستن"));
     close->setFocusPolicy(Qt::NoFocus);
+    close->setToolTip(KeyTip::Of(close->text(), QStringLiteral("F8")));
     close->OnClick = [this](QObject*) { Q_EMIT closed(); };
     row->addWidget(close);
     return head;

@@ -2,6 +2,7 @@
 
 #include "DisplayText.h"
 #include "HelpWindow.h"
+#include "KeyTip.h"
 #include "ListForm.h"
 #include "MessageDialog.h"
 #include "PersianText.h"
@@ -77,10 +78,12 @@ void TMainWindow::AddPageActions()
     auto* group = new QActionGroup(this);
     for (qsizetype place = 0; place < descriptions_.size(); ++place) {
         const TPageDescription& page = descriptions_.at(place);
-        QAction* action = (page.IsList ? lists : forms)->addAction(page.Title);
+        // Within a menu every title begins with a letter of its own.
+        QAction* action = (page.IsList ? lists : forms)->addAction(u'&' + page.Title);
         action->setObjectName(page.Key);
         action->setCheckable(true);
         action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)));
+        action->setToolTip(KeyTip::Of(page.Title, action->shortcut().toString()));
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, place] { OpenPageAt(place); });
         pageActions_.append(action);
@@ -178,6 +181,7 @@ void TMainWindow::AddStatus(const QString& databaseName)
         row->addWidget(label);
     };
     add(QStringLiteral("بانک: %1").arg(PersianText::Isolated(databaseName)));
+    add(QStringLiteral("F1 راهنمای کلیدها"));
     row->addStretch(1);
     add(QStringLiteral("کاربر: %1").arg(PersianText::Isolated(settings.UserInfo().Name)));
     add(DisplayText::DayInWords(host_->Clock().Today(), settings.SettingRecord().IsGregorian()));

@@ -1,6 +1,7 @@
 #include "RecordDetails.h"
 
 #include "BackgroundTask.h"
+#include "KeyTip.h"
 #include "ListDetail_FRAME_UNT.h"
 #include "ListForm.h"
 #include "Look.h"
@@ -63,6 +64,7 @@ void TRecordDetails::AddAction(const QString& caption, const QKeySequence& key,
 {
     auto* button = new TSmartButton_TRV(this);
     button->setText(caption);
+    button->setToolTip(KeyTip::Of(QString(caption).remove(u'&'), key.toString()));
     button->setFixedHeight(Look::ControlHeight);
     button->setFocusPolicy(Qt::TabFocus);
     button->OnClick = [action](QObject*) { action(); };

@@ -6,6 +6,7 @@
 #include "FormParts.h"
 #include "GregorianDateDelegate.h"
 #include "HostApplication.h"
+#include "KeyTip.h"
 #include "ListFooter.h"
 #include "Look.h"
 #include "PersianText.h"
@@ -121,6 +122,7 @@ QWidget* TReportForm::NewFooter()
     add(QStringLiteral("پروندهٔ &CSV…"), QKeySequence(Qt::CTRL | Qt::Key_E), &TReportForm::SaveCsv);
     auto* button =
         FormParts::NewBarButton(footer, QStringLiteral("Save_BTN"), QStringLiteral("&ذخیرهٔ گزارش"));
+    button->setToolTip(KeyTip::Of(QStringLiteral("پروندهٔ PDF یا CSV"), QStringLiteral("Ctrl+P, Ctrl+E")));
     button->OnClick = [button, menu](QObject*) {
         menu->popup(button->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
     };

@@ -4,6 +4,7 @@
 #include "Detail_Button_UNT.h"
 #include "DisplayText.h"
 #include "FormParts.h"
+#include "KeyTip.h"
 #include "Look.h"
 #include "MessageDialog.h"
 #include "PersianText.h"
@@ -94,6 +95,7 @@ void TStockCorrectionForm::ConnectButtons()
     connect(entry_, &TStockCorrectionEntry::rejected, this, &TStockCorrectionForm::StopTyping);
     const auto onKey = [this](Qt::Key key, TSmartButton_TRV* button) {
         auto* shortcut = new QShortcut(QKeySequence(key), grid_, nullptr, nullptr, Qt::WidgetShortcut);
+        button->setToolTip(KeyTip::Of(button->text(), shortcut->key().toString()));
         connect(shortcut, &QShortcut::activated, button, &TSmartButton_TRV::Click);
     };
     onKey(Qt::Key_Insert, buttons_->NewRecord_BTN);

@@ -3,6 +3,7 @@
 #include "CurrencyConversion.h"
 #include "CurrencyFrame_UNT.h"
 #include "EnterChain.h"
+#include "KeyTip.h"
 #include "Look.h"
 #include "Select_AccountCode_UNT.h"
 #include "SmartButton_TRV.h"
@@ -56,6 +57,7 @@ TVoucherBand::TVoucherBand(QWidget* parent)
     put_->SetAutoWidth(true);
     put_->setFocusPolicy(Qt::NoFocus);
     put_->setFixedHeight(Look::ControlHeight);
+    put_->setToolTip(KeyTip::Of(QStringLiteral("بردن ردیف به سند"), QStringLiteral("Enter")));
     SetCorrecting(false);
     put_->OnClick = [this](QObject*) { Q_EMIT lineEntered(); };
     Lay();
@@ -96,13 +98,15 @@ void TVoucherBand::Lay()
     column->setSpacing(Look::Unit);
     auto* accountRow = new QHBoxLayout;
     accountRow->setSpacing(Look::Margin);
-    accountRow->addWidget(NewLabel(QStringLiteral("&حساب:"), selector_->TotalCode_EDT, this));
+    auto* account = NewLabel(QStringLiteral("&حساب:"), selector_->TotalCode_EDT, this);
+    accountRow->addWidget(account);
     accountRow->addWidget(selector_, 1);
     column->addLayout(accountRow);
     column->addWidget(currency_);
     auto* amountRow = new QHBoxLayout;
     amountRow->setSpacing(Look::Margin);
-    amountRow->addWidget(NewLabel(QStringLiteral("&بدهکار:"), debit_, this));
+    auto* debit = NewLabel(QStringLiteral("&بدهکار:"), debit_, this);
+    amountRow->addWidget(debit);
     amountRow->addWidget(debit_);
     amountRow->addWidget(NewLabel(QStringLiteral("ب&ستانکار:"), credit_, this));
     amountRow->addWidget(credit_);
@@ -110,6 +114,9 @@ void TVoucherBand::Lay()
     amountRow->addWidget(description_, 1);
     amountRow->addWidget(put_);
     column->addLayout(amountRow);
+    // The first controls of the lines stand under each other.
+    for (TSmartLabel_TRV* label : {account, debit})
+        label->setMinimumWidth(currency_->Frame().SmartLabel_TRV3->sizeHint().width());
     QWidget* before = selector_->ExpenseCenterCode_EDT;
     const TCurrency_FRAME& currency = currency_->Frame();
     for (QWidget* control : std::initializer_list<QWidget*>{

@@ -32,6 +32,9 @@ void TVoucherCurrency::Lay()
         label->SetOnBand(true);
     for (TSmartLabel_TRV* note : {rateNote_, amountNote_})
         note->SetShowAccelChar(false);
+    // The band has margins of its own.
+    const QMargins margins = frame_->layout()->contentsMargins();
+    frame_->layout()->setContentsMargins(0, margins.top(), 0, margins.bottom());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Look::Margin);

@@ -1,6 +1,7 @@
 #include "VoucherForm.h"
 
 #include "FormParts.h"
+#include "KeyTip.h"
 #include "Look.h"
 #include "PersianText.h"
 #include "ReferenceHost.h"
@@ -104,14 +105,17 @@ void TVoucherForm::Lay()
     footer->setContentsMargins(Look::Margin, 0, 0, 0);
     footer->setSpacing(Look::Margin);
     footer->addWidget(parts.Totals, 1);
-    const auto addButton = [this, footer](const QString& name, const QString& caption, auto action) {
+    const auto addButton = [this, footer](const QString& name, const QString& caption, const QString& key,
+                                          auto action) {
         auto* button = FormParts::NewBarButton(this, name, caption);
+        button->setToolTip(KeyTip::Of(caption, key));
         button->setFocusPolicy(Qt::NoFocus);
         button->OnClick = [this, action](QObject*) { (this->*action)(); };
         footer->addWidget(button);
     };
-    addButton(QStringLiteral("New_BTN"), QStringLiteral("سند تازه"), &TVoucherForm::NewVoucher);
-    addButton(QStringLiteral("Save_BTN"), QStringLiteral("ذخیره"), &TVoucherForm::Save);
+    addButton(QStringLiteral("New_BTN"), QStringLiteral("سند تازه"), QStringLiteral("Ctrl+N"),
+              &TVoucherForm::NewVoucher);
+    addButton(QStringLiteral("Save_BTN"), QStringLiteral("ذخیره"), QStringLiteral("F2"), &TVoucherForm::Save);
     column->addLayout(footer);
 }
 

@@ -107,6 +107,16 @@ void PaintRadioIndicator(QPainter& painter, const QStyleOption& option)
     painter.restore();
 }
 
+/// What can be read and not changed is no white box that waits for a text; a ground of its own stays.
+QStyleOptionFrame WithReadOnlyGround(const QStyleOptionFrame& edit)
+{
+    QStyleOptionFrame shown(edit);
+    const QPalette::ColorGroup group = edit.palette.currentColorGroup();
+    if (edit.palette.color(group, QPalette::Base) == Look::Color(Look::TRole::Base))
+        shown.palette.setColor(group, QPalette::Base, Look::Color(Look::TRole::Window));
+    return shown;
+}
+
 void PaintEditFrame(QPainter& painter, const QStyleOption& option)
 {
     constexpr qreal Radius = 2;
@@ -156,7 +166,16 @@ QRect TLookStyle::itemTextRect(const QFontMetrics& metrics, const QRect& rect, i
 void TLookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
+    const auto* edit = qstyleoption_cast<const QStyleOptionFrame*>(option);
     switch (element) {
+    case PE_PanelLineEdit:
+        if (edit != nullptr && edit->state.testFlag(State_ReadOnly)) {
+            const QStyleOptionFrame shown = WithReadOnlyGround(*edit);
+            QProxyStyle::drawPrimitive(element, &shown, painter, widget);
+        } else {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+        break;
     case PE_FrameFocusRect:
         Look::PaintRing(*painter, option->rect, Look::RingColor(option->palette));
         break;

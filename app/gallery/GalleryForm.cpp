@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int listWidth = 300;
+constexpr int listWidth = 220;
 
 /// The first or last control of a frame that Tab reaches, in the order of Tab; null where there is none.
 QWidget* TabStop(const QWidget* frame, bool last)
@@ -124,8 +124,9 @@ QVector<TKeyHelp> TGalleryForm::Keys() const
 
 void TGalleryForm::Enter()
 {
-    if (Chosen() < 0)
-        Choose(0);
+    // Whoever gives the list the focus makes its first row current, but not chosen.
+    if (list_->selectedItems().isEmpty())
+        Choose(qMax(Chosen(), 0));
     if (focusWidget() == nullptr)
         list_->setFocus(Qt::OtherFocusReason);
     else

@@ -1,6 +1,7 @@
 #include "GalleryInspector.h"
 
 #include "AdoError.h"
+#include "Look.h"
 #include "SearchCondition.h"
 #include "TarvaSearch.h"
 
@@ -63,6 +64,8 @@ TGalleryInspector::TGalleryInspector(QWidget* parent)
     const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     journal_->setFont(font);
     state_->setFont(font);
+    state_->header()->setFont(Look::BoldFont());
+    state_->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
     QTextOption option = journal_->document()->defaultTextOption();
     option.setTextDirection(Qt::LeftToRight);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);

@@ -198,7 +198,8 @@ void SaveReport(TTourPlayer& player)
         player.Press(name.endsWith(u"pdf") ? Qt::Key_P : Qt::Key_E, Qt::ControlModifier);
         player.CheckDialogCame(QStringLiteral("نام پرونده پرسیده نشد"));
         WaitForLines(player);
-        player.Check(QFileInfo(file).size() > 1000, QStringLiteral("پرونده نوشته نشد: ") + name);
+        player.WaitUntil([&file] { return QFileInfo(file).size() > 1000; },
+                         QStringLiteral("پرونده نوشته نشد: ") + name);
     }
     player.Screenshot(QStringLiteral("report-saved"));
 }

@@ -10,6 +10,11 @@
 #include "VoucherForm.h"
 #include "VoucherHeadBar.h"
 
+#include <QListWidget>
+#include <QMenuBar>
+#include <QSet>
+#include <QToolButton>
+
 /// Pages of the main window.
 class MainWindowTest : public QObject
 {
@@ -92,6 +97,90 @@ private Q_SLOTS:
         QVERIFY(captions.contains(QStringLiteral("ذخیرهٔ سند")));
         QVERIFY(!captions.contains(QStringLiteral("خواندن دوبارهٔ فهرست")));
         help->close();
+    }
+
+    void everyEntryOfAMenuHasALetterOfItsOwn()
+    {
+        const QList<QAction*> menus = window_->menuBar()->actions();
+        QCOMPARE(menus.size(), 4);
+        for (const QAction* entry : menus) {
+            QSet<QChar> letters;
+            for (const QAction* action : entry->menu()->actions()) {
+                if (action->isSeparator())
+                    continue;
+                const qsizetype mark = action->text().indexOf(u'&');
+                QVERIFY2(mark >= 0, qUtf8Printable(action->text()));
+                const QChar letter = action->text().at(mark + 1);
+                QVERIFY2(!letters.contains(letter), qUtf8Printable(action->text()));
+                letters.insert(letter);
+            }
+        }
+    }
+
+    void aPageOpensByTheLettersOfTheMenus()
+    {
+        QMenu* forms = window_->menuBar()->actions().at(1)->menu();
+        forms->popup(QPoint(0, 0));
+        QTest::sendKeyEvent(QTest::Click, forms, static_cast<Qt::Key>(u'ص'), QStringLiteral("ص"),
+                            Qt::NoModifier);
+        QVERIFY(qobject_cast<TVoucherForm*>(window_->CurrentPage()) != nullptr);
+    }
+
+    void buttonsTellTheirKeys_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("key");
+        const auto add = [](const char* page, const char* button, const char* key) {
+            QTest::addRow("%s %s", page, button)
+                << QString::fromLatin1(page) << QString::fromLatin1(button) << QString::fromLatin1(key);
+        };
+        add("Goods", "CloseTagging_BTN", "F8");
+        add("Voucher", "New_BTN", "Ctrl+N");
+        add("Voucher", "Save_BTN", "F2");
+        add("DetailAccounts", "New_BTN", "Ctrl+N");
+        add("VoucherLines", "Save_BTN", "Ctrl+P");
+        add("Categories", "AddTop_BTN", "Ctrl+N");
+        add("Categories", "AddChild_BTN", "Insert");
+        add("Categories", "Rename_BTN", "F2");
+        add("Categories", "PickUp_BTN", "Ctrl+X");
+        add("Categories", "Delete_BTN", "Delete");
+    }
+    void buttonsTellTheirKeys()
+    {
+        QFETCH(const QString, page);
+        QFETCH(const QString, button);
+        QFETCH(const QString, key);
+        const auto* found = window_->OpenPage(page)->findChild<QAbstractButton*>(button);
+        QVERIFY(found != nullptr);
+        QVERIFY2(found->toolTip().contains(key), qUtf8Printable(found->toolTip()));
+        const bool isInHelp = [this, &key] {
+            for (const TKeyHelp& help : window_->CurrentPage()->Keys() + window_->CurrentPage()->MoreKeys) {
+                if (help.Key.contains(key))
+                    return true;
+            }
+            return false;
+        }();
+        QVERIFY2(isInHelp, qUtf8Printable(key));
+    }
+
+    void navigationTellsItsKeys()
+    {
+        const auto buttons = window_->findChildren<QToolButton*>();
+        int told = 0;
+        for (const QToolButton* button : buttons) {
+            if (button->defaultAction() == nullptr)
+                continue;
+            QVERIFY(!button->text().contains(u'&'));
+            told += button->toolTip().contains(QStringLiteral("Ctrl+%1").arg(told + 1)) ? 1 : 0;
+        }
+        QCOMPARE(told, WorkbenchPages().size());
+    }
+
+    void theGalleryBeginsWithAChosenFrame()
+    {
+        const TPage* gallery = window_->OpenPage(QStringLiteral("Gallery"));
+        QCOMPARE(gallery->findChild<QListWidget*>()->selectedItems().size(), 1);
     }
 
 private:

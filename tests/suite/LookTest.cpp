@@ -61,6 +61,7 @@ private Q_SLOTS:
     void menuWordStaysJoinedAtItsMnemonic();
     void messageTextKeepsItsColonAtTheLeft();
     void focusedEditShowsTheRing();
+    void readOnlyEditIsNoWhiteBox();
     void ringIsSeenOnTheBand();
     void standardButtonsArePersian();
     void editMenuIsPersian();
@@ -271,6 +272,24 @@ void LookTest::focusedEditShowsTheRing()
     QTRY_COMPARE(Rendered(edit).pixelColor(60, 0), accent);
     QCOMPARE(Rendered(edit).pixelColor(60, 1), accent);
     QVERIFY(Rendered(other).pixelColor(60, 1) != accent);
+}
+
+void LookTest::readOnlyEditIsNoWhiteBox()
+{
+    constexpr QPoint middle(60, 14);
+    for (const Look::TScheme scheme : {Look::TScheme::Light, Look::TScheme::Dark}) {
+        Look::SetScheme(scheme);
+        QLineEdit edit;
+        edit.resize(120, Look::ControlHeight);
+        QCOMPARE(Rendered(edit).pixelColor(middle), Look::Color(Look::TRole::Base));
+        edit.setReadOnly(true);
+        QCOMPARE(Rendered(edit).pixelColor(middle), Look::Color(Look::TRole::Window));
+        // A ground that a form has given stays.
+        QPalette palette = edit.palette();
+        palette.setColor(QPalette::Base, Qt::yellow);
+        edit.setPalette(palette);
+        QCOMPARE(Rendered(edit).pixelColor(middle), QColor(Qt::yellow));
+    }
 }
 
 void LookTest::ringIsSeenOnTheBand()
