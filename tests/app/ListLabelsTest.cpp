@@ -8,7 +8,6 @@
 #include "ListForm.h"
 #include "ListLabels.h"
 #include "RecordCard.h"
-#include "RecordCategories.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartEdit_TRV.h"
 #include "tags_frame.h"
@@ -184,6 +183,43 @@ private Q_SLOTS:
         QTRY_VERIFY(ShownTags(1).isEmpty());
     }
 
+    void aLostConnectionIsToldAndTheTagIsPutByTheNextEnter()
+    {
+        MarkTwoAndThree();
+        OpenPanel();
+        shop_->Connection.OnWillExecute = [](TADOConnection*, const QString& text) {
+            if (text.startsWith(u"update"))
+                throw EADOError(TAdoErrorKind::ConnectionLost, QStringLiteral("ارتباط قطع شد."), text);
+        };
+        shop_->Type(TagName(2));
+        shop_->Press(Qt::Key_Return);
+        shop_->Connection.OnWillExecute = nullptr;
+        QTRY_COMPARE(shop_->Told.size(), 1);
+        QVERIFY(shop_->Told.constFirst().contains(QStringLiteral("ارتباط قطع شد")));
+        QCOMPARE(Tags(2), QStringLiteral(",1,"));
+        QCOMPARE(Tags(3), QStringLiteral(",1,3,"));
+        shop_->Press(Qt::Key_Return);
+        QCOMPARE(Tags(2), QStringLiteral(",1,2,"));
+        QCOMPARE(Tags(3), QStringLiteral(",1,3,2,"));
+        QTRY_COMPARE(TagTexts().size(), 3);
+    }
+
+    void anEmptyListHasNothingToTag()
+    {
+        shop_->Type(QStringLiteral("چنین کالایی نیست"));
+        WaitForRows();
+        QCOMPARE(Keys(), QString());
+        Panel().Open();
+        QVERIFY(!Panel().Tags().isEnabled());
+        QCOMPARE(Editor().KeyList, QStringLiteral("()"));
+        QVERIFY(TagTexts().isEmpty());
+        Panel().AssignCategory();
+        Panel().Category().create_bubble(IdOf(QStringLiteral("برنج خارجی")), 1);
+        Panel().AssignCategory();
+        Panel().TakeCategoryAway();
+        QVERIFY(shop_->Told.isEmpty());
+    }
+
     void thePanelClosesByItsKeyAndGivesTheFocusBack()
     {
         FocusGrid();
@@ -213,17 +249,6 @@ private Q_SLOTS:
         Panel().TakeCategoryAway();
         QCOMPARE(CategoryOf(2), 0);
         QCOMPARE(CategoryOf(3), 0);
-    }
-
-    void aFailedAssignmentWritesNothing()
-    {
-        MarkTwoAndThree();
-        const int before = CategoryOf(2);
-        TRecordCategoriesFailure failure(shop_->Connection);
-        const TListDescription goods = GoodsList();
-        TRecordCategories categories(shop_->Connection, *goods.Labels, QStringLiteral("Code"));
-        QVERIFY_THROWS_EXCEPTION(EADOError, categories.Assign({QStringLiteral("2")}, 5));
-        QCOMPARE(CategoryOf(2), before);
     }
 
     void theCategoryLineNarrowsTheList()
@@ -365,20 +390,6 @@ private Q_SLOTS:
     }
 
 private:
-    /// Every INSERT fails while it lives.
-    struct TRecordCategoriesFailure
-    {
-        explicit TRecordCategoriesFailure(TADOConnection& connection) : Connection(connection)
-        {
-            Connection.OnWillExecute = [](TADOConnection*, const QString& text) {
-                if (text.startsWith(u"INSERT"))
-                    throw EADOError(TAdoErrorKind::Other, QStringLiteral("خطا"));
-            };
-        }
-        ~TRecordCategoriesFailure() { Connection.OnWillExecute = nullptr; }
-        TADOConnection& Connection;
-    };
-
     void Open(const TListDescription& description)
     {
         shop_->Form.reset();

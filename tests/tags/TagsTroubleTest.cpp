@@ -218,12 +218,13 @@ private Q_SLOTS:
         form.Select(keys);
         QVERIFY(form.Show());
         QCOMPARE(form.Items(), QStringList{QStringLiteral("عمده=5:red")});
-        form.Enter(QStringLiteral("نقدی"));
+        form.Editor()->SetEditText(QStringLiteral("نقدی"));
+        form.Press(Qt::Key_Return);
         QCOMPARE(CountOf(form.Tables, QStringLiteral(",5,7,")), Selected);
-        form.Press(Qt::Key_Backspace);
-        form.Press(Qt::Key_Backspace);
-        QCOMPARE(form.Items(), QStringList());
-        QCOMPARE(form.Tables.TagsOf(Selected), QStringLiteral("NULL"));
+        form.Press(Qt::Key_Home);
+        form.Press(Qt::Key_Delete);
+        QCOMPARE(form.Items(), QStringList{QStringLiteral("نقدی=7:blue")});
+        QCOMPARE(CountOf(form.Tables, QStringLiteral(",7,")), Selected);
         QCOMPARE(form.Tables.TagsOf(Selected + 1), QStringLiteral(",5,"));
     }
 
