@@ -14,7 +14,7 @@ BASEFRAME_EXPORT extern bool blnFirst;
 /// user may type another.
 ///
 /// The owner sets RateDate and reads CodeValue and PriceValue, and asks InValid before he saves. The list of
-/// currencies is read once, when the frame is loaded; setting a value earlier loads it.
+/// currencies is read once, when the frame is loaded; asking for a value or setting one earlier loads it.
 class BASEFRAME_EXPORT TCurrency_FRAME : public TFrame
 {
     Q_OBJECT

@@ -17,6 +17,8 @@ struct TGalleryStage
 {
     TReferenceHost& Host;
     std::function<void(const QString& event)> Tell; ///< shows that a frame has raised an event
+    /// Shows a statement that does not go to the open database.
+    std::function<void(const QString& text)> TellStatement;
 
     /// A handler that tells the name of its event.
     TNotifyEvent Event(const QString& name) const

@@ -164,7 +164,8 @@ void TGalleryForm::ShowChosen(int index)
 
 void TGalleryForm::MakeFrame(int index)
 {
-    const TGalleryStage stage{*host_, [this](const QString& event) { inspector_->TellEvent(event); }};
+    const TGalleryStage stage{*host_, [this](const QString& event) { inspector_->TellEvent(event); },
+                              [this](const QString& text) { inspector_->TellStatement(text); }};
     QWidget* page = stack_->widget(index);
     try {
         TFrame* frame = entries_.at(index).Create(stage, page);

@@ -1,8 +1,11 @@
+#include "ADOCommand.h"
+#include "ADOConnection.h"
 #include "ADOQuery.h"
 #include "AdvListEditorPer.h"
 #include "Category_Search_UNT.h"
 #include "Category_SearchWithManager_UNT.h"
 #include "GalleryEntry.h"
+#include "ReferenceHost.h"
 #include "SmartButton_TRV.h"
 #include "tags_frame.h"
 #include "Tags_search_UNT.h"
@@ -17,15 +20,41 @@ QString ItemsOf(const TAdvListEditorPer& editor)
     return items.join(QStringLiteral("; "));
 }
 
-/// The tags of three persons, as if a list had them selected. What is changed here is written to them.
+constexpr int CopiedRecords = 3;
+
+/// A database of its own with three records that carry the tags of three persons: who tries the frame here
+/// changes nothing of the open database. Belongs to the frame.
+TADOConnection& CopyOfPersons(TTags& frame, TADOConnection& open)
+{
+    QVariantList tags;
+    TADOQuery persons;
+    persons.SetConnection(&open);
+    persons.SQL.SetText(
+        QStringLiteral("SELECT TOP %1 tags FROM dbo.Persons ORDER BY Code").arg(CopiedRecords));
+    for (persons.Open(); !persons.Eof(); persons.Next())
+        tags.append(persons.FieldByName(QStringLiteral("tags"))->Value());
+    auto* copy = new TADOConnection(&frame);
+    copy->SetConnectionString(QStringLiteral("sqlite::memory:"));
+    copy->Open();
+    copy->Execute(
+        QStringLiteral("CREATE TABLE dbo.Persons (Code int NOT NULL PRIMARY KEY, tags nvarchar(max) NULL)"));
+    for (int code = 1; code <= CopiedRecords; ++code)
+        copy->Execute(QStringLiteral("INSERT INTO dbo.Persons (Code, tags) VALUES (?, ?)"),
+                      {code, tags.value(code - 1)});
+    return *copy;
+}
+
+/// The tags of three records, as if a list had them selected.
 void SetUp(TTags& frame, const TGalleryStage& stage)
 {
-    const QString persons = QStringLiteral("1,2,3");
+    TADOConnection& copy = CopyOfPersons(frame, stage.Host.Connection());
+    QObject::connect(&copy, &TADOConnection::willExecute, &frame, stage.TellStatement);
+    frame.ADOQuery2->SetConnection(&copy);
+    frame.cmd->SetConnection(&copy);
     frame.Tags_editor->TableName = QStringLiteral("dbo.Persons");
     frame.Tags_editor->KeyField = QStringLiteral("Code");
-    frame.Tags_editor->KeyList = u'(' + persons + u')';
-    frame.ADOQuery2->SQL.SetText(
-        QStringLiteral("SELECT tags FROM dbo.Persons WHERE Code IN (%1)").arg(persons));
+    frame.Tags_editor->KeyList = QStringLiteral("(1,2,3)");
+    frame.ADOQuery2->SQL.SetText(QStringLiteral("SELECT tags FROM dbo.Persons WHERE Code IN (1,2,3)"));
     QObject::connect(&frame, &TTags::tagsChanged,
                      [tell = stage.Tell] { tell(QStringLiteral("tagsChanged")); });
     frame.frame_load();

@@ -9,11 +9,24 @@
 #include "SmartButton_TRV.h"
 #include "SmartDetailView_TRV.h"
 
+#include <QLabel>
+#include <QVBoxLayout>
+
 namespace {
 
 /// For frames that work as they are.
 template <typename TFrameClass> void LeaveAsIs(TFrameClass& /*frame*/, const TGalleryStage& /*stage*/)
 {
+}
+
+/// What an owner puts into the place is here a word.
+void SetUp(TGetVoucher_FRM& frame, const TGalleryStage& /*stage*/)
+{
+    frame.setMinimumSize(frame.size());
+    auto* word = new QLabel(QStringLiteral("جای سند"), &frame);
+    word->setFrameShape(QFrame::Box);
+    word->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(&frame))->addWidget(word);
 }
 
 void SetUp(TDetial_Grid_Frame& frame, const TGalleryStage& stage)
@@ -59,7 +72,7 @@ QVector<TGalleryEntry> GalleryEntries::Vouchers()
                                              QStringLiteral("نوار صدور سند خودکار"), LeaveAsIs),
         GalleryEntry<TRefreshAutoVouchers_FRME>(QStringLiteral("RefreshAutoVouchersFrame_UNT"),
                                                 QStringLiteral("نوار صدور دوبارهٔ سند"), LeaveAsIs),
-        GalleryEntry<TGetVoucher_FRM>(QStringLiteral("GetVoucher_UNT"), QStringLiteral("جای سند"), LeaveAsIs),
+        GalleryEntry<TGetVoucher_FRM>(QStringLiteral("GetVoucher_UNT"), QStringLiteral("جای سند"), SetUp),
         GalleryEntry<TDetial_Grid_Frame>(QStringLiteral("Detail_Button_UNT"), QStringLiteral("کلیدهای ریز"),
                                          SetUp),
         GalleryEntry<TListDetail_FRAME>(QStringLiteral("ListDetail_FRAME_UNT"),

@@ -21,9 +21,7 @@ void ShowEveryFrame(TTourPlayer& player)
         TTourPlayer::Wait(settling);
         TFrame* const frame = gallery->ShownFrame();
         const bool shown = gallery->Chosen() == index && frame != nullptr && frame->Showing();
-        // The frame that keeps a place for a voucher has nothing to show.
-        if (player.Check(shown, QStringLiteral("قاب %1 نشان داده نشد").arg(entries[index].ClassName)) &&
-            !frame->size().isEmpty())
+        if (player.Check(shown, QStringLiteral("قاب %1 نشان داده نشد").arg(entries[index].ClassName)))
             player.Picture(*frame, entries[index].Unit);
         if (index == 0)
             player.Screenshot(QStringLiteral("gallery"));

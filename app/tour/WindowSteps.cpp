@@ -1,8 +1,14 @@
 #include "HelpWindow.h"
 #include "Look.h"
 #include "MainWindow.h"
+#include "Select_AccountCode_UNT.h"
+#include "SmartComboBox_TRV.h"
+#include "SmartEdit_TRV.h"
 #include "TourPlayer.h"
 #include "TourSteps.h"
+#include "VoucherBand.h"
+#include "VoucherForm.h"
+#include "VoucherHeadBar.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -47,15 +53,20 @@ void ShowAbout(TTourPlayer& player)
     player.Check(QApplication::activeModalWidget() == nullptr, QStringLiteral("دربارهٔ برنامه بسته نشد"));
 }
 
-void ShowForms(TTourPlayer& player, const QString& scheme)
+// The voucher that was seen before may be one of a closed year, in which nothing can be typed.
+void BeginVoucherOfOpenYear(TTourPlayer& player, TVoucherForm& form)
 {
-    player.Press(Qt::Key_3, Qt::ControlModifier);
-    player.Screenshot(QStringLiteral("voucher-empty") + scheme);
-    player.Press(Qt::Key_F3);
-    player.Type(QStringLiteral("1"));
-    player.Press(Qt::Key_Return);
-    player.Screenshot(QStringLiteral("voucher-locked") + scheme);
     player.Press(Qt::Key_N, Qt::ControlModifier);
+    form.HeadBar().YearBox().setFocus();
+    player.Press(Qt::Key_Home);
+    const TFiscalYear* year = form.HeadBar().Year();
+    player.Check(year != nullptr && !year->Closed, QStringLiteral("سال مالی باز برگزیده نشد"));
+    player.Press(Qt::Key_N, Qt::ControlModifier);
+}
+
+void ShowVoucherFault(TTourPlayer& player, TVoucherForm& form, const QString& scheme)
+{
+    BeginVoucherOfOpenYear(player, form);
     player.Press(Qt::Key_Return);
     player.Type(QStringLiteral("شرح"));
     player.Press(Qt::Key_Return);
@@ -63,8 +74,34 @@ void ShowForms(TTourPlayer& player, const QString& scheme)
     player.Type(QStringLiteral("1"));
     player.Press(Qt::Key_Return);
     player.Press(Qt::Key_F2);
+    player.Check(form.Band().Selector().TotalCode_EDT->HasError(),
+                 QStringLiteral("نیمه‌کاره بودن ردیف گفته نشد"));
     player.Screenshot(QStringLiteral("voucher-fault") + scheme);
     player.Press(Qt::Key_Escape);
+    form.HeadBar().Title().setFocus();
+    player.Press(Qt::Key_A, Qt::ControlModifier);
+    player.Press(Qt::Key_Delete);
+    player.Check(!form.IsChanged(), QStringLiteral("سند تازه خالی نشد"));
+}
+
+void ShowVouchers(TTourPlayer& player, const QString& scheme)
+{
+    player.Press(Qt::Key_3, Qt::ControlModifier);
+    auto* form = qobject_cast<TVoucherForm*>(player.Window().CurrentPage());
+    if (!player.Check(form != nullptr, QStringLiteral("فرم صدور سند باز نشد")))
+        return;
+    player.Screenshot(QStringLiteral("voucher-empty") + scheme);
+    player.Press(Qt::Key_F3);
+    player.Type(QStringLiteral("1"));
+    player.Press(Qt::Key_Return);
+    player.Check(form->Draft().Head.Number == 1, QStringLiteral("سند شمارهٔ 1 باز نشد"));
+    player.Screenshot(QStringLiteral("voucher-locked") + scheme);
+    ShowVoucherFault(player, *form, scheme);
+}
+
+void ShowForms(TTourPlayer& player, const QString& scheme)
+{
+    ShowVouchers(player, scheme);
     player.Press(Qt::Key_4, Qt::ControlModifier);
     player.Wait(300);
     player.Press(Qt::Key_N, Qt::ControlModifier);

@@ -1,5 +1,7 @@
+#include "ADOCommand.h"
 #include "GalleryFixture.h"
 #include "Monkey.h"
+#include "tags_frame.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -25,8 +27,7 @@ QString WithoutLiterals(const QString& statement)
 bool IsKnownWrite(const QString& shape)
 {
     static const QRegularExpression writes(
-        QStringLiteral("^\\s*(?:UPDATE dbo\\.Persons\\s+SET\\s+tags\\b"
-                       "|INSERT INTO dbo\\.TagS\\b"
+        QStringLiteral("^\\s*(?:INSERT INTO dbo\\.TagS\\b"
                        "|UPDATE dbo\\.FiscalYears SET Title = Title\\b"
                        "|(?:INSERT INTO|UPDATE|DELETE FROM) dbo\\.CodeLocks\\b"
                        "|(?:INSERT INTO|UPDATE|DELETE FROM) dbo\\.(?:Sanad|Sanad_Detail|Trades)\\b"
@@ -35,16 +36,24 @@ bool IsKnownWrite(const QString& shape)
     return writes.match(shape).hasMatch();
 }
 
+/// What the tags frame writes, into records of its own.
+bool IsTagging(const QString& shape)
+{
+    static const QRegularExpression tagging(QStringLiteral("^\\s*UPDATE dbo\\.Persons\\s+SET\\s+tags\\b"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return tagging.match(shape).hasMatch();
+}
+
 /// Nothing that was typed stands outside a literal, there is one statement, and it reads or writes what a
 /// frame does.
-bool IsKnown(const QString& statement)
+bool IsKnown(const QString& statement, bool (*isKnownWrite)(const QString& shape) = IsKnownWrite)
 {
     static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_\\s.,()\\[\\]=<>*+\\-/%?&!|@:]*$"));
     static const QRegularExpression reads(QStringLiteral("^\\s*SELECT\\b"),
                                           QRegularExpression::CaseInsensitiveOption);
     const QString shape = WithoutLiterals(statement);
     return plain.match(shape).hasMatch() && !shape.contains(QStringLiteral("--")) &&
-           !shape.contains(QStringLiteral("/*")) && (reads.match(shape).hasMatch() || IsKnownWrite(shape));
+           !shape.contains(QStringLiteral("/*")) && (reads.match(shape).hasMatch() || isKnownWrite(shape));
 }
 
 int FromEnvironment(const char* name, int otherwise)
@@ -73,11 +82,12 @@ private Q_SLOTS:
         QVERIFY(IsKnown(QStringLiteral("SELECT Code FROM dbo.kala WHERE Name = N'") + QChar(0xd83d) + u'\''));
         shop_ = std::make_unique<TGalleryFixture>();
         shop_->OpenGallery();
-        connect(&shop_->Connection, &TADOConnection::willExecute, this, [this](const QString& text) {
-            ++statements_;
-            if (!IsKnown(text) && !unknown_.contains(text))
-                unknown_.append(text);
-        });
+        QVERIFY(!IsKnown(QStringLiteral("UPDATE dbo.Persons SET tags = NULL")));
+        Watch(shop_->Connection, IsKnownWrite);
+        shop_->Gallery->Choose(shop_->EntryOf(QStringLiteral("TTags")));
+        tags_ = qobject_cast<TTags*>(shop_->Gallery->ShownFrame());
+        QVERIFY(tags_ != nullptr);
+        Watch(*tags_->cmd->Connection(), IsTagging);
     }
     void cleanupTestCase() { shop_.reset(); }
 
@@ -117,24 +127,36 @@ private Q_SLOTS:
     }
 
 private:
+    void Watch(const TADOConnection& connection, bool (*isKnownWrite)(const QString& shape))
+    {
+        connect(&connection, &TADOConnection::willExecute, this, [this, isKnownWrite](const QString& text) {
+            ++statements_;
+            if (!IsKnown(text, isKnownWrite) && !unknown_.contains(text))
+                unknown_.append(text);
+        });
+    }
     /// Null, or codes with a comma behind each and one before the first.
     void CheckTags()
     {
+        CheckTags(shop_->Connection, QStringLiteral("dbo.Persons"));
+        CheckTags(shop_->Connection, QStringLiteral("dbo.kala"));
+        CheckTags(*tags_->cmd->Connection(), QStringLiteral("dbo.Persons"));
+    }
+    void CheckTags(TADOConnection& connection, const QString& table)
+    {
         static const QRegularExpression codes(QStringLiteral("^,(?:[0-9]+,)+$"));
-        for (const char* table : {"dbo.Persons", "dbo.kala"}) {
-            TADOQuery query;
-            query.SetConnection(&shop_->Connection);
-            query.SQL.SetText(QStringLiteral("SELECT DISTINCT tags FROM %1 WHERE tags IS NOT NULL")
-                                  .arg(QString::fromLatin1(table)));
-            for (query.Open(); !query.Eof(); query.Next()) {
-                const QString tags = query.Field(0)->AsString();
-                if (!codes.match(tags).hasMatch() && !malformed_.contains(tags))
-                    malformed_.append(tags);
-            }
+        TADOQuery query;
+        query.SetConnection(&connection);
+        query.SQL.SetText(QStringLiteral("SELECT DISTINCT tags FROM %1 WHERE tags IS NOT NULL").arg(table));
+        for (query.Open(); !query.Eof(); query.Next()) {
+            const QString tags = query.Field(0)->AsString();
+            if (!codes.match(tags).hasMatch() && !malformed_.contains(tags))
+                malformed_.append(tags);
         }
     }
 
     std::unique_ptr<TGalleryFixture> shop_;
+    TTags* tags_ = nullptr;
     QStringList unknown_;
     QStringList malformed_;
     int statements_ = 0;

@@ -62,6 +62,22 @@ private Q_SLOTS:
         QCOMPARE(purposes.size(), 27);
     }
 
+    void everyFrameHasItsPage()
+    {
+        for (const TGalleryEntry& entry : shop_->Gallery->Entries()) {
+            QFile page(QFINDTESTDATA("../../docs/frames/") + entry.Unit + QStringLiteral(".md"));
+            QVERIFY2(page.open(QIODevice::ReadOnly), qPrintable(page.fileName()));
+            const QString text = QString::fromUtf8(page.readAll());
+            const QString picture = QStringLiteral("../images/frames/%1.png").arg(entry.Unit);
+            for (const QString& part :
+                 {entry.ClassName, entry.Unit, QStringLiteral("![](%1)").arg(picture),
+                  QStringLiteral("\n## Placing it\n"), QStringLiteral("\n## Properties and events\n"),
+                  QStringLiteral("\n## Statements\n")})
+                QVERIFY2(text.contains(part), qPrintable(entry.Unit + u' ' + part));
+            QVERIFY2(QFile::exists(QFINDTESTDATA("../../docs/frames/") + picture), qPrintable(picture));
+        }
+    }
+
     void theListReachesEveryFrame()
     {
         QVERIFY(shop_->Gallery->List().hasFocus());
@@ -142,6 +158,30 @@ private Q_SLOTS:
                      QStringLiteral("bool true"));
         QVERIFY(shop_->Journal().contains(name + QStringLiteral(".SetActive(true)")));
         QVERIFY(shop_->Journal().contains(name + QStringLiteral(".OnChange")));
+    }
+
+    void theTagsFrameChangesNothingOfTheOpenDatabase()
+    {
+        const auto tagsOfPersons = [this] {
+            QStringList tags;
+            for (int code = 1; code <= 3; ++code)
+                tags << shop_->Text(QStringLiteral("SELECT tags FROM dbo.Persons WHERE Code = %1").arg(code));
+            return tags;
+        };
+        const QStringList before = tagsOfPersons();
+        const QString name = shop_->Text(
+            QStringLiteral("SELECT TOP 1 Name FROM TagS WHERE NOT EXISTS (SELECT 1 FROM dbo.Persons WHERE "
+                           "Code <= 3 AND tags LIKE N'%,' + CAST(TagS.Code AS varchar) + N',%')"));
+        QVERIFY(!name.isEmpty());
+        shop_->Gallery->Choose(shop_->EntryOf(QStringLiteral("TTags")));
+        shop_->Press(Qt::Key_Return);
+        shop_->Type(name);
+        shop_->Press(Qt::Key_Return);
+        QTRY_VERIFY(
+            shop_->State(QStringLiteral("TTags"), QStringLiteral("Tags_editor.Values")).contains(name));
+        QVERIFY(shop_->Journal().contains(QStringLiteral("update dbo.Persons set"), Qt::CaseInsensitive));
+        QVERIFY(shop_->Journal().contains(QStringLiteral("tagsChanged")));
+        QCOMPARE(tagsOfPersons(), before);
     }
 
     void statementsAndEventsAreTold()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void aMissingAncestorShortensThePath();
     void aCircleLeavesThePathAsItWas();
     void aMenuWithoutChildrenIsEmpty();
+    void aMenuListsNamesThatAreAlikeOnceWithTheSmallestId();
     void aCategoryIsChosenByItsName();
     void anUnknownNameChangesNothing();
     void aBubbleIsFoundByItsExactText();
@@ -201,6 +202,14 @@ void CategoryFrameTest::aMenuWithoutChildrenIsEmpty()
     form_->Forget();
     Frame().Runfirst();
     QCOMPARE(Sent(), Menu(0, "(1,4)"));
+}
+
+void CategoryFrameTest::aMenuListsNamesThatAreAlikeOnceWithTheSmallestId()
+{
+    for (const int id : {62, 61, 63})
+        form_->Tables.Add(id, 4, QStringLiteral("تعمیر"));
+    Frame().createmenuItemByCode(4);
+    QCOMPARE(form_->Offered(), QStringList("تعمیر|61|4"));
 }
 
 void CategoryFrameTest::aCategoryIsChosenByItsName()

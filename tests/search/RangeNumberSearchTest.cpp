@@ -138,9 +138,18 @@ void RangeNumberSearchTest::withoutItemsInitTouchesNothing()
 {
     const TDigitFilter digits;
     digits.Criterion().SearchItems.Clear();
+    digits.Criterion().SetActive(true);
     digits.Frame->init();
     QVERIFY(digits.Frame->RangeDigit_From_EDT->isEnabled());
     QVERIFY(digits.Frame->RangeDigit_CMB->isEnabled());
+    QVERIFY(digits.Criterion().Active());
+    const TCostFilter costs;
+    costs.Criterion().SearchItems.Clear();
+    costs.Criterion().SetActive(true);
+    costs.Frame->init();
+    QVERIFY(costs.Frame->RangeCost_From_EDT->isEnabled());
+    QVERIFY(costs.Frame->RangeCost_CMB->isEnabled());
+    QVERIFY(costs.Criterion().Active());
 }
 
 void RangeNumberSearchTest::anEmptyUpperDigitBoundIsNone()
