@@ -136,13 +136,15 @@ void RangeNumberSearchTest::initStartsTheDigitLineSwitchedOff()
 
 void RangeNumberSearchTest::withoutItemsInitTouchesNothing()
 {
-    const TDigitFilter digits;
-    digits.Criterion().SearchItems.Clear();
-    digits.Criterion().SetActive(true);
-    digits.Frame->init();
-    QVERIFY(digits.Frame->RangeDigit_From_EDT->isEnabled());
-    QVERIFY(digits.Frame->RangeDigit_CMB->isEnabled());
-    QVERIFY(digits.Criterion().Active());
+    {
+        const TDigitFilter digits;
+        digits.Criterion().SearchItems.Clear();
+        digits.Criterion().SetActive(true);
+        digits.Frame->init();
+        QVERIFY(digits.Frame->RangeDigit_From_EDT->isEnabled());
+        QVERIFY(digits.Frame->RangeDigit_CMB->isEnabled());
+        QVERIFY(digits.Criterion().Active());
+    }
     const TCostFilter costs;
     costs.Criterion().SearchItems.Clear();
     costs.Criterion().SetActive(true);
