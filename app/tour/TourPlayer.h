@@ -30,7 +30,7 @@ public:
     QStringList Failures() const { return failures_; }
 
     /// Lets the program work until the condition holds; one that does not come to hold is a failed check.
-    bool WaitUntil(const std::function<bool()>& condition, const QString& what, int milliseconds = 15000);
+    bool WaitUntil(const std::function<bool()>& condition, const QString& what, int milliseconds = 60000);
     static void Wait(int milliseconds);
     /// Waits until what was typed has been applied and the first rows of the answer are here.
     void WaitForAnswer();
