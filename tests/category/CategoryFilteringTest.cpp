@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aMenuWithoutEntriesDoesNotOpen();
     void theRightButtonOpensTheMenuToo();
     void aCircleInTheTreeLeavesAFrameThatWorks();
+    void eachKeySettlesTheTypedText();
 
 private:
     using TForm = TCategoryForm<TCategorysearchframe>;
@@ -295,6 +296,16 @@ void CategoryFilteringTest::aCircleInTheTreeLeavesAFrameThatWorks()
     QVERIFY(form_->Choose(QStringLiteral("چکش")));
     QCOMPARE(form_->Bubbles().size(), 3);
     QCOMPARE(values_, QStringList(",7,"));
+}
+
+void CategoryFilteringTest::eachKeySettlesTheTypedText()
+{
+    form_->Editor().SetReadOnly(true);
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_A);
+    QVERIFY(!form_->Editor().StateFlag());
+    form_->Editor().SetReadOnly(false);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_A);
+    QVERIFY(form_->Editor().StateFlag());
 }
 
 QTEST_MAIN(CategoryFilteringTest)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void enterRebuildsThePathFromTheLastBubble();
     void enterWithoutAnythingAsksNothing();
     void aCompletedNameIsChosen();
+    void aCompletedNameThatIsGoneLeavesTheMenu();
     void backspaceOverTheOnlyBubbleOffersTheTopLevel();
     void backspaceOverTheLastBubbleOffersItsSiblings();
     void deleteCutsThePathBackAtTheRemovedBubble_data();
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void backspaceInTheTypedTextLeavesThePath();
     void aRemovedCategoryThatIsGoneOffersTheTopLevel();
     void otherKeysAskNothing();
+    void theReleaseOfAKeySettlesTheTypedText();
+    void openingPutsTheCaretBehindTheBubbles();
 
 private:
     using TForm = TCategoryForm<TCategory_frame>;
@@ -187,6 +190,17 @@ void CategoryPickingTest::aCompletedNameIsChosen()
     QCOMPARE(form_->Editor().EditText(), QString());
 }
 
+void CategoryPickingTest::aCompletedNameThatIsGoneLeavesTheMenu()
+{
+    ShowPath(2);
+    form_->Tables.Execute(QStringLiteral("DELETE FROM category WHERE id = 12"));
+    TForm::Type(QStringLiteral("چکش چوبی;"));
+    QCOMPARE(Sent(), QStringList(CategoryTexts::Named("'چکش چوبی'")));
+    QCOMPARE(form_->Bubbles(), QStringList({"کالا|1|0", "ابزار|2|1", "چکش چوبی||7"}));
+    QCOMPARE(form_->Offered(), QStringList({"چکش|7|2", "استاد'کار|8|2"}));
+    QCOMPARE(form_->Frame->ChosenCategory(), 0);
+}
+
 void CategoryPickingTest::backspaceOverTheOnlyBubbleOffersTheTopLevel()
 {
     ShowPath(1);
@@ -270,6 +284,24 @@ void CategoryPickingTest::otherKeysAskNothing()
         TForm::Press(key);
     QCOMPARE(Sent(), QStringList());
     QCOMPARE(form_->Bubbles().size(), 3);
+}
+
+void CategoryPickingTest::theReleaseOfAKeySettlesTheTypedText()
+{
+    form_->Editor().SetReadOnly(true);
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_A);
+    QVERIFY(form_->Editor().StateFlag());
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_A);
+    QVERIFY(!form_->Editor().StateFlag());
+}
+
+void CategoryPickingTest::openingPutsTheCaretBehindTheBubbles()
+{
+    ShowPath(2);
+    TForm::Press(Qt::Key_Home);
+    form_->Frame->open(false);
+    TForm::Press(Qt::Key_Backspace);
+    QCOMPARE(form_->Bubbles(), QStringList("کالا|1|0"));
 }
 
 QTEST_MAIN(CategoryPickingTest)

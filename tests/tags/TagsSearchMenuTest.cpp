@@ -21,6 +21,7 @@ private Q_SLOTS:
         QCOMPARE(entry.Caption(), QStringLiteral("هفت"));
         QCOMPARE(entry.Tag, 7);
         QCOMPARE(entry.ImageIndex, 0);
+        QCOMPARE(entry.icon().pixmap(16).toImage().pixelColor(8, 8), QColor(32, 96, 192));
         // Green was no tag's colour when the pictures were read.
         QCOMPARE(form_->Menu().Item(3)->ImageIndex, -1);
     }

@@ -117,6 +117,16 @@ private Q_SLOTS:
         QVERIFY(form_->Frame->ChosenCodes().isEmpty());
     }
 
+    void aCompletedEntryIsPickedWithoutFiltering()
+    {
+        QVERIFY(form_->Show(false));
+        form_->Editor().Lookup().AddPair(QStringLiteral("پنج"), QStringLiteral("5"), 1);
+        form_->Type(QStringLiteral("پنج;"));
+        QCOMPARE(form_->Items(), QStringList{QStringLiteral("پنج:5:1")});
+        QVERIFY(!form_->Criterion().Active());
+        QVERIFY(!form_->Criterion().Value1().isValid());
+    }
+
     void aFrameThatIsClosedWhileTheHostAsksIsLeftAlone()
     {
         Answer(TMessageResult::mrYes, 5);
