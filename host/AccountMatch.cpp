@@ -23,7 +23,8 @@ TAccountMatch::TRank RankOfCode(int code, int length, const QString& typed)
 TAccountMatch::TAccountMatch(const QString& typed) : pattern_(typed.trimmed())
 {
     static const QRegularExpression codes(QStringLiteral("^([0-9]+)(?:\\s*[-/ ]\\s*([0-9]*))?$"));
-    const auto match = codes.match(PersianText::AsciiDigits(typed).trimmed());
+    // Without runs of blanks, whose number the pattern would take the square of.
+    const auto match = codes.match(PersianText::AsciiDigits(typed).simplified());
     digits_ = match.captured(1);
     divided_ = match.hasMatch() && match.capturedStart(2) >= 0;
     assistant_ = match.captured(2);

@@ -24,6 +24,8 @@
 #include "TabControl.h"
 #include "VoucherForm.h"
 
+#include <QDir>
+
 class ReportFormTest : public QObject
 {
     Q_OBJECT
@@ -237,6 +239,42 @@ private Q_SLOTS:
             shop_->Report->Manager().Flush();
         }
         shop_->Expect([](const TPlainLine& line) { return line.Number >= 5; });
+    }
+
+    void closingDoesNotWaitForWhatIsUnderWay()
+    {
+        const QString file = shop_->Folder.filePath(QStringLiteral("closing.csv"));
+        for (int round = 0; round < 10; ++round) {
+            auto& report = shop_->Open<TReportForm>();
+            report.AskFileName = [&file](const QString&, const QString&) { return file; };
+            report.Filters().Digit->SetActive(true);
+            report.Filters().Digit->SetSearchValue1(round + 1);
+            if (round % 3 > 0)
+                report.Manager().Flush();
+            report.Refresh();
+            if (round % 2 == 0)
+                report.SaveCsv();
+            if (round % 3 == 2)
+                QTest::qWait(round);
+            report.SaveState();
+            shop_->Form.reset();
+        }
+        filters_ = &shop_->OpenReport().Filters();
+        QCOMPARE(filters_->Digit->RangeDigit_From_EDT->Text(), QStringLiteral("10"));
+        shop_->Expect([](const TPlainLine& line) { return line.Number >= 10; });
+        QCOMPARE(shop_->Told, QStringList());
+        // Nothing half written stays behind.
+        QVERIFY(QDir(shop_->Folder.path()).entryList({QStringLiteral("closing.csv.*")}).isEmpty());
+    }
+
+    void aKeptEntityThatIsGoneFiltersNothing()
+    {
+        shop_->Form.reset();
+        shop_->Settings.SetValue(QStringLiteral("Reports/VoucherLines/Filters"),
+                                 QStringLiteral("{\"entity\":{\"on\":true,\"values\":[\"987654\"]}}"));
+        shop_->OpenReport();
+        shop_->ExpectAll();
+        QCOMPARE(shop_->Told, QStringList());
     }
 
     void enterOpensTheVoucherOfTheLine()
