@@ -118,7 +118,8 @@ void TCategoryForm::SetUpTree()
     tree_->setDefaultDropAction(Qt::MoveAction);
     tree_->setDragDropOverwriteMode(true); // onto a row, never between two: their order is that of the names
     tree_->setAutoExpandDelay(600);
-    tree_->SetEmptyText(QStringLiteral("هنوز دسته‌ای نیست."));
+    tree_->SetEmptyText(QStringLiteral(
+        "هنوز دسته‌ای نیست. برای ساختن نخستین دسته Ctrl+N را بزنید."));
     connect(tree_, &TMirroredTreeView::currentMoved, &detailsDelay_, qOverload<>(&QTimer::start));
     connect(tree_, &TMirroredTreeView::rowChosen, this, &TCategoryForm::Rename);
     const auto* keys = new TTypeToFind(search_, tree_, this);

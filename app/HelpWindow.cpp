@@ -7,6 +7,9 @@
 
 #include <QGridLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -44,6 +47,24 @@ void AddLine(QGridLayout* grid, const TKeyHelp& line, QWidget* parent)
     grid->addWidget(meaning, row, 1);
 }
 
+/// As large as the keys where the screen has the room; the rest is scrolled to, by the keyboard too.
+QScrollArea* NewKeysArea(QWidget* keys, QWidget* parent)
+{
+    constexpr double mostOfScreen = 0.75;
+    auto* area = new QScrollArea(parent);
+    area->setAccessibleName(QStringLiteral("کلیدها"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(keys);
+    const QSize wanted = keys->sizeHint();
+    const int highest = static_cast<int>(parent->screen()->availableSize().height() * mostOfScreen);
+    const bool scrolls = wanted.height() > highest;
+    area->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    const int bar = scrolls ? area->verticalScrollBar()->sizeHint().width() + Look::Unit : 0;
+    area->setMinimumSize(wanted.width() + bar, qMin(wanted.height(), highest));
+    return area;
+}
+
 } // namespace
 
 THelpWindow::THelpWindow(const QString& pageTitle, const QVector<TKeyHelp>& pageKeys, QWidget* parent)
@@ -54,16 +75,18 @@ THelpWindow::THelpWindow(const QString& pageTitle, const QVector<TKeyHelp>& page
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Look::GroupGap, Look::GroupGap, Look::GroupGap, Look::GroupGap);
     column->setSpacing(Look::GroupGap);
-    auto* grid = new QGridLayout;
+    auto* keys = new QWidget;
+    auto* grid = new QGridLayout(keys);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Look::GroupGap);
     grid->setVerticalSpacing(Look::LineGap);
-    AddHeading(grid, pageTitle, this);
+    AddHeading(grid, pageTitle, keys);
     for (const TKeyHelp& line : pageKeys)
-        AddLine(grid, line, this);
-    AddHeading(grid, QStringLiteral("همه‌جا"), this);
+        AddLine(grid, line, keys);
+    AddHeading(grid, QStringLiteral("همه‌جا"), keys);
     for (const TKeyHelp& line : WindowKeys())
-        AddLine(grid, line, this);
-    column->addLayout(grid);
+        AddLine(grid, line, keys);
+    column->addWidget(NewKeysArea(keys, this), 1);
     auto* close = new QPushButton(QStringLiteral("ب&ستن"), this);
     close->setMinimumHeight(Look::ControlHeight);
     close->setDefault(true);

@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolButton>
@@ -25,6 +26,7 @@
 namespace {
 
 constexpr QSize firstSize{1180, 720};
+constexpr QSize windowBorder{16, 40}; // what a window manager puts around, roughly
 constexpr int navigationWidth = 132;
 constexpr int navigationButtonHeight = 40;
 
@@ -282,7 +284,7 @@ void TMainWindow::RestoreWindow()
 {
     const QByteArray geometry = host_->Settings().Value(geometryKey).toByteArray();
     if (geometry.isEmpty() || !restoreGeometry(geometry))
-        resize(firstSize);
+        resize(firstSize.boundedTo(screen()->availableSize() - windowBorder));
 }
 
 void TMainWindow::closeEvent(QCloseEvent* event)

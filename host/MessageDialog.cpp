@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace {
@@ -75,11 +76,19 @@ bool HasPersian(const QString& text)
                        [](QChar character) { return character.script() == QChar::Script_Arabic; });
 }
 
+/// Names and paths stand in guillemets; each keeps its own order, the slash that it begins with included.
+QString WithIsolatedNames(const QString& text)
+{
+    static const QRegularExpression quoted(QStringLiteral("«([^«»\u2068]+)»"));
+    return QString(text).replace(quoted, QStringLiteral("«\u2068\\1\u2069»"));
+}
+
 QLabel* MessageText(const QString& text, QWidget* parent)
 {
     // The mark in front makes a paragraph that begins with a code or a Latin name right to left all the same;
     // a sentence without a Persian letter keeps its own order.
-    const QString paragraph = HasPersian(text) ? text : PersianText::Isolated(text);
+    const QString paragraph = HasPersian(text) ? PersianText::WithIsolatedCodes(WithIsolatedNames(text))
+                                               : PersianText::Isolated(text);
     auto* label = new QLabel(QChar(0x200F) + paragraph, parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);

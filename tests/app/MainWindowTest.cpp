@@ -12,6 +12,9 @@
 
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QToolButton>
 
@@ -97,6 +100,22 @@ private Q_SLOTS:
         QVERIFY(captions.contains(QStringLiteral("ذخیرهٔ سند")));
         QVERIFY(!captions.contains(QStringLiteral("خواندن دوبارهٔ فهرست")));
         help->close();
+    }
+
+    void theFirstWindowAndTheHelpFitTheScreen()
+    {
+        const QSize room = window_->screen()->availableSize();
+        // What the page in front needs at the least has to be seen in any case.
+        QVERIFY(window_->width() <= qMax(room.width(), window_->minimumSizeHint().width()));
+        QVERIFY(window_->height() <= room.height());
+        // More keys than any page has.
+        THelpWindow help(QStringLiteral("صفحه"),
+                         QVector<TKeyHelp>(100, {QStringLiteral("F1"), QStringLiteral("راهنما")}),
+                         window_.get());
+        help.show();
+        QVERIFY(help.height() <= room.height());
+        QVERIFY(help.findChild<QScrollArea*>()->verticalScrollBar()->maximum() > 0);
+        QCOMPARE(help.findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
     }
 
     void everyEntryOfAMenuHasALetterOfItsOwn()

@@ -6,6 +6,7 @@
 #include "PersianText.h"
 
 #include <array>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -228,6 +229,17 @@ private Q_SLOTS:
         QVERIFY(numbered.Has(10026));
         QVERIFY(numbered.Find(20150).Text.contains(QStringLiteral("برچسب")));
         QCOMPARE(numbered.Find(20150).Kind, TMessageDialog::TKind::Question);
+    }
+
+    void aPathInAMessageKeepsItsOrder()
+    {
+        const QString text = QStringLiteral("پروندهٔ «/srv/سال ۱۴۰۵/a b.db» پیدا نشد.");
+        const TMessageDialog box(TMessageDialog::TKind::Error, text, {TMessageDialog::OkButton()}, nullptr);
+        QCOMPARE(box.Text(), text);
+        bool isolated = false;
+        for (const QLabel* label : box.findChildren<QLabel*>())
+            isolated |= label->text().contains(QStringLiteral("«\u2068/srv/سال ۱۴۰۵/a b.db\u2069»"));
+        QVERIFY(isolated);
     }
 
     void aTooltipIsABalloonThatLeavesTheFocusAlone()
