@@ -5,6 +5,14 @@
 
 namespace Dialect {
 
+/// A server type as it is written in a statement.
+struct TWrittenType
+{
+    TType Type;
+    /// For a column; keeps the server's own name (char, smallint), which TType does not know.
+    QString Declared;
+};
+
 /// Reads the expressions of one scope.
 class TExpressions
 {
@@ -25,8 +33,9 @@ public:
     /// A list of plain whole numbers up to its closing bracket. Empty, and nothing is read, where it is
     /// another list.
     QString KeysInBrackets();
-    /// A server type with its length; the next tokens must be one.
-    TType TypeName(int textLength);
+    /// A server type with its length, which is `textLength` for a bounded text without one; the next tokens
+    /// must be one.
+    TWrittenType TypeName(int textLength);
 
 private:
     TPiece Conjunction();

@@ -28,7 +28,7 @@ TPiece CallConvert(TExpressions& expressions)
 {
     TCursor& cursor = expressions.Cursor();
     constexpr int lengthOfCast = 30;
-    const TType target = expressions.TypeName(lengthOfCast);
+    const TType target = expressions.TypeName(lengthOfCast).Type;
     cursor.Expect(TSymbol::Comma);
     const TPiece value = expressions.Value();
     if (!cursor.Accept(TSymbol::Comma)) {
@@ -45,7 +45,7 @@ TPiece CallCast(TExpressions& expressions)
     constexpr int lengthOfCast = 30;
     const TPiece value = expressions.Value();
     expressions.Cursor().Expect(TKeyword::As);
-    const TType target = expressions.TypeName(lengthOfCast);
+    const TType target = expressions.TypeName(lengthOfCast).Type;
     expressions.Cursor().Expect(TSymbol::CloseBracket);
     return Cast(expressions.Cursor(), value, target);
 }
@@ -164,7 +164,7 @@ TPiece CallDatabaseFunction(TExpressions& expressions, const TToken& name)
     return WholePiece(QuotedName(function) + u'(' + values.join(QLatin1String(", ")) + u')', {});
 }
 
-TType TExpressions::TypeName(int textLength)
+TWrittenType TExpressions::TypeName(int textLength)
 {
     const std::size_t start = cursor_.Position();
     const TToken& name = cursor_.Take();
@@ -184,7 +184,7 @@ TType TExpressions::TypeName(int textLength)
     TType type = TypeOfDeclaration(declared);
     if (type.IsText() && length == 0 && type.Length != Unbounded)
         type.Length = textLength;
-    return type;
+    return {type, declared};
 }
 
 } // namespace Dialect

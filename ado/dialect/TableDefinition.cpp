@@ -82,20 +82,8 @@ void TTableDefinition::ComputedColumn(TColumnText& column)
 
 void TTableDefinition::TypedColumn(TColumnText& column)
 {
-    const std::size_t start = cursor_.Position();
-    TType type = TExpressions(cursor_, TScope()).TypeName(1);
-    // The declaration keeps the server's own name of the type (char, smallint), which TType does not know.
-    cursor_.MoveTo(start);
-    const QString name = cursor_.Take().Name();
-    int length = 0;
-    int scale = 0;
-    if (cursor_.Accept(TSymbol::OpenBracket)) {
-        length = cursor_.AcceptWord(QLatin1StringView("MAX")) ? UnboundedLength : cursor_.ExpectNumber();
-        if (cursor_.Accept(TSymbol::Comma))
-            scale = cursor_.ExpectNumber();
-        cursor_.Expect(TSymbol::CloseBracket);
-    }
-    column.Declared = SqliteDeclaredType(name, length, scale);
+    auto [type, declared] = TExpressions(cursor_, TScope()).TypeName(1);
+    column.Declared = declared;
     types_.append({column.Name, type});
     while (ColumnConstraint(column, type)) {
     }
