@@ -2,6 +2,7 @@
 
 #include "Look.h"
 #include "Page.h"
+#include "WorkbenchPages.h"
 
 #include <QMainWindow>
 #include <QVector>

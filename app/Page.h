@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <QKeySequence>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -45,15 +43,3 @@ Q_SIGNALS:
     /// The user wants to see a voucher; the window opens it.
     void voucherWanted(int fiscalYear, int number);
 };
-
-/// A page as menu and navigation know it.
-struct TPageDescription
-{
-    QString Key;   ///< by which the program opens it
-    QString Title; ///< in menu, navigation and the window's title
-    std::function<TPage*(TReferenceHost& host, QWidget* parent)> Create;
-    bool IsList = true; ///< lists and forms have a menu each
-};
-
-/// All pages in the order of the navigation; Ctrl with the digit of its place opens a page.
-QVector<TPageDescription> WorkbenchPages();

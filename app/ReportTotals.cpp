@@ -1,32 +1,12 @@
 #include "ReportTotals.h"
 
-#include "Decimal.h"
-#include "DisplayText.h"
 #include "Look.h"
-#include "PersianText.h"
 #include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
+#include "TotalsText.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-
-namespace {
-
-QString Amount(const TDecimal& amount)
-{
-    return PersianText::Isolated(DisplayText::Grouped(amount.ToString().remove(u'-')));
-}
-
-QString Balance(const TDecimal& balance)
-{
-    if (balance.IsZero())
-        return QStringLiteral("تراز است");
-    const QString side =
-        balance.ToString().startsWith(u'-') ? QStringLiteral(" بستانکار") : QStringLiteral(" بدهکار");
-    return QStringLiteral("مانده: ") + Amount(balance) + side;
-}
-
-} // namespace
 
 TReportTotals::TReportTotals(QWidget* parent) : QWidget(parent)
 {
@@ -36,7 +16,6 @@ TReportTotals::TReportTotals(QWidget* parent) : QWidget(parent)
     const auto add = [this, row](const QString& name) {
         auto* label = new TSmartLabel_TRV(this);
         label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
         label->setFont(RelativeFonts::Bold());
         row->addWidget(label);
         return label;
@@ -55,7 +34,8 @@ void TReportTotals::Show(const TReportSum& sum)
     known_ = true;
     const TDecimal debit(sum.Debit);
     const TDecimal credit(sum.Credit);
-    ShowTexts(Amount(debit), Amount(credit), sum.Count == 0 ? QString() : Balance(debit - credit));
+    ShowTexts(TotalsText::Amount(debit), TotalsText::Amount(credit),
+              sum.Count == 0 ? QString() : TotalsText::Balance(debit - credit));
 }
 
 void TReportTotals::ShowPending()

@@ -25,7 +25,6 @@ public:
     TStockCorrection Typed() const;
     void FocusFirst();
     TSmartDateEdit_TRV& Date() { return *date_; }
-    TSmartComboBox_TRV& Direction() { return *direction_; }
     TSmartEdit_TRV& Quantity() { return *quantity_; }
     TSmartEdit_TRV& Reason() { return *reason_; }
 

@@ -1,10 +1,9 @@
 #include "VoucherTotals.h"
 
-#include "DisplayText.h"
 #include "Look.h"
-#include "PersianText.h"
 #include "RelativeFonts.h"
 #include "SmartLabel_TRV.h"
+#include "TotalsText.h"
 #include "VoucherDraft.h"
 
 #include <QEvent>
@@ -16,14 +15,8 @@ TSmartLabel_TRV* AddLabel(QHBoxLayout* row, const QString& name, QWidget* parent
 {
     auto* label = new TSmartLabel_TRV(parent);
     label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
     row->addWidget(label, stretch);
     return label;
-}
-
-QString Amount(const TDecimal& amount)
-{
-    return PersianText::Isolated(DisplayText::Grouped(amount.ToString().remove(u'-')));
 }
 
 } // namespace
@@ -47,15 +40,9 @@ void TVoucherTotals::Show(const TVoucherDraft& draft)
 {
     const TDecimal balance = draft.Balance();
     balanced_ = balance.IsZero();
-    debit_->SetCaption(QStringLiteral("جمع بدهکار: ") + Amount(draft.DebitTotal()));
-    credit_->SetCaption(QStringLiteral("جمع بستانکار: ") + Amount(draft.CreditTotal()));
-    const QString side =
-        balance.ToString().startsWith(u'-') ? QStringLiteral(" بستانکار") : QStringLiteral(" بدهکار");
-    if (draft.Count() == 0)
-        balance_->Clear();
-    else
-        balance_->SetCaption(balanced_ ? QStringLiteral("تراز است")
-                                       : QStringLiteral("مانده: ") + Amount(balance) + side);
+    debit_->SetCaption(QStringLiteral("جمع بدهکار: ") + TotalsText::Amount(draft.DebitTotal()));
+    credit_->SetCaption(QStringLiteral("جمع بستانکار: ") + TotalsText::Amount(draft.CreditTotal()));
+    balance_->SetCaption(draft.Count() == 0 ? QString() : TotalsText::Balance(balance));
     Repaint();
 }
 

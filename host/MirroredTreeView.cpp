@@ -1,6 +1,7 @@
 #include "MirroredTreeView.h"
 
 #include "Look.h"
+#include "RelativeFonts.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -30,27 +31,17 @@ protected:
     }
 };
 
-/// The family stays that of the application, so that a switch of the digits reaches the list.
-QFont SizedFont(bool bold)
-{
-    QFont font;
-    font.setPixelSize(Look::SmallFont().pixelSize());
-    font.setBold(bold);
-    font.setResolveMask(QFont::SizeResolved | (bold ? QFont::WeightResolved : 0));
-    return font;
-}
-
 } // namespace
 
 TMirroredTreeView::TMirroredTreeView(QWidget* parent) : QTreeView(parent)
 {
     setItemDelegate(new TRowDelegate(this));
-    setFont(SizedFont(false));
+    setFont(RelativeFonts::Small());
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
     setVerticalScrollMode(ScrollPerPixel);
-    header()->setFont(SizedFont(true));
+    header()->setFont(RelativeFonts::SmallBold());
     header()->setFixedHeight(Look::GridRowHeight);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(true);

@@ -1,5 +1,6 @@
 #include "ADVSearch_UNT.h"
 
+#include "DrawnIcon.h"
 #include "FilterLine.h"
 #include "SmartButton_TRV.h"
 #include "SmartCheckBox_TRV.h"
@@ -7,23 +8,16 @@
 #include "ui_ADVSearch_UNT.h"
 
 #include <QEvent>
-#include <QIcon>
-#include <QPainter>
 
 namespace {
 
 /// A magnifying glass.
 QIcon Glass(const QColor& color)
 {
-    constexpr int Side = 48;
-    QPixmap picture(Side, Side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 5, Qt::SolidLine, Qt::RoundCap));
-    painter.drawEllipse(QPoint(28, 20), 14, 14);
-    painter.drawLine(17, 31, 6, 42);
-    return QIcon(picture);
+    return DrawnIcon(QPen(color, 5, Qt::SolidLine, Qt::RoundCap), [](QPainter& painter) {
+        painter.drawEllipse(QPoint(28, 20), 14, 14);
+        painter.drawLine(17, 31, 6, 42);
+    });
 }
 
 } // namespace

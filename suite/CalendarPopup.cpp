@@ -1,12 +1,12 @@
 #include "CalendarPopup.h"
 
+#include "DrawnIcon.h"
 #include "Look.h"
 #include "MonthPage.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -20,23 +20,18 @@ constexpr int MonthsOfYear = 12;
 /// One sign for a month, two for a year; what was lies to the right.
 QIcon ChevronIcon(int months)
 {
-    constexpr int Side = 48;
+    constexpr int Middle = 24;
     constexpr int Step = 12;
-    QPixmap picture(Side, Side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Look::Color(Look::TRole::Text), 4));
-    const int tip = months < 0 ? Step : -Step;
-    const int signs = qAbs(months) == 1 ? 1 : 2;
-    for (int sign = 0; sign < signs; ++sign) {
-        const int middle = Side / 2 + Step * (2 * sign - signs + 1) / 2;
-        const QPoint points[] = {{middle - tip / 2, Side / 2 - Step},
-                                 {middle + tip / 2, Side / 2},
-                                 {middle - tip / 2, Side / 2 + Step}};
-        painter.drawPolyline(points, 3);
-    }
-    return QIcon(picture);
+    return DrawnIcon(QPen(Look::Color(Look::TRole::Text), 4), [months](QPainter& painter) {
+        const int tip = months < 0 ? Step : -Step;
+        const int signs = qAbs(months) == 1 ? 1 : 2;
+        for (int sign = 0; sign < signs; ++sign) {
+            const int x = Middle + Step * (2 * sign - signs + 1) / 2;
+            const QPoint points[] = {
+                {x - tip / 2, Middle - Step}, {x + tip / 2, Middle}, {x - tip / 2, Middle + Step}};
+            painter.drawPolyline(points, 3);
+        }
+    });
 }
 
 } // namespace

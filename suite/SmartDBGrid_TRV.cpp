@@ -6,6 +6,7 @@
 #include "GridMarks.h"
 #include "Look.h"
 #include "PagedDataSet.h"
+#include "RelativeFonts.h"
 
 #include <algorithm>
 #include <array>
@@ -24,16 +25,6 @@ namespace {
 
 constexpr int LeastWidth = 20;
 constexpr int GreatestWidth = 2000;
-
-/// The family stays that of the application, so that a switch of the digits reaches the grid.
-QFont SizedFont(bool bold)
-{
-    QFont font;
-    font.setPixelSize(Look::SmallFont().pixelSize());
-    font.setBold(bold);
-    font.setResolveMask(QFont::SizeResolved | (bold ? QFont::WeightResolved : 0));
-    return font;
-}
 
 } // namespace
 
@@ -62,7 +53,7 @@ TSmartDBGrid_TRV::TSmartDBGrid_TRV(QWidget* parent) : QTableView(parent), d(std:
 {
     setModel(&d->columns);
     setItemDelegate(new TGridDelegate(&d->columns, &d->marks, this));
-    setFont(SizedFont(false));
+    setFont(RelativeFonts::Small());
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -76,7 +67,7 @@ TSmartDBGrid_TRV::TSmartDBGrid_TRV(QWidget* parent) : QTableView(parent), d(std:
     verticalHeader()->setDefaultSectionSize(Look::GridRowHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     QHeaderView* header = horizontalHeader();
-    header->setFont(SizedFont(true));
+    header->setFont(RelativeFonts::SmallBold());
     header->setFixedHeight(Look::GridRowHeight);
     header->setMinimumSectionSize(LeastWidth);
     header->setHighlightSections(false);

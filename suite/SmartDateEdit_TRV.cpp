@@ -1,12 +1,12 @@
 #include "SmartDateEdit_TRV.h"
 
 #include "CalendarPopup.h"
+#include "DrawnIcon.h"
 #include "Look.h"
 
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
 #include <QPointer>
 
 namespace {
@@ -61,21 +61,16 @@ bool OpensCalendar(const QKeyEvent* event)
 
 QIcon CalendarIcon(const QColor& color)
 {
-    constexpr int Side = 48;
-    QPixmap picture(Side, Side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 4));
-    painter.drawRoundedRect(QRect(6, 9, 36, 34), 4, 4);
-    painter.fillRect(QRect(6, 14, 36, 4), color);
-    for (const int x : {15, 32})
-        painter.drawLine(x, 4, x, 11);
-    for (int row = 0; row < 2; ++row) {
-        for (int column = 0; column < 3; ++column)
-            painter.fillRect(QRect(13 + 9 * column, 24 + 9 * row, 5, 5), color);
-    }
-    return QIcon(picture);
+    return DrawnIcon(QPen(color, 4), [&color](QPainter& painter) {
+        painter.drawRoundedRect(QRect(6, 9, 36, 34), 4, 4);
+        painter.fillRect(QRect(6, 14, 36, 4), color);
+        for (const int x : {15, 32})
+            painter.drawLine(x, 4, x, 11);
+        for (int row = 0; row < 2; ++row) {
+            for (int column = 0; column < 3; ++column)
+                painter.fillRect(QRect(13 + 9 * column, 24 + 9 * row, 5, 5), color);
+        }
+    });
 }
 
 } // namespace

@@ -2,29 +2,24 @@
 
 #include "CalculatorPopup.h"
 #include "DecimalText.h"
+#include "DrawnIcon.h"
 #include "Look.h"
 #include "PersianText.h"
 
 #include <QAction>
-#include <QPainter>
 
 namespace {
 
 QIcon CalculatorIcon(const QColor& color)
 {
-    constexpr int Side = 48;
-    QPixmap picture(Side, Side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 4));
-    painter.drawRoundedRect(QRect(8, 3, 32, 42), 5, 5);
-    painter.fillRect(QRect(15, 11, 18, 7), color);
-    for (int row = 0; row < 2; ++row) {
-        for (int column = 0; column < 3; ++column)
-            painter.fillRect(QRect(15 + 7 * column, 24 + 8 * row, 4, 5), color);
-    }
-    return QIcon(picture);
+    return DrawnIcon(QPen(color, 4), [&color](QPainter& painter) {
+        painter.drawRoundedRect(QRect(8, 3, 32, 42), 5, 5);
+        painter.fillRect(QRect(15, 11, 18, 7), color);
+        for (int row = 0; row < 2; ++row) {
+            for (int column = 0; column < 3; ++column)
+                painter.fillRect(QRect(15 + 7 * column, 24 + 8 * row, 4, 5), color);
+        }
+    });
 }
 
 } // namespace

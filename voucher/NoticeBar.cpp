@@ -1,6 +1,7 @@
 #include "NoticeBar.h"
 
 #include "Look.h"
+#include "RelativeFonts.h"
 #include "SmartPanel_TRV.h"
 
 #include <QEvent>
@@ -27,10 +28,7 @@ TNoticeBar::TNoticeBar(TSmartPanel_TRV* outer, TSmartPanel_TRV* inner, QLabel* m
 {
     Paint(outer, Look::FromColorValue(FrameColor));
     Paint(inner, Qt::white);
-    // Names the size only, so that a switch of the application's digits reaches the message.
-    QFont small;
-    small.setPixelSize(Look::SmallFont().pixelSize());
-    message->setFont(small);
+    message->setFont(RelativeFonts::Small());
     movie_->setCacheMode(QMovie::CacheAll);
     movie_->jumpToFrame(0);
     picture_->setMovie(movie_);
