@@ -8,15 +8,6 @@ TEntityTable Row(int entityType, int lookupOption, int softwarePart, const QStri
     return {entityType, lookupOption, softwarePart, QStringLiteral("dbo.") + table, fields, title};
 }
 
-const TEntityTable* Find(int TEntityTable::*member, int value)
-{
-    for (const TEntityTable& table : EntityTables::All()) {
-        if (table.*member == value)
-            return &table;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 const QVector<TEntityTable>& EntityTables::All()
@@ -60,10 +51,9 @@ const QVector<TEntityTable>& EntityTables::All()
 
 const TEntityTable* EntityTables::ByLookupOption(int lookupOption)
 {
-    return Find(&TEntityTable::LookupOption, lookupOption);
-}
-
-const TEntityTable* EntityTables::ByEntityType(int entityType)
-{
-    return Find(&TEntityTable::EntityType, entityType);
+    for (const TEntityTable& table : All()) {
+        if (table.LookupOption == lookupOption)
+            return &table;
+    }
+    return nullptr;
 }

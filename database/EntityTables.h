@@ -22,7 +22,5 @@ namespace EntityTables {
 DATABASE_EXPORT const QVector<TEntityTable>& All();
 /// Null where no kind is looked up by the option.
 DATABASE_EXPORT const TEntityTable* ByLookupOption(int lookupOption);
-/// Null for the kinds without a lookup and for ordinals outside the enumeration.
-DATABASE_EXPORT const TEntityTable* ByEntityType(int entityType);
 
 } // namespace EntityTables
