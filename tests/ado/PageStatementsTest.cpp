@@ -20,6 +20,12 @@ TPageStatements Statements(int orderIndex, Qt::SortOrder order, const QString& c
 const TSortKey somewhere{QStringLiteral("چای"), 7};
 const TSortKey withoutName{QVariant(), 7};
 
+const QString firstTen = QStringLiteral("SELECT TOP 10 Code, Name, [Price] FROM dbo.kala");
+const QVariant name = somewhere.Order;
+const QVariant key = somewhere.Key;
+constexpr Qt::SortOrder up = Qt::AscendingOrder;
+constexpr Qt::SortOrder down = Qt::DescendingOrder;
+
 // The texts of a reading of 10 rows, one per line, and the values of their marks.
 QString Texts(const TPageStatements& statements, const TPageStart& start, QVariantList* parameters)
 {
@@ -30,6 +36,26 @@ QString Texts(const TPageStatements& statements, const TPageStart& start, QVaria
         *parameters += statement.Parameters;
     }
     return texts.join(u'\n');
+}
+
+void AddStartsWithoutName()
+{
+    QTest::newRow("after a row without a name, then the rows with one")
+        << 1 << up << TPageStart{withoutName, false, false}
+        << firstTen + " WHERE Name IS NULL AND Code > ? ORDER BY Code\n" + firstTen +
+               " WHERE Name IS NOT NULL ORDER BY Name, Code"
+        << QVariantList{key};
+    QTest::newRow("up to a row without a name")
+        << 1 << up << TPageStart{withoutName, true, true}
+        << firstTen + " WHERE Name IS NULL AND Code <= ? ORDER BY Code DESC" << QVariantList{key};
+    QTest::newRow("after a row without a name, descending")
+        << 1 << down << TPageStart{withoutName, false, false}
+        << firstTen + " WHERE Name IS NULL AND Code < ? ORDER BY Code DESC" << QVariantList{key};
+    QTest::newRow("before a row without a name, descending, then the rows with one")
+        << 1 << down << TPageStart{withoutName, false, true}
+        << firstTen + " WHERE Name IS NULL AND Code > ? ORDER BY Code\n" + firstTen +
+               " WHERE Name IS NOT NULL ORDER BY Name, Code"
+        << QVariantList{key};
 }
 
 } // namespace
@@ -62,61 +88,40 @@ void PageStatementsTest::readsPagesByTheSortKeyOfARow_data()
     QTest::addColumn<QString>("texts");
     QTest::addColumn<QVariantList>("parameters");
 
-    const QString select = QStringLiteral("SELECT TOP 10 Code, Name, [Price] FROM dbo.kala");
-    const QVariant name = somewhere.Order;
-    const QVariant key = somewhere.Key;
-    const auto up = Qt::AscendingOrder;
-    const auto down = Qt::DescendingOrder;
-
     QTest::newRow("first page by key")
-        << 0 << up << TPageStart{} << select + " ORDER BY Code" << QVariantList{};
+        << 0 << up << TPageStart{} << firstTen + " ORDER BY Code" << QVariantList{};
     QTest::newRow("last page by key")
-        << 0 << up << TPageStart{{}, false, true} << select + " ORDER BY Code DESC" << QVariantList{};
+        << 0 << up << TPageStart{{}, false, true} << firstTen + " ORDER BY Code DESC" << QVariantList{};
     QTest::newRow("after a key") << 0 << up << TPageStart{somewhere, false, false}
-                                 << select + " WHERE Code > ? ORDER BY Code" << QVariantList{key};
+                                 << firstTen + " WHERE Code > ? ORDER BY Code" << QVariantList{key};
     QTest::newRow("up to a key") << 0 << up << TPageStart{somewhere, true, true}
-                                 << select + " WHERE Code <= ? ORDER BY Code DESC" << QVariantList{key};
+                                 << firstTen + " WHERE Code <= ? ORDER BY Code DESC" << QVariantList{key};
     QTest::newRow("after a key, descending")
-        << 0 << down << TPageStart{somewhere, false, false} << select + " WHERE Code < ? ORDER BY Code DESC"
+        << 0 << down << TPageStart{somewhere, false, false} << firstTen + " WHERE Code < ? ORDER BY Code DESC"
         << QVariantList{key};
     QTest::newRow("first page by name")
-        << 1 << up << TPageStart{} << select + " ORDER BY Name, Code" << QVariantList{};
+        << 1 << up << TPageStart{} << firstTen + " ORDER BY Name, Code" << QVariantList{};
     QTest::newRow("first page by name, descending")
-        << 1 << down << TPageStart{} << select + " ORDER BY Name DESC, Code DESC" << QVariantList{};
+        << 1 << down << TPageStart{} << firstTen + " ORDER BY Name DESC, Code DESC" << QVariantList{};
     QTest::newRow("after a name") << 1 << up << TPageStart{somewhere, false, false}
-                                  << select +
+                                  << firstTen +
                                          " WHERE Name >= ? AND (Name > ? OR Code > ?) ORDER BY Name, Code"
                                   << QVariantList{name, name, key};
     QTest::newRow("from a name on") << 1 << up << TPageStart{somewhere, true, false}
-                                    << select +
+                                    << firstTen +
                                            " WHERE Name >= ? AND (Name > ? OR Code >= ?) ORDER BY Name, Code"
                                     << QVariantList{name, name, key};
     QTest::newRow("before a name, then the rows without one")
         << 1 << up << TPageStart{somewhere, false, true}
-        << select + " WHERE Name <= ? AND (Name < ? OR Code < ?) ORDER BY Name DESC, Code DESC\n" + select +
-               " WHERE Name IS NULL ORDER BY Code DESC"
+        << firstTen + " WHERE Name <= ? AND (Name < ? OR Code < ?) ORDER BY Name DESC, Code DESC\n" +
+               firstTen + " WHERE Name IS NULL ORDER BY Code DESC"
         << QVariantList{name, name, key};
     QTest::newRow("after a name, descending, then the rows without one")
         << 1 << down << TPageStart{somewhere, false, false}
-        << select + " WHERE Name <= ? AND (Name < ? OR Code < ?) ORDER BY Name DESC, Code DESC\n" + select +
-               " WHERE Name IS NULL ORDER BY Code DESC"
+        << firstTen + " WHERE Name <= ? AND (Name < ? OR Code < ?) ORDER BY Name DESC, Code DESC\n" +
+               firstTen + " WHERE Name IS NULL ORDER BY Code DESC"
         << QVariantList{name, name, key};
-    QTest::newRow("after a row without a name, then the rows with one")
-        << 1 << up << TPageStart{withoutName, false, false}
-        << select + " WHERE Name IS NULL AND Code > ? ORDER BY Code\n" + select +
-               " WHERE Name IS NOT NULL ORDER BY Name, Code"
-        << QVariantList{key};
-    QTest::newRow("up to a row without a name")
-        << 1 << up << TPageStart{withoutName, true, true}
-        << select + " WHERE Name IS NULL AND Code <= ? ORDER BY Code DESC" << QVariantList{key};
-    QTest::newRow("after a row without a name, descending")
-        << 1 << down << TPageStart{withoutName, false, false}
-        << select + " WHERE Name IS NULL AND Code < ? ORDER BY Code DESC" << QVariantList{key};
-    QTest::newRow("before a row without a name, descending, then the rows with one")
-        << 1 << down << TPageStart{withoutName, false, true}
-        << select + " WHERE Name IS NULL AND Code > ? ORDER BY Code\n" + select +
-               " WHERE Name IS NOT NULL ORDER BY Name, Code"
-        << QVariantList{key};
+    AddStartsWithoutName();
 }
 
 void PageStatementsTest::readsPagesByTheSortKeyOfARow()

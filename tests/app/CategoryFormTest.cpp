@@ -12,21 +12,11 @@
 #include <QDropEvent>
 #include <QMimeData>
 
-class CategoryFormTest : public QObject
+class CategoryFormTest : public TFormTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { shop_ = std::make_unique<TFormFixture>(); }
-    void cleanupTestCase() { shop_.reset(); }
-    void init()
-    {
-        shop_->Told.clear();
-        shop_->Answers.clear();
-        form_ = &shop_->Open<TCategoryForm>();
-    }
-    void cleanup() { shop_->Form.reset(); }
-
     void theTreeShowsTheTopLevelAndOpensByMirroredArrows()
     {
         QVERIFY(form_->Tree().hasFocus());
@@ -267,7 +257,9 @@ private Q_SLOTS:
     }
 
 private:
-    int Number(const QString& statement) { return shop_->Text(statement).toInt(); }
+    void Prepare() override { form_ = &shop_->Open<TCategoryForm>(); }
+
+    int Number(const QString& statement) { return shop_->Number(statement); }
     QString Field(int id, const QString& column)
     {
         return shop_->Text(QStringLiteral("SELECT %1 FROM dbo.category WHERE id = %2").arg(column).arg(id));
@@ -325,7 +317,6 @@ private:
         QCoreApplication::sendEvent(viewport, &drop);
     }
 
-    std::unique_ptr<TFormFixture> shop_;
     TCategoryForm* form_ = nullptr;
 };
 

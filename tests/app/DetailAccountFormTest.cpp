@@ -13,26 +13,11 @@
 #include "SmartEdit_TRV.h"
 #include "TarvaSearchManager.h"
 
-class DetailAccountFormTest : public QObject
+class DetailAccountFormTest : public TFormTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { shop_ = std::make_unique<TFormFixture>(); }
-    void cleanupTestCase() { shop_.reset(); }
-    void init()
-    {
-        shop_->Told.clear();
-        shop_->Answers.clear();
-        form_ = &shop_->Open<TDetailAccountForm>();
-        QVERIFY(form_->List().DataSet().WaitForFirstPage());
-    }
-    void cleanup()
-    {
-        shop_->Connection.OnWillExecute = nullptr;
-        shop_->Form.reset();
-    }
-
     void theListHoldsTheAccountsOfTheChosenKind()
     {
         QCOMPARE(form_->Kind(), 1);
@@ -275,6 +260,12 @@ private Q_SLOTS:
     }
 
 private:
+    void Prepare() override
+    {
+        form_ = &shop_->Open<TDetailAccountForm>();
+        QVERIFY(form_->List().DataSet().WaitForFirstPage());
+    }
+
     int CountOf(int kind)
     {
         return shop_->Text(QStringLiteral("SELECT COUNT(*) FROM dbo.AccDetails WHERE [Type] = %1").arg(kind))
@@ -312,7 +303,6 @@ private:
                                 Qt::NoModifier);
     }
 
-    std::unique_ptr<TFormFixture> shop_;
     TDetailAccountForm* form_ = nullptr;
 };
 

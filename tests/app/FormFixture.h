@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ADOQuery.h"
 #include "MessageDialog.h"
 #include "Page.h"
 #include "ShopFixture.h"
@@ -61,15 +60,6 @@ public:
         Press(Qt::Key_Return);
     }
 
-    QString Text(const QString& statement)
-    {
-        TADOQuery query;
-        query.SetConnection(&Connection);
-        query.SQL.SetText(statement);
-        query.Open();
-        return query.IsEmpty() ? QString() : query.Field(0)->AsString();
-    }
-
     /// The captions of the buttons that answer the next message boxes; without one a box gets its first.
     QStringList Answers;
     QStringList Told; ///< the texts of the message boxes that have come
@@ -93,5 +83,34 @@ private:
             }
         }
         box->reject();
+    }
+};
+
+/// What tests of forms share: one shop for all tests of a program. At the beginning of each nothing has been
+/// told and no answer waits; at its end the form is closed.
+class TFormTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    virtual void Prepare() = 0; ///< runs before each test
+    virtual void Finish() {}    ///< runs after each test
+
+    std::unique_ptr<TFormFixture> shop_;
+
+private Q_SLOTS:
+    void initTestCase() { shop_ = std::make_unique<TFormFixture>(); }
+    void cleanupTestCase() { shop_.reset(); }
+    void init()
+    {
+        shop_->Told.clear();
+        shop_->Answers.clear();
+        Prepare();
+    }
+    void cleanup()
+    {
+        shop_->Connection.OnWillExecute = nullptr;
+        shop_->Form.reset();
+        Finish();
     }
 };

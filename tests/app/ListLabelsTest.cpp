@@ -15,28 +15,11 @@
 #include "TarvaSearchManager.h"
 
 /// Tags and categories on the lists of goods and persons: the choice of rows, the panel, the filters.
-class ListLabelsTest : public QObject
+class ListLabelsTest : public TFormTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { shop_ = std::make_unique<TFormFixture>(); }
-    void cleanupTestCase() { shop_.reset(); }
-    void init()
-    {
-        shop_->Told.clear();
-        shop_->Answers.clear();
-        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = NULL WHERE Code <= 10"));
-        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = N',1,' WHERE Code = 2"));
-        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = N',1,3,' WHERE Code = 3"));
-        Open(GoodsList());
-    }
-    void cleanup()
-    {
-        shop_->Form.reset();
-        list_ = nullptr;
-    }
-
     void spaceMarksARowAndIsNotTyped()
     {
         FocusGrid();
@@ -390,6 +373,15 @@ private Q_SLOTS:
     }
 
 private:
+    void Prepare() override
+    {
+        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = NULL WHERE Code <= 10"));
+        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = N',1,' WHERE Code = 2"));
+        shop_->Connection.Execute(QStringLiteral("UPDATE dbo.kala SET tags = N',1,3,' WHERE Code = 3"));
+        Open(GoodsList());
+    }
+    void Finish() override { list_ = nullptr; }
+
     void Open(const TListDescription& description)
     {
         shop_->Form.reset();
@@ -452,7 +444,7 @@ private:
     {
         return list_->DataSet().ValueAt(row, list_->DataSet().FieldByName(field)->Index()).toString();
     }
-    int Number(const QString& statement) { return shop_->Text(statement).toInt(); }
+    int Number(const QString& statement) { return shop_->Number(statement); }
     QString TagName(int code)
     {
         return shop_->Text(QStringLiteral("SELECT Name FROM dbo.TagS WHERE Code = %1").arg(code));
@@ -471,7 +463,6 @@ private:
         return Number(QStringLiteral("SELECT MIN(id) FROM dbo.category WHERE name = N'%1'").arg(name));
     }
 
-    std::unique_ptr<TFormFixture> shop_;
     TListForm* list_ = nullptr;
 };
 

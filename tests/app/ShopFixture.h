@@ -1,23 +1,16 @@
 #pragma once
 
-#include "DatabaseFile.h"
 #include "HostApplication.h"
 #include "Look.h"
-#include "ReferenceHost.h"
+#include "SampleShop.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
-/// A sample database in a file and a host over it.
-struct TShopFixture
+/// A shop whose windows a test opens.
+class TShopFixture : public THostedShop
 {
-    explicit TShopFixture(const TSampleSize& size)
-    {
-        TDatabaseOptions options;
-        options.Size = size;
-        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("shop.db")),
-                     options);
-    }
+public:
+    using THostedShop::THostedShop;
 
     /// Makes the window the active one and waits until it stays so: with no window manager the focus of the
     /// window before may still arrive behind that of this one.
@@ -35,11 +28,6 @@ struct TShopFixture
         }
         QFAIL("the window does not stay active");
     }
-
-    QTemporaryDir Folder;
-    TADOConnection Connection;
-    THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
-    TReferenceHost Host{Connection, Settings};
 };
 
 /// Runs a test under the application object of the host. What is thrown out of an event is a failure of the

@@ -1,27 +1,16 @@
 #pragma once
 
-#include "ADOConnection.h"
-#include "ADOQuery.h"
-#include "DatabaseFile.h"
+#include "SampleShop.h"
 #include "VoucherStore.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
-/// A sample database in a file and a store over it. The open year of the sample is 1403, the closed one 1402.
-class TVoucherFixture
+/// A sample database and a store over it. The open year of the sample is 1403, the closed one 1402.
+class TVoucherFixture : public TSampleShop
 {
 public:
     static constexpr int OpenYear = 1403;
     static constexpr int ClosedYear = 1402;
-
-    TVoucherFixture()
-    {
-        TDatabaseOptions options;
-        options.Size = TSampleSize::Small();
-        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("shop.db")),
-                     options);
-    }
 
     static TVoucherLine Line(const TAccountCode& account, const QString& debit, const QString& credit)
     {
@@ -47,14 +36,6 @@ public:
     }
     static TVoucherEntry Entry() { return {1, QStringLiteral("2024-05-01T10:11:12"), false}; }
 
-    QString Text(const QString& statement)
-    {
-        TADOQuery query;
-        query.SetConnection(&Connection);
-        query.SQL.SetText(statement);
-        query.Open();
-        return query.IsEmpty() ? QString() : query.Field(0)->AsString();
-    }
     /// Number of vouchers, of lines and the last number: what a failed saving must not change.
     QStringList State()
     {
@@ -64,7 +45,5 @@ public:
                 Text(QStringLiteral("SELECT MAX(Number) FROM dbo.Sanad WHERE FiscalYear = 1403"))};
     }
 
-    QTemporaryDir Folder;
-    TADOConnection Connection;
     TVoucherStore Store{Connection};
 };

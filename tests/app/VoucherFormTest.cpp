@@ -12,25 +12,11 @@
 
 #include <QClipboard>
 
-class VoucherFormTest : public QObject
+class VoucherFormTest : public TFormTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { shop_ = std::make_unique<TFormFixture>(); }
-    void cleanupTestCase() { shop_.reset(); }
-    void init()
-    {
-        shop_->Told.clear();
-        shop_->Answers.clear();
-        form_ = &shop_->Open<TVoucherForm>();
-    }
-    void cleanup()
-    {
-        shop_->Connection.OnWillExecute = nullptr;
-        shop_->Form.reset();
-    }
-
     void aNewVoucherIsInTheOpenYearWithItsNumberProposed()
     {
         QVERIFY(form_->HeadBar().Date().hasFocus());
@@ -388,6 +374,8 @@ private Q_SLOTS:
     }
 
 private:
+    void Prepare() override { form_ = &shop_->Open<TVoucherForm>(); }
+
     QString Count()
     {
         return shop_->Text(QStringLiteral("SELECT COUNT(*) FROM dbo.Sanad")) + u'/' +
@@ -421,7 +409,6 @@ private:
         QCOMPARE(form_->Draft().Count(), 2);
     }
 
-    std::unique_ptr<TFormFixture> shop_;
     TVoucherForm* form_ = nullptr;
 };
 

@@ -2,6 +2,7 @@
 
 #include "AdvListEditorPer.h"
 #include "CategoryTables.h"
+#include "ControlColumn.h"
 #include "PopupMenu.h"
 #include "RecordingHost.h"
 #include "Typing.h"
@@ -10,7 +11,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
-#include <QVBoxLayout>
 
 /// A form with a category frame between two other controls.
 template <typename TCategoryFrame> struct TCategoryForm
@@ -25,13 +25,7 @@ template <typename TCategoryFrame> struct TCategoryForm
     TCategoryForm()
     {
         Host.DM.Connection = &Tables.Connection;
-        auto* const layout = new QVBoxLayout(Form.get());
-        Before = new QLineEdit(Form.get());
-        Frame = new TCategoryFrame(Form.get());
-        After = new QLineEdit(Form.get());
-        layout->addWidget(Before);
-        layout->addWidget(Frame);
-        layout->addWidget(After);
+        MakeColumn(*Form, Before, Frame, After);
         Form->resize(520, 140);
     }
 

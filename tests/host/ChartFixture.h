@@ -1,21 +1,14 @@
 #pragma once
 
-#include "DatabaseFile.h"
-#include "ReferenceHost.h"
-
-#include <QTemporaryDir>
+#include "SampleShop.h"
 
 /// A sample database with a chart of accounts, a host over it, and every statement that is run, those of
 /// lists read in the background too.
-class TChartFixture
+class TChartFixture : public THostedShop
 {
 public:
-    explicit TChartFixture(const TSampleSize& size = TSampleSize::Small())
+    explicit TChartFixture(const TSampleSize& size = TSampleSize::Small()) : THostedShop(size)
     {
-        TDatabaseOptions options;
-        options.Size = size;
-        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("chart.db")),
-                     options);
         QObject::connect(&Connection, &TADOConnection::willExecute, &Connection,
                          [this](const QString& text) { Statements.append(text); });
     }
@@ -29,9 +22,5 @@ public:
         Statements.clear();
     }
 
-    QTemporaryDir Folder;
-    TADOConnection Connection;
-    THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
-    TReferenceHost Host{Connection, Settings};
     QStringList Statements;
 };

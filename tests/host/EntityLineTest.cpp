@@ -41,7 +41,7 @@ private Q_SLOTS:
             shop_->PressEnter(picker);
         });
         QCOMPARE(shop_->Played, 1);
-        QCOMPARE(picked, LastCode(part, table));
+        QCOMPARE(picked, shop_->LastCode(part, table));
         QVERIFY2(!form.Frame.Name_LBL->Caption().isEmpty(), qPrintable(shown));
         // Persons are listed by their full name, and the kind with the ones switched off shows the short one.
         if (kind != static_cast<int>(TEntityType::etAllPersonals))
@@ -106,13 +106,6 @@ private:
         TSelect_Entity_Frame Frame;
         QLineEdit Next;
     };
-
-    static int LastCode(int part, const QString& table)
-    {
-        const bool active = EntityLists::Of(static_cast<TSoftwarePart>(part)).HasActive();
-        return shop_->Number(QStringLiteral("SELECT MAX(Code) FROM ") + table +
-                             (active ? QStringLiteral(" WHERE Active = 1") : QString()));
-    }
 
     static inline std::unique_ptr<TPickerFixture> shop_;
 };

@@ -27,7 +27,7 @@ private Q_SLOTS:
         QFETCH(int, part);
         QFETCH(QString, table);
         QFETCH(bool, all);
-        const int last = LastCode(part, table);
+        const int last = shop_->LastCode(part, table);
         const QString argument = QStringLiteral("%1#LC#").arg(last);
         const int picked = shop_->Select(
             static_cast<TSoftwarePart>(part), argument,
@@ -50,13 +50,6 @@ private Q_SLOTS:
     }
 
 private:
-    static int LastCode(int part, const QString& table)
-    {
-        const bool active = EntityLists::Of(static_cast<TSoftwarePart>(part)).HasActive();
-        return shop_->Number(QStringLiteral("SELECT MAX(Code) FROM ") + table +
-                             (active ? QStringLiteral(" WHERE Active = 1") : QString()));
-    }
-
     static inline std::unique_ptr<TPickerFixture> shop_;
 };
 

@@ -108,14 +108,7 @@ private Q_SLOTS:
     }
 
 private:
-    int Number(const QString& statement) const
-    {
-        TADOQuery query;
-        query.SetConnection(&chart_->Connection);
-        query.SQL.SetText(statement);
-        query.Open();
-        return query.Field(0)->AsInteger();
-    }
+    int Number(const QString& statement) const { return chart_->Number(statement); }
 
     int ActivePersons() const
     {

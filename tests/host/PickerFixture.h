@@ -1,29 +1,22 @@
 #pragma once
 
-#include "DatabaseFile.h"
+#include "EntityLists.h"
 #include "EntityPicker.h"
 #include "General_Search_UNT.h"
 #include "HostApplication.h"
-#include "ReferenceHost.h"
+#include "SampleShop.h"
 #include "SmartEdit_TRV.h"
 
 #include <functional>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-/// A sample database in a file, a host over it, and a user who works in the pickers that it opens.
-class TPickerFixture
+/// A shop and a user who works in the pickers that it opens.
+class TPickerFixture : public THostedShop
 {
 public:
-    explicit TPickerFixture(const TSampleSize& size = TSampleSize::Small())
-    {
-        TDatabaseOptions options;
-        options.Size = size;
-        OpenDatabase(Connection, QStringLiteral("sqlite:") + Folder.filePath(QStringLiteral("shop.db")),
-                     options);
-    }
+    using THostedShop::THostedShop;
 
     /// What a user does in a picker that is open and active, its rows and their number there.
     using TScript = std::function<void(TEntityPicker& picker)>;
@@ -91,17 +84,14 @@ public:
         return codes;
     }
 
-    /// The number that a statement answers.
-    int Number(const QString& statement)
+    /// The greatest code that a picker of the part lists.
+    int LastCode(int part, const QString& table)
     {
-        const auto row = Connection.Run(statement);
-        return row->Next() ? static_cast<int>(row->Int64(0)) : -1;
+        const bool active = EntityLists::Of(static_cast<TSoftwarePart>(part)).HasActive();
+        return Number(QStringLiteral("SELECT MAX(Code) FROM ") + table +
+                      (active ? QStringLiteral(" WHERE Active = 1") : QString()));
     }
 
-    QTemporaryDir Folder;
-    TADOConnection Connection;
-    THostSettings Settings{Folder.filePath(QStringLiteral("settings.ini"))};
-    TReferenceHost Host{Connection, Settings};
     int Played = 0; ///< scripts since the last call of Select
 
 private:

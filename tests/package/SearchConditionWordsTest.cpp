@@ -4,6 +4,25 @@
 
 using Criteria::Item;
 
+namespace {
+
+using enum TSearchDataType;
+
+const QVariant none;
+const TSearchItem name = Item(QStringLiteral("نام"), QStringLiteral("Name"));
+const TSearchItem code = Item(QStringLiteral("کد"), QStringLiteral("Code"), idtDigit);
+const TSearchItem price = Item(QStringLiteral("قیمت"), QStringLiteral("Price"), idtMoney);
+const TSearchItem date = Item(QStringLiteral(" تاریخ"), QStringLiteral("D"));
+const TSearchItem moment = Item(QStringLiteral("زمان"), QStringLiteral("D"), idtDateTime);
+const TSearchItem tags = Item(QStringLiteral("برچسب"), QStringLiteral("tags"), idtCodeList);
+
+QVariant Text(const char16_t* characters)
+{
+    return QString::fromUtf16(characters);
+}
+
+} // namespace
+
 class SearchConditionWordsTest : public TTestCase
 {
     Q_OBJECT
@@ -11,7 +30,6 @@ class SearchConditionWordsTest : public TTestCase
 private Q_SLOTS:
     void everyConditionHasASentence_data()
     {
-        using enum TSearchDataType;
         using enum TSearchType;
         QTest::addColumn<TSearchItem>("item");
         QTest::addColumn<QVariant>("value1");
@@ -19,20 +37,11 @@ private Q_SLOTS:
         QTest::addColumn<TSearchType>("type");
         QTest::addColumn<QString>("words");
         QTest::addColumn<QString>("reversed");
-        const QVariant none;
-        const TSearchItem name = Item(QStringLiteral("نام"), QStringLiteral("Name"));
-        const TSearchItem code = Item(QStringLiteral("کد"), QStringLiteral("Code"), idtDigit);
-        const TSearchItem price = Item(QStringLiteral("قیمت"), QStringLiteral("Price"), idtMoney);
-        const TSearchItem date = Item(QStringLiteral(" تاریخ"), QStringLiteral("D"));
-        const TSearchItem moment = Item(QStringLiteral("زمان"), QStringLiteral("D"), idtDateTime);
-        const TSearchItem tags = Item(QStringLiteral("برچسب"), QStringLiteral("tags"), idtCodeList);
-        const auto text = [](const char16_t* characters) { return QVariant(QString::fromUtf16(characters)); };
-
-        QTest::newRow("text") << name << text(u"شیر") << none << stGeneral
+        QTest::newRow("text") << name << Text(u"شیر") << none << stGeneral
                               << QStringLiteral("نام شامل «شیر» باشد")
                               << QStringLiteral("نام شامل «شیر» نباشد");
         QTest::newRow("Latin text is isolated")
-            << name << text(u"abc") << none << stGeneral << QStringLiteral("نام شامل «\u2068abc\u2069» باشد")
+            << name << Text(u"abc") << none << stGeneral << QStringLiteral("نام شامل «\u2068abc\u2069» باشد")
             << QStringLiteral("نام شامل «\u2068abc\u2069» نباشد");
         QTest::newRow("number") << code << QVariant(12.0) << none << stGeneral
                                 << QStringLiteral("کد برابر ۱۲ باشد") << QStringLiteral("کد برابر ۱۲ نباشد");
@@ -53,13 +62,13 @@ private Q_SLOTS:
                                     << QStringLiteral("قیمت تا ۵٬۰۰۰ نباشد");
         QTest::newRow("one value") << code << QVariant(7) << QVariant(7) << stRangeDigit
                                    << QStringLiteral("کد برابر ۷ باشد") << QStringLiteral("کد برابر ۷ نباشد");
-        QTest::newRow("dates") << date << text(u"1403/01/01") << text(u"1403/12/29") << stRangeDate
+        QTest::newRow("dates") << date << Text(u"1403/01/01") << Text(u"1403/12/29") << stRangeDate
                                << QStringLiteral("تاریخ از ۱۴۰۳/۰۱/۰۱ تا ۱۴۰۳/۱۲/۲۹ باشد")
                                << QStringLiteral("تاریخ از ۱۴۰۳/۰۱/۰۱ تا ۱۴۰۳/۱۲/۲۹ نباشد");
-        QTest::newRow("moment") << moment << text(u"2024/01/02-10:30") << none << stGeneral
+        QTest::newRow("moment") << moment << Text(u"2024/01/02-10:30") << none << stGeneral
                                 << QStringLiteral("زمان برابر ۲۰۲۴/۰۱/۰۲-۱۰:۳۰ باشد")
                                 << QStringLiteral("زمان برابر ۲۰۲۴/۰۱/۰۲-۱۰:۳۰ نباشد");
-        QTest::newRow("code list") << tags << text(u",5,12,") << none << stGeneral
+        QTest::newRow("code list") << tags << Text(u",5,12,") << none << stGeneral
                                    << QStringLiteral("برچسب دارای کد ۵ یا ۱۲ باشد")
                                    << QStringLiteral("برچسب دارای کد ۵ یا ۱۲ نباشد");
         TSearchItem named = tags;
@@ -73,8 +82,8 @@ private Q_SLOTS:
             << named << QVariant(6) << none << stGeneral << QStringLiteral("برچسب دارای کد ۶ باشد")
             << QStringLiteral("برچسب دارای کد ۶ نباشد");
         const QString refused = QStringLiteral("ردیفی پیدا نشود، چون «\u2068abc\u2069» برای کد عدد نیست");
-        QTest::newRow("no number") << code << text(u"abc") << none << stGeneral << refused << refused;
-        QTest::newRow("no title") << Item({}, QStringLiteral("k.City")) << text(u"قم") << none << stGeneral
+        QTest::newRow("no number") << code << Text(u"abc") << none << stGeneral << refused << refused;
+        QTest::newRow("no title") << Item({}, QStringLiteral("k.City")) << Text(u"قم") << none << stGeneral
                                   << QStringLiteral("City شامل «قم» باشد")
                                   << QStringLiteral("City شامل «قم» نباشد");
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ADOQuery.h"
+#include "ControlColumn.h"
 #include "MenuItem.h"
 #include "RecordingHost.h"
 #include "Select_AccountCode_UNT.h"
@@ -15,7 +16,6 @@
 #include <memory>
 #include <QApplication>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// Compares what owners know the criteria of the four levels by.
 inline void CheckAccountCriteria(const QList<TTarvaSearch*>& criteria, TSearchType type,
@@ -87,11 +87,7 @@ template <typename TSearchFrame> struct TAccountForm
         Host.DM.Connection = &Connection;
         Host.DM.Query = &Query;
         Host.Accounting.KnowsAll = true;
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TSearchFrame(Form.get());
-        Other = new QLineEdit(Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
         Frame->SetCodeItems(levels);
         Frame->init();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ControlColumn.h"
 #include "RecordingHost.h"
 #include "Select_Entity_UNT.h"
 #include "SmartButtonEdit_TRV.h"
@@ -11,7 +12,6 @@
 
 #include <memory>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A report form with an entity search frame and a control for the focus to go to.
 template <typename TSearchFrame> struct TEntitySearchForm
@@ -23,11 +23,7 @@ template <typename TSearchFrame> struct TEntitySearchForm
 
     TEntitySearchForm()
     {
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TSearchFrame(Form.get());
-        Other = new QLineEdit(Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
         Know(LocateDBsOptions::ldPersonals, QStringLiteral("5"), QStringLiteral("رضایی"));
         Know(LocateDBsOptions::ldPersonals, QStringLiteral("9"), QStringLiteral("کریمی"));
         Know(LocateDBsOptions::ldExpenseLevel1, QStringLiteral("7"), QStringLiteral("اداری"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ControlColumn.h"
 #include "RecordingHost.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartComboBox_TRV.h"
@@ -11,7 +12,6 @@
 #include <memory>
 #include <QApplication>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A report form with a filter frame and a control for the focus to go to. Every value that reaches the
 /// criterion is noted.
@@ -22,14 +22,7 @@ template <typename TFilterFrame> struct TFilterForm
     TFilterFrame* Frame = nullptr;
     QLineEdit* Other = nullptr;
 
-    TFilterForm()
-    {
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TFilterFrame(Form.get());
-        Other = new QLineEdit(Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
-    }
+    TFilterForm() { MakeColumn(*Form, Frame, Other); }
 
     static TSearchItem Item(const QString& title, TSearchDataType type = TSearchDataType::idtString,
                             int maxLength = 0, TSearchFilterType filter = TSearchFilterType::iftQuery)

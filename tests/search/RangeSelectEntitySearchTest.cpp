@@ -272,12 +272,9 @@ private Q_SLOTS:
         TRange range;
         QVERIFY(range.StartChecked());
         range.Frame->SelectEntity_CHK->setFocus();
-        for (const QWidget* next :
-             QWidgetList{range.Frame->SelectEntity_CMB, range.From->Code_EDT, range.To->Code_EDT,
-                         range.Frame->SelectEntity_Reverst_CHK, range.Other}) {
-            Typing::Press(QApplication::focusWidget(), Qt::Key_Tab);
-            QCOMPARE(QApplication::focusWidget(), next);
-        }
+        const QWidgetList order{range.Frame->SelectEntity_CMB, range.From->Code_EDT, range.To->Code_EDT,
+                                range.Frame->SelectEntity_Reverst_CHK, range.Other};
+        QCOMPARE(Typing::TabStops(order.size()), order);
     }
 
     void theFrameMayBeDestroyedByTheSelectorsEvent()

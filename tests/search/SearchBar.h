@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ControlColumn.h"
 #include "General_Search_UNT.h"
 #include "RecordingHost.h"
 #include "SmartCheckBox_TRV.h"
@@ -10,7 +11,6 @@
 
 #include <memory>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A list form with a search bar: a text, a money and a digit item, and a control for the focus to go to.
 struct TSearchBar
@@ -24,11 +24,7 @@ struct TSearchBar
 
     explicit TSearchBar(bool withItems = true)
     {
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TGeneral_Search_Frame(Form.get());
-        Other = new QLineEdit(Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
         Frame->Refrenc_SearchManager = &Manager;
         Frame->TarvaSearch_General->SearchItems.Clear();
         if (withItems) {

@@ -254,11 +254,9 @@ private Q_SLOTS:
         TSearch search;
         QVERIFY(search.StartChecked());
         search.Frame->SelectEntity_CHK->setFocus();
-        for (const QWidget* next : QWidgetList{search.Frame->SelectEntity_CMB, search.Selector->Code_EDT,
-                                               search.Frame->SelectEntity_Reverst_CHK, search.Other}) {
-            Typing::Press(QApplication::focusWidget(), Qt::Key_Tab);
-            QCOMPARE(QApplication::focusWidget(), next);
-        }
+        const QWidgetList order{search.Frame->SelectEntity_CMB, search.Selector->Code_EDT,
+                                search.Frame->SelectEntity_Reverst_CHK, search.Other};
+        QCOMPARE(Typing::TabStops(order.size()), order);
     }
 
     void theFrameMayBeDestroyedByTheSelectorsEvent_data()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ChartTables.h"
+#include "ControlColumn.h"
 #include "MenuItem.h"
 #include "RecordingHost.h"
 #include "Select_AccountCode_UNT.h"
@@ -12,7 +13,6 @@
 #include <memory>
 #include <QApplication>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A form with an account code between two other controls. Known are the accounts 7, 7/2 and 7/2/11, the
 /// total 90 of detail type 10 with 90/1 and 90/1/12345678, and the expense centers 42 and 1234.
@@ -44,13 +44,7 @@ struct TAccountLine
             {QStringLiteral("90/1/"), QStringLiteral("تنخواه - شعبه")},
             {QStringLiteral("90/1/12345678"), QStringLiteral("تنخواه - شعبه - احمدی")},
         };
-        auto* const layout = new QVBoxLayout(Form.get());
-        Before = new QLineEdit(Form.get());
-        Frame = new TSelect_AccountCode(Form.get());
-        After = new QLineEdit(Form.get());
-        layout->addWidget(Before);
-        layout->addWidget(Frame);
-        layout->addWidget(After);
+        MakeColumn(*Form, Before, Frame, After);
         Frame->SetCodeItem(levels);
         Frame->init();
         Frame->OnChange = [this](QObject*) { Events.append(QStringLiteral("change")); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ControlColumn.h"
 #include "RecordingHost.h"
 #include "Select_Entity_UNT.h"
 #include "SmartButtonEdit_TRV.h"
@@ -8,7 +9,6 @@
 
 #include <memory>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A form with an entity selector between two other controls.
 struct TEntityLine
@@ -22,13 +22,7 @@ struct TEntityLine
 
     TEntityLine()
     {
-        auto* const layout = new QVBoxLayout(Form.get());
-        Before = new QLineEdit(Form.get());
-        Frame = new TSelect_Entity_Frame(Form.get());
-        After = new QLineEdit(Form.get());
-        for (QWidget* widget :
-             {static_cast<QWidget*>(Before), static_cast<QWidget*>(Frame), static_cast<QWidget*>(After)})
-            layout->addWidget(widget);
+        MakeColumn(*Form, Before, Frame, After);
         Frame->SetOnCodeChanged([this](QObject*) { Raised.append(Code() + u'/' + Name()); });
     }
 

@@ -3,6 +3,7 @@
 #include "ADOCommand.h"
 #include "ADOConnection.h"
 #include "ADOQuery.h"
+#include "ControlColumn.h"
 #include "DetailUniqueCode_UNT.h"
 #include "RecordingHost.h"
 #include "SmartEdit_TRV.h"
@@ -12,7 +13,6 @@
 #include <memory>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 /// A small database in memory with three detail accounts (of kind 1: 5 with the number 1000005, 6 with
 /// 1000006; of kind 2: 7 with 2000007; of kind 1: 8 without a number), whose proposals come from a list.
@@ -88,12 +88,9 @@ struct TUniqueCodeForm
         Host.DM.Command = &Database.Command;
         Host.Settings.Options.CodeLockOption = 45;
         Database.Proposals = {qint64(1000007)};
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TDetailUniqueCode_FRME(Form.get());
+        MakeColumn(*Form, Frame, Other);
+        Other->setText(QStringLiteral("ذخیره"));
         Frame->DetailType = Kind;
-        Other = new QPushButton(QStringLiteral("ذخیره"), Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
     }
 
     TSmartEdit_TRV* Edit() const { return Frame->UniqueCode_EDT; }

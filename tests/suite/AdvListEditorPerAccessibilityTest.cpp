@@ -100,8 +100,7 @@ void AdvListEditorPerAccessibilityTest::theNameMayComeFromALabel()
 void AdvListEditorPerAccessibilityTest::itemsSayWhereTheyAre()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     const QRect editor(form.editor.mapToGlobal(QPoint(0, 0)), form.editor.size());
     const QRect first = form.Accessible()->child(0)->rect();
     const QRect second = form.Accessible()->child(1)->rect();
@@ -112,8 +111,7 @@ void AdvListEditorPerAccessibilityTest::itemsSayWhereTheyAre()
 void AdvListEditorPerAccessibilityTest::itemsAreFoundByPoint()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     QAccessibleInterface* list = form.Accessible();
     const QPoint onSecond = list->child(1)->rect().center();
     QCOMPARE(list->childAt(onSecond.x(), onSecond.y()), list->child(1));
@@ -125,8 +123,7 @@ void AdvListEditorPerAccessibilityTest::itemsAreFoundByPoint()
 void AdvListEditorPerAccessibilityTest::stateTellsSelectedDisabledAndScrolledOut()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("بلندترین_نام ").repeated(20));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("بلندترین_نام ").repeated(20)));
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
     QAccessibleInterface* list = form.Accessible();
     QVERIFY(list->child(19)->state().selected);
@@ -169,8 +166,7 @@ void AdvListEditorPerAccessibilityTest::itemsOfAReadOnlyEditorCanOnlyBeChosen()
 void AdvListEditorPerAccessibilityTest::theCaretsWayIsTold()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     Told().clear();
     form.Stroke(Qt::Key_Right);
     QCOMPARE(Told(), QStringList(Event(QAccessible::Focus, 0)));
@@ -186,8 +182,7 @@ void AdvListEditorPerAccessibilityTest::theCaretsWayIsTold()
 void AdvListEditorPerAccessibilityTest::changesOfTheItemsAreTold()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     Told().clear();
     form.editor.Values().SetDisplayText(1, QStringLiteral("نان تازه"));
     QCOMPARE(Told(), QStringList(Event(QAccessible::NameChanged, 1)));

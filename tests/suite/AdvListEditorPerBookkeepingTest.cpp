@@ -268,8 +268,7 @@ void AdvListEditorPerBookkeepingTest::theKeysOfRecordsAreLeftToTheHost()
 void AdvListEditorPerBookkeepingTest::correctingTheCaretPutsItBehindAllAndKeepsTheText()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("a b c"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("a b c")));
     form.editor.SetEditText(QStringLiteral("x"));
     form.Stroke(Qt::Key_Home, Qt::ControlModifier);
     form.Stroke(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
@@ -297,8 +296,7 @@ void AdvListEditorPerBookkeepingTest::aCaretBehindAllStaysThereWhenItemsAreAdded
 void AdvListEditorPerBookkeepingTest::theCaretKeepsItsPlaceAmongItemsThatChange()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("a b c d"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("a b c d")));
     form.Stroke(Qt::Key_Right);
     form.editor.Values().Delete(0);
     QCOMPARE(form.Place(), 2);

@@ -283,8 +283,7 @@ void AdvListEditorPerCompletionTest::freeTextBecomesAnItemAtTheSeparator()
 void AdvListEditorPerCompletionTest::anItemIsMadeWhereTheCaretStands()
 {
     TCompletionForm form;
-    form.Fill(QStringLiteral("یک دو"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("یک دو")));
     form.Stroke(Qt::Key_Right);
     form.Type(QStringLiteral("نان;"));
     QCOMPARE(form.Row(), QStringLiteral("یک نان دو"));

@@ -222,8 +222,7 @@ void AdvListEditorPerHostileTest::itemsRemovedInsideEveryHandler()
 {
     TTokenForm form;
     form.editor.SetFreeItems(true);
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     const auto clear = [&] { form.editor.Values().Clear(); };
     form.editor.OnKeyDown = [&](QObject*, quint16&, Qt::KeyboardModifiers) { clear(); };
     form.Stroke(Qt::Key_Backspace);
@@ -372,8 +371,7 @@ void AdvListEditorPerHostileTest::lookupChangedWhileItIsOffered()
 void AdvListEditorPerHostileTest::aHandlerMayReplaceItself()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     int calls = 0;
     form.editor.OnKeyUp = [&](QObject*, quint16&, Qt::KeyboardModifiers) {
         ++calls;

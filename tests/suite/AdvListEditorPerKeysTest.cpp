@@ -39,8 +39,7 @@ private Q_SLOTS:
 void AdvListEditorPerKeysTest::leftGoesForwardFromRightToLeft()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     QCOMPARE(form.Place(), 3);
     form.Stroke(Qt::Key_Left);
     QCOMPARE(form.Place(), 3);
@@ -56,8 +55,7 @@ void AdvListEditorPerKeysTest::theArrowsAreTheOtherWayRoundFromLeftToRight()
 {
     TTokenForm form;
     form.editor.SetRightToLeft(false);
-    form.Fill(QStringLiteral("a b c"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("a b c")));
     form.Strokes(Qt::Key_Left, 2);
     form.Stroke(Qt::Key_Backspace);
     QCOMPARE(form.Row(), QStringLiteral("b c"));
@@ -69,8 +67,7 @@ void AdvListEditorPerKeysTest::theArrowsAreTheOtherWayRoundFromLeftToRight()
 void AdvListEditorPerKeysTest::theArrowsGoThroughTheTextBeforeTheyLeaveIt()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شیر"));
     form.Strokes(Qt::Key_Right, 3);
     QCOMPARE(form.Place(), 2);
@@ -113,8 +110,7 @@ void AdvListEditorPerKeysTest::theArrowsLeaveATextOfAnyScript()
 void AdvListEditorPerKeysTest::homeAndEndGoToTheTextsEndsThenToTheRows()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شیر"));
     form.Stroke(Qt::Key_Home);
     QCOMPARE(form.Place(), 2);
@@ -129,8 +125,7 @@ void AdvListEditorPerKeysTest::homeAndEndGoToTheTextsEndsThenToTheRows()
 void AdvListEditorPerKeysTest::controlHomeAndEndGoToTheRowsEndsAtOnce()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شیر"));
     form.Stroke(Qt::Key_Home, Qt::ControlModifier);
     QCOMPARE(form.Place(), 0);
@@ -141,8 +136,7 @@ void AdvListEditorPerKeysTest::controlHomeAndEndGoToTheRowsEndsAtOnce()
 void AdvListEditorPerKeysTest::backspaceAtTheTextsStartRemovesTheBubbleBefore()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شی"));
     form.Strokes(Qt::Key_Backspace, 2);
     QCOMPARE(form.editor.EditText(), QString());
@@ -157,8 +151,7 @@ void AdvListEditorPerKeysTest::backspaceAtTheTextsStartRemovesTheBubbleBefore()
 void AdvListEditorPerKeysTest::deleteAtTheTextsEndRemovesTheBubbleBehind()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     form.Stroke(Qt::Key_Delete);
     QCOMPARE(form.Row(), QStringLiteral("آب نان نمک"));
     form.Strokes(Qt::Key_Right, 2);
@@ -170,8 +163,7 @@ void AdvListEditorPerKeysTest::deleteAtTheTextsEndRemovesTheBubbleBehind()
 void AdvListEditorPerKeysTest::aHeldBackspaceStopsWhereTheTextEnds()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شی"));
     const auto press = [](bool repeats) {
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b"), repeats);
@@ -190,8 +182,7 @@ void AdvListEditorPerKeysTest::aHeldBackspaceStopsWhereTheTextEnds()
 void AdvListEditorPerKeysTest::shiftAndArrowsSelectAndDeleteRemovesThem()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک شکر"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک شکر")));
     form.Stroke(Qt::Key_Right);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
@@ -210,8 +201,7 @@ void AdvListEditorPerKeysTest::shiftAndArrowsSelectAndDeleteRemovesThem()
 void AdvListEditorPerKeysTest::anArrowWithoutShiftLeavesTheSelectionAtItsEnd()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک شکر"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک شکر")));
     form.Stroke(Qt::Key_Right);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
@@ -223,8 +213,7 @@ void AdvListEditorPerKeysTest::anArrowWithoutShiftLeavesTheSelectionAtItsEnd()
 void AdvListEditorPerKeysTest::controlASelectsItemsAndText()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("شیر"));
     form.Stroke(Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(form.Selected(), QList<int>({0, 1}));
@@ -238,8 +227,7 @@ void AdvListEditorPerKeysTest::controlASelectsItemsAndText()
 void AdvListEditorPerKeysTest::typingOverSelectedBubblesRemovesNone()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Stroke(Qt::Key_A, Qt::ControlModifier);
     form.Type(QStringLiteral("ش"));
     QCOMPARE(form.Row(), QStringLiteral("آب نان"));
@@ -251,8 +239,7 @@ void AdvListEditorPerKeysTest::copiedBubblesAreTheirTextsWithTheSeparator()
 {
     TTokenForm form;
     form.editor.SetSeparator(u'|');
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
     form.Stroke(Qt::Key_C, Qt::ControlModifier);
@@ -263,8 +250,7 @@ void AdvListEditorPerKeysTest::copiedBubblesAreTheirTextsWithTheSeparator()
 void AdvListEditorPerKeysTest::cutBubblesAreRemovedAsByDelete()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     QStringList told;
     form.editor.OnKeyUp = [&](QObject*, quint16& key, Qt::KeyboardModifiers) {
         told << QStringLiteral("%1 %2 %3").arg(key).arg(form.editor.SnapshotCount()).arg(form.Row());
@@ -290,8 +276,7 @@ void AdvListEditorPerKeysTest::typedTextStaysAsItWasTyped()
 void AdvListEditorPerKeysTest::undoIsForTheTypedTextAlone()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.Type(QStringLiteral("نمک"));
     form.Stroke(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(form.editor.EditText(), QString());
@@ -409,8 +394,7 @@ void AdvListEditorPerKeysTest::aDisabledEditorHasNoStateFlag()
 void AdvListEditorPerKeysTest::aSwallowedKeyDoesNothing()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.editor.OnKeyPress = [](QObject*, QChar& key) {
         if (key == u'+')
             key = QChar();

@@ -63,8 +63,7 @@ void AdvListEditorPerMouseTest::aClickSelectsABubbleAndPutsTheCaretBehindIt()
 void AdvListEditorPerMouseTest::shiftAndClickSelectsUpToABubble()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک شکر"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک شکر")));
     QTest::mouseClick(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Bubble(1).center());
     QTest::mouseClick(&form.editor, Qt::LeftButton, Qt::ShiftModifier, form.Bubble(3).center());
     QCOMPARE(form.Selected(), QList<int>({1, 2, 3}));
@@ -75,8 +74,7 @@ void AdvListEditorPerMouseTest::shiftAndClickSelectsUpToABubble()
 void AdvListEditorPerMouseTest::draggingSelectsTheBubblesPassed()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک شکر"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک شکر")));
     DragFrom(&form.editor, form.Bubble(0).center(), form.Bubble(2).center() - QPoint(10, 0));
     QCOMPARE(form.Selected(), QList<int>({0, 1, 2}));
     QCOMPARE(form.Row(), QStringLiteral("آب نان نمک شکر"));
@@ -87,8 +85,7 @@ void AdvListEditorPerMouseTest::draggingSelectsTheBubblesPassed()
 void AdvListEditorPerMouseTest::aClickOnTheCloseMarkRemovesAsDeleteDoes()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     QStringList told;
     form.editor.OnKeyDown = [&](QObject*, quint16& key, Qt::KeyboardModifiers) {
         told << QStringLiteral("down %1 %2").arg(key).arg(form.Row());
@@ -107,8 +104,7 @@ void AdvListEditorPerMouseTest::aClickOnTheCloseMarkRemovesAsDeleteDoes()
 void AdvListEditorPerMouseTest::aCloseMarkLeftBeforeTheReleaseRemovesNothing()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     QTest::mousePress(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Mark(1));
     QTest::mouseRelease(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Mark(2));
     QCOMPARE(form.Row(), QStringLiteral("آب نان نمک"));
@@ -117,8 +113,7 @@ void AdvListEditorPerMouseTest::aCloseMarkLeftBeforeTheReleaseRemovesNothing()
 void AdvListEditorPerMouseTest::aSwallowedDeleteKeepsTheBubbleOfItsMark()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     form.editor.OnKeyDown = [](QObject*, quint16& key, Qt::KeyboardModifiers) { key = 0; };
     QTest::mouseClick(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Mark(1));
     QCOMPARE(form.Row(), QStringLiteral("آب نان"));
@@ -127,8 +122,7 @@ void AdvListEditorPerMouseTest::aSwallowedDeleteKeepsTheBubbleOfItsMark()
 void AdvListEditorPerMouseTest::aReadOnlyEditorHasNoCloseMarks()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     const int width = form.Bubble(0).width();
     form.editor.SetReadOnly(true);
     QVERIFY(form.Bubble(0).width() < width);
@@ -144,8 +138,7 @@ void AdvListEditorPerMouseTest::aReadOnlyEditorHasNoCloseMarks()
 void AdvListEditorPerMouseTest::everyPressIsToldInTheEditorsPixels()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     QList<QPoint> points;
     QList<Qt::MouseButton> buttons;
     form.editor.OnMouseDown = [&](QObject* sender, Qt::MouseButton button, Qt::KeyboardModifiers, int x,
@@ -167,8 +160,7 @@ void AdvListEditorPerMouseTest::everyPressIsToldInTheEditorsPixels()
 void AdvListEditorPerMouseTest::thePressOnACloseMarkBelongsToTheMark()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     int presses = 0;
     form.editor.OnMouseDown = [&](QObject*, Qt::MouseButton, Qt::KeyboardModifiers, int, int) { ++presses; };
     QTest::mouseClick(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Mark(0));
@@ -179,8 +171,7 @@ void AdvListEditorPerMouseTest::thePressOnACloseMarkBelongsToTheMark()
 void AdvListEditorPerMouseTest::aBubbleIsDraggedToAnotherPlaceOnlyWhereThatIsOn()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک شکر"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک شکر")));
     form.editor.SetAllowReorder(true);
     DragFrom(&form.editor, form.Bubble(0).center(), form.Bubble(2).center() - QPoint(10, 0));
     QCOMPARE(form.Row(), QStringLiteral("نان نمک آب شکر"));
@@ -195,8 +186,7 @@ void AdvListEditorPerMouseTest::aBubbleIsDraggedToAnotherPlaceOnlyWhereThatIsOn(
 void AdvListEditorPerMouseTest::escapeEndsADrag()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     form.editor.SetAllowReorder(true);
     QTest::mousePress(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Bubble(0).center());
     const QPoint target = form.Bubble(2).center() - QPoint(10, 0);
@@ -211,8 +201,7 @@ void AdvListEditorPerMouseTest::escapeEndsADrag()
 void AdvListEditorPerMouseTest::removingItemsEndsADrag()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     form.editor.SetAllowReorder(true);
     QTest::mousePress(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Bubble(2).center());
     const QPoint target = form.Bubble(0).center() + QPoint(10, 0);
@@ -228,8 +217,7 @@ void AdvListEditorPerMouseTest::removingItemsEndsADrag()
 void AdvListEditorPerMouseTest::theRightButtonOpensTheOwnersMenu()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب")));
     QMenu menu;
     menu.addAction(QStringLiteral("کالا"));
     form.editor.SetPopupMenu(&menu);
@@ -245,8 +233,7 @@ void AdvListEditorPerMouseTest::theRightButtonOpensTheOwnersMenu()
 void AdvListEditorPerMouseTest::theEditorsOwnMenuRemovesSelectedBubbles()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان نمک"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان نمک")));
     QList<int> ups;
     form.editor.OnKeyUp = [&](QObject*, quint16& key, Qt::KeyboardModifiers) { ups << key; };
     QTest::mouseClick(&form.editor, Qt::LeftButton, Qt::NoModifier, form.Bubble(1).center());
@@ -274,8 +261,7 @@ void AdvListEditorPerMouseTest::theEditorsOwnMenuRemovesSelectedBubbles()
 void AdvListEditorPerMouseTest::theWheelScrollsARowThatIsTooLong()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("بلندترین_نام ").repeated(20));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("بلندترین_نام ").repeated(20)));
     const int before = form.Bubble(0).left();
     QVERIFY(before >= form.editor.width());
     const auto turn = [&](int delta) {
@@ -313,8 +299,7 @@ void AdvListEditorPerMouseTest::aLongNameIsShownWholeInATooltip()
 void AdvListEditorPerMouseTest::theMiddleButtonOfAFormWithoutSelectionDoesNothing()
 {
     TTokenForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     QTest::mouseClick(&form.editor, Qt::MiddleButton, Qt::NoModifier, form.Bubble(0).center());
     QCOMPARE(form.Row(), QStringLiteral("آب نان"));
     QCOMPARE(form.Selected(), QList<int>());

@@ -193,8 +193,7 @@ void AdvListEditorPerPaintingTest::theFocusIsSeen()
 void AdvListEditorPerPaintingTest::selectedBubblesTakeTheSelectionsColour()
 {
     TPaintedForm form;
-    form.Fill(QStringLiteral("آب نان"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب نان")));
     const QColor selection = Look::Color(Look::TRole::Selection);
     QVERIFY(Ink::Ground(form.GrabBubble(1)) != selection);
     form.Stroke(Qt::Key_Right, Qt::ShiftModifier);
@@ -256,8 +255,7 @@ void AdvListEditorPerPaintingTest::aTallEditorCentresItsLine()
 {
     TPaintedForm form;
     form.editor.setFixedHeight(38);
-    form.Fill(QStringLiteral("آب"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب")));
     QVERIFY(qAbs(form.Bubble(0).center().y() - 18) <= 1);
 }
 
@@ -309,8 +307,7 @@ void AdvListEditorPerPaintingTest::anEmptyEditorShowsItsPlaceholder()
 void AdvListEditorPerPaintingTest::theMarkUnderTheMouseIsSeen()
 {
     TPaintedForm form;
-    form.Fill(QStringLiteral("آب"));
-    QVERIFY(form.Show());
+    QVERIFY(form.Show(QStringLiteral("آب")));
     const QColor wrong = Look::ColorOf(Look::TRole::Wrong, false);
     QVERIFY(!Ink::Has(form.GrabBubble(0), wrong, 4));
     QMouseEvent move(QEvent::MouseMove, form.Mark(0), form.editor.mapToGlobal(form.Mark(0)), Qt::NoButton,

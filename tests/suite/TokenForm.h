@@ -33,6 +33,12 @@ struct TTokenForm
         return ActiveWindow::Activate(&window) && QTest::qWaitFor([&] { return focus.hasFocus(); });
     }
 
+    /// Shows the window with items named by the words of a text.
+    bool Show(const QString& words)
+    {
+        Fill(words);
+        return Show();
+    }
     /// Items named by the words of a text, with the values 1, 2, 3 and so on; caret behind them.
     void Fill(const QString& words)
     {

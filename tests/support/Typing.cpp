@@ -30,6 +30,16 @@ void Typing::Press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers
     QTest::keyClick(widget, key, modifiers);
 }
 
+QWidgetList Typing::TabStops(qsizetype strokes)
+{
+    QWidgetList stops;
+    for (qsizetype stroke = 0; stroke < strokes; ++stroke) {
+        Press(QApplication::focusWidget(), Qt::Key_Tab);
+        stops.append(QApplication::focusWidget());
+    }
+    return stops;
+}
+
 bool Typing::ShowActive(QWidget* window)
 {
     window->show();

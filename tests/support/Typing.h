@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <Qt>
-
-class QWidget;
+#include <QWidget>
 
 /// Real key and mouse events as a user makes them.
 namespace Typing {
@@ -13,6 +11,8 @@ namespace Typing {
 void Type(QWidget* widget, const QString& text);
 /// Presses and releases a key.
 void Press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+/// The controls that have the focus after each of so many strokes of Tab.
+QWidgetList TabStops(qsizetype strokes);
 /// Shows a window and waits until it is active, so that focus and shortcuts work.
 bool ShowActive(QWidget* window);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AdvListEditorPer.h"
+#include "ControlColumn.h"
 #include "RecordingHost.h"
 #include "tags_frame.h"
 #include "TagStore.h"
@@ -10,7 +11,6 @@
 #include <memory>
 #include <QApplication>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 /// A form with the tags frame and a button behind it, on a small database whose tags and goods the test adds.
 struct TTagsForm
@@ -28,11 +28,8 @@ struct TTagsForm
         Host.DM.Connection = &Tables.Connection;
         Host.DM.Query = &Tables.Query;
         Host.DM.Command = &Tables.Command;
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TTags(Form.get());
-        Other = new QPushButton(QStringLiteral("بستن"), Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
+        Other->setText(QStringLiteral("بستن"));
     }
 
     TAdvListEditorPer* Editor() const { return Frame->Tags_editor; }

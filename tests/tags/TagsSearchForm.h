@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AdvListEditorPer.h"
+#include "ControlColumn.h"
 #include "PopupMenu.h"
 #include "RecordingHost.h"
 #include "SmartButton_TRV.h"
@@ -11,7 +12,6 @@
 
 #include <memory>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 /// A form with the tags search frame and an edit behind it, on a small database of three colours (1 red,
 /// 2 blue, 3 green) and, unless the test adds more, the tags 3 «سه», 5 «پنج» and 7 «هفت».
@@ -32,11 +32,7 @@ struct TTagsSearchForm
         Tables.AddTag(5, QStringLiteral("پنج"), 1);
         Tables.AddTag(7, QStringLiteral("هفت"), 2);
         Tables.Sent();
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TTags_search_FRM(Form.get());
-        Other = new QLineEdit(Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
     }
 
     TAdvListEditorPer& Editor() const { return *Frame->Tag_editor; }

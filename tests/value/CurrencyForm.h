@@ -2,6 +2,7 @@
 
 #include "ADOConnection.h"
 #include "ADOQuery.h"
+#include "ControlColumn.h"
 #include "CurrencyFrame_UNT.h"
 #include "RecordingHost.h"
 #include "SmartComboBox_TRV.h"
@@ -11,7 +12,6 @@
 
 #include <memory>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <utility>
 
 /// A small database in memory: the base currency, dollars with rates of three days (the last one entered
@@ -71,11 +71,8 @@ struct TCurrencyForm
     {
         Host.DM.Connection = &Database.Connection;
         Host.DM.Query = &Database.Query;
-        auto* const layout = new QVBoxLayout(Form.get());
-        Frame = new TCurrency_FRAME(Form.get());
-        Other = new QPushButton(QStringLiteral("ذخیره"), Form.get());
-        layout->addWidget(Frame);
-        layout->addWidget(Other);
+        MakeColumn(*Form, Frame, Other);
+        Other->setText(QStringLiteral("ذخیره"));
     }
 
     TSmartComboBox_TRV* List() const { return Frame->CurrencyType_CMB; }

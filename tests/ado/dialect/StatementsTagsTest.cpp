@@ -2,28 +2,12 @@
 
 #include <QtTest>
 
-/// The texts that the tags frame and the tags search frame send.
-class StatementsTagsTest : public QObject
+namespace {
+
+const QString joined = QStringLiteral("FROM TagS inner join colors on TagS.color_code = colors.code");
+
+void AddListsAndSuggestions()
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void aListDeliversItsRows_data();
-    void aListDeliversItsRows();
-    void addingATagReachesTheRecordsWithoutIt_data();
-    void addingATagReachesTheRecordsWithoutIt();
-    void removingATagLeavesTheOthersAndNoLoneComma();
-    void theTagListHasTheNamesThatTheFrameReads();
-
-private:
-    static QString AddFirst(int tag, const QString& keys);
-    static QString AddSecond(int tag, const QString& keys);
-};
-
-void StatementsTagsTest::aListDeliversItsRows_data()
-{
-    StatementColumns();
-    const QString joined = QStringLiteral("FROM TagS inner join colors on TagS.color_code = colors.code");
     StatementRow("all tags with their colour",
                  QLatin1String("SELECT TagS.Code AS ID,TagS.Name,cl_code,Colors.code,[h-img] as image ") +
                      joined,
@@ -49,6 +33,10 @@ void StatementsTagsTest::aListDeliversItsRows_data()
                  {"3|Urgent|aa01|1|$0000FF"});
     StatementRow("suggestions for a quote", suggestions.arg(QLatin1String("-1")) + Q(QStringLiteral("o'%")),
                  {"2|O'Neil|aa02|2|$00FF00"});
+}
+
+void AddSingleTags()
+{
     StatementRow("exact look-up", QLatin1String("select * from tags where name=") + Q(QStringLiteral("فوری")),
                  {"1|فوری|1"});
     StatementRow("exact look-up in other case",
@@ -69,6 +57,10 @@ void StatementsTagsTest::aListDeliversItsRows_data()
                  QLatin1String("SELECT TagS.Code AS ID,TagS.Name,Colors.code ") + joined +
                      QLatin1String(" where tags.code=5"),
                  {"5|مهم|2"});
+}
+
+void AddPictures()
+{
     StatementRow("strong pictures", QStringLiteral("select code,[h-img] from colors"), {"1|aa01", "2|aa02"});
     StatementRow("light pictures", QStringLiteral("select code,[l-img] from colors"), {"1|bb01", "2|NULL"});
     StatementRow("colours as the form has it", QStringLiteral("select  * FROM colors"),
@@ -97,6 +89,34 @@ void StatementsTagsTest::aListDeliversItsRows_data()
             Q(QStringLiteral("فروش ویژه")),
         {"4|2|فروش ویژه|aa02"});
     StatementRow("number of tags", QStringLiteral("select count(code) from tags"), {"5"});
+}
+
+} // namespace
+
+/// The texts that the tags frame and the tags search frame send.
+class StatementsTagsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aListDeliversItsRows_data();
+    void aListDeliversItsRows();
+    void addingATagReachesTheRecordsWithoutIt_data();
+    void addingATagReachesTheRecordsWithoutIt();
+    void removingATagLeavesTheOthersAndNoLoneComma();
+    void theTagListHasTheNamesThatTheFrameReads();
+
+private:
+    static QString AddFirst(int tag, const QString& keys);
+    static QString AddSecond(int tag, const QString& keys);
+};
+
+void StatementsTagsTest::aListDeliversItsRows_data()
+{
+    StatementColumns();
+    AddListsAndSuggestions();
+    AddSingleTags();
+    AddPictures();
 }
 
 void StatementsTagsTest::aListDeliversItsRows()
