@@ -38,9 +38,16 @@ bool IsStartOfFrame(uchar marker)
            marker != arithmeticTables;
 }
 
-bool IsProgressive(uchar marker)
+/// Coded in the way that no camera and no browser knows, which takes a decoder many times as long.
+bool IsArithmetic(uchar frameMarker)
 {
-    return marker == 0xC2 || marker == 0xC6 || marker == 0xCA || marker == 0xCE;
+    constexpr uchar firstArithmetic = 0xC9;
+    return frameMarker >= firstArithmetic;
+}
+
+bool IsProgressive(uchar frameMarker)
+{
+    return frameMarker == 0xC2 || frameMarker == 0xC6;
 }
 
 int BigEndian(const QByteArray& bytes, int index)
@@ -110,7 +117,7 @@ std::optional<TJpegFrame> ReadFrame(QIODevice& device)
             return {};
         if (IsStartOfFrame(marker)) {
             const std::optional<double> samples = Megasamples(content);
-            if (!samples)
+            if (!samples || IsArithmetic(marker))
                 return {};
             frame.Progressive = IsProgressive(marker);
             frame.Megasamples = *samples;

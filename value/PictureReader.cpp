@@ -62,14 +62,16 @@ QImage ReadBounded(QImageReader& reader, TFormat format)
         return {};
     if (PixelsOf(size) <= PictureReader::MostPixels)
         return reader.read();
+    const QSize reduced = ReducedSize(size);
+    if (PixelsOf(reduced) > PictureReader::MostPixels)
+        return {};
     if (format == TFormat::Jpeg) {
-        reader.setScaledSize(ReducedSize(size));
+        reader.setScaledSize(reduced);
         return reader.read();
     }
     // The decoder of PNG is much slower where it makes a picture smaller itself.
     const QImage whole = reader.read();
-    return whole.isNull() ? whole
-                          : whole.scaled(ReducedSize(size), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return whole.isNull() ? whole : whole.scaled(reduced, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace

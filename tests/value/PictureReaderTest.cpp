@@ -180,6 +180,11 @@ private Q_SLOTS:
         QTest::newRow("many scans of a large picture") << FlatJpeg(4000, 4000, true, 60, 3) << jpeg;
         QTest::newRow("many bytes of a huge picture")
             << FlatJpeg(20000, 20000, false) + QByteArray(60'000'000, '\0') << jpeg;
+        QTest::newRow("too large even as an eighth") << FlatJpeg(40000, 40000, false) << jpeg;
+        QTest::newRow("coded arithmetically")
+            << FlatJpeg(20000, 20000, false).replace("\xFF\xC0", "\xFF\xC9") << jpeg;
+        QTest::newRow("small and coded arithmetically")
+            << FlatJpeg(64, 64, false).replace("\xFF\xC0", "\xFF\xC9") << jpeg;
         QTest::newRow("components without factors") << FlatJpeg(64, 64, false).left(70) << jpeg;
         QTest::newRow("largest JPEG") << FlatJpeg(65500, 65500, false) << jpeg;
         QTest::newRow("PNG 20,000 x 20,000") << FlatPng(20000) << static_cast<int>(TFormat::Png);
