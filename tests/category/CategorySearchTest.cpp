@@ -128,7 +128,9 @@ void CategorySearchTest::openingWithoutADefaultPublishesNothing()
 
 void CategorySearchTest::openingEmptiesThePath()
 {
+    Frame().Editor->SetRightToLeft(false);
     Frame().open(1);
+    QCOMPARE(Frame().Editor->layoutDirection(), Qt::RightToLeft);
     form_->Host.Settings.User.Code = 9;
     Frame().open(1);
     QCOMPARE(form_->Bubbles(), QStringList());

@@ -268,7 +268,14 @@ private Q_SLOTS:
         selected.ReadCommon(tables.Query);
         tables.Connection.Execute(TagStatements::AddShown(Goods(QStringLiteral("1")), QStringLiteral("7")));
         selected.ReadCommon(tables.Query);
+        selected.ReadPartial(tables.Query);
         QCOMPARE(selected.Common().join(u','), QStringLiteral("5,7"));
+        QCOMPARE(selected.Snapshot().join(u','), QStringLiteral("5,7"));
+        tables.Connection.Execute(QStringLiteral("UPDATE Goods SET tags = NULL"));
+        selected.ReadCommon(tables.Query);
+        selected.ReadPartial(tables.Query);
+        QVERIFY(selected.Common().isEmpty());
+        QVERIFY(selected.Snapshot().isEmpty());
     }
 };
 

@@ -356,6 +356,7 @@ private Q_SLOTS:
         form.Type(QStringLiteral("هیچ"));
         form.Press(Qt::Key_Up);
         QVERIFY(form.Editor()->hasFocus());
+        QVERIFY(form.Form->focusWidget() != form.Grid());
     }
 
     void downBehindTheLastSuggestionComesBackToTheEditor()

@@ -91,6 +91,32 @@ private Q_SLOTS:
         QCOMPARE(form.Tables.TagsOf(1), QStringLiteral(",5,7,"));
     }
 
+    void aShownTagThatIsGoneIsNotCreatedAgain()
+    {
+        TTagsForm form;
+        FillShop(form);
+        QVERIFY(form.Show());
+        Forget(form.Tables, Wholesale);
+        form.Enter(QStringLiteral("عمده"));
+        QCOMPARE(form.Host.Log.Lines(), QStringList());
+        QCOMPARE(form.Items(), QStringList{QStringLiteral("نقدی=7:(blue)")});
+        QCOMPARE(form.Tables.TagsOf(2), QStringLiteral(",5,"));
+    }
+
+    void aShownTagThatAnotherUserHasTakenOffIsPutAgain()
+    {
+        TTagsForm form;
+        FillShop(form);
+        form.Select({1, 3}); // both carry 5 and 7
+        QVERIFY(form.Show());
+        form.Tables.Connection.Execute(QStringLiteral("UPDATE Goods SET tags = ',5,' WHERE Id = 3"));
+        form.Type(QStringLiteral("نقدی"));
+        form.Press(Qt::Key_Up);
+        QTest::keyPress(form.Grid(), Qt::Key_Return);
+        QCOMPARE(form.Tables.TagsOf(3), QStringLiteral(",5,7,"));
+        QCOMPARE(form.Items().constLast(), QStringLiteral("نقدی=7:blue"));
+    }
+
     void aSuggestionThatAnotherUserHasDeletedIsNotShownAnew()
     {
         TTagsForm form;
