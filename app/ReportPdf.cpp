@@ -22,7 +22,11 @@ constexpr qreal cellPadding = 1;
 constexpr qreal cellPoints = 7.5;
 constexpr qreal titlePoints = 12;
 
+/// Part of the page's width that the condition has beside a note.
+constexpr qreal conditionShare = 0.7;
+
 constexpr int paragraph = Qt::TextForceRightToLeft | Qt::TextSingleLine;
+constexpr int wrapped = Qt::TextForceRightToLeft | Qt::TextWordWrap;
 
 qreal Dots(qreal millimetres)
 {
@@ -55,6 +59,7 @@ public:
             total += column.Width;
         for (const TGridColumn& column : table.Question.Columns)
             widths_.append(total > 0 ? column.Width * page_.width() / total : 0);
+        MeasureHeader();
     }
 
     void Print()
@@ -74,17 +79,27 @@ public:
     }
 
 private:
+    /// The condition takes as many lines as it needs, up to half of the page.
+    void MeasureHeader()
+    {
+        const qreal width = page_.width() * (table_.Note().isEmpty() ? 1 : conditionShare);
+        const QRectF room(0, 0, width, page_.height() / 2);
+        const QFontMetricsF metrics(FontOf(cellPoints), &writer_);
+        const qreal height = qMin(metrics.boundingRect(room, wrapped, Words()).height(), room.height());
+        words_ = QRectF(page_.width() - width, Dots(titleHeight), width, qMax(height, Dots(titleHeight)));
+    }
+
     /// Beside the column titles every page keeps a line free, on the last one for the totals.
     int RowsPerPage() const
     {
-        const qreal room = page_.height() - Dots(2 * titleHeight) - Dots(2 * rowHeight);
+        const qreal room = page_.height() - words_.bottom() - Dots(2 * rowHeight);
         return qMax(1, static_cast<int>(room / Dots(rowHeight)));
     }
 
     void PrintPage(int number, int first, int end)
     {
         PrintHeader(number);
-        qreal top = Dots(2 * titleHeight);
+        qreal top = words_.bottom();
         PrintTitles(top);
         for (int row = first; row < end; ++row) {
             top += Dots(rowHeight);
@@ -103,17 +118,15 @@ private:
         PrintText(line, place, FontOf(cellPoints), Qt::AlignLeft);
         PrintText(line, table_.Question.Today, FontOf(cellPoints), Qt::AlignHCenter);
         const QRectF second = line.translated(0, line.height());
-        const QString note = table_.Note();
-        PrintText(second, Words(second.width() * (note.isEmpty() ? 1 : 0.7)), FontOf(cellPoints),
-                  Qt::AlignRight);
-        PrintText(second, note, FontOf(cellPoints, true), Qt::AlignLeft);
+        PrintText(second, table_.Note(), FontOf(cellPoints, true), Qt::AlignLeft);
+        painter_.setFont(FontOf(cellPoints));
+        painter_.drawText(words_, Aligned(Qt::AlignRight) | wrapped, Words());
     }
 
-    QString Words(qreal width) const
+    QString Words() const
     {
         const QString& words = table_.Question.ConditionInWords;
-        const QString text = words.isEmpty() ? QStringLiteral("همهٔ ردیف‌ها") : words;
-        return QFontMetricsF(FontOf(cellPoints), &writer_).elidedText(text, Qt::ElideRight, width);
+        return words.isEmpty() ? QStringLiteral("همهٔ ردیف‌ها") : words;
     }
 
     void PrintText(const QRectF& area, const QString& text, const QFont& font, Qt::Alignment alignment)
@@ -181,6 +194,7 @@ private:
     const TReportTable& table_;
     QPainter painter_;
     QRectF page_;
+    QRectF words_; ///< place of the condition
     QVector<qreal> widths_;
     int pages_ = 1;
 };

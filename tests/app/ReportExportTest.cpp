@@ -188,6 +188,9 @@ private Q_SLOTS:
         }
         QCOMPARE(PagesOf(2 * few), 2);
         QCOMPARE(PagesOf(2 * few + 1), 3);
+        // A condition that fits into its line takes no room from the lines; a longer one is not cut.
+        QCOMPARE(PagesOf(few, QStringLiteral("شمارهٔ سند از ۱۰ به بالا باشد")), 1);
+        QCOMPARE(PagesOf(few, QStringLiteral("شمارهٔ سند از ۱۰ به بالا باشد و ").repeated(20)), 2);
     }
 
     void aReportWithoutLinesIsSaved()
@@ -290,9 +293,10 @@ private:
         shop_->Settle();
     }
     /// The pages of a PDF with so many lines.
-    static int PagesOf(int lines)
+    static int PagesOf(int lines, const QString& condition = {})
     {
         TReportTable table;
+        table.Question.ConditionInWords = condition;
         table.Question.Columns = Columns();
         table.Rows.fill({QStringLiteral("شرح"), QStringLiteral("5")}, lines);
         return Pages(PdfBytes(table));
