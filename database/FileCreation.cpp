@@ -57,24 +57,25 @@ void RemoveRemains(const QFileInfo& file)
     }
 }
 
-void Build(const QString& path, const TDatabaseOptions& options)
+/// Makes the file in the workshop; what hinders it is told of the path that it is meant for.
+void Build(const QString& made, const QString& path, const TDatabaseOptions& options)
 {
     TADOConnection connection;
-    connection.SetConnectionString(QStringLiteral("sqlite:") + path);
+    connection.SetConnectionString(QStringLiteral("sqlite:") + made);
     TEngineOptions engine;
     engine.CreateMissing = true;
     connection.SetOptions(engine);
     connection.Open();
     connection.Close();
     // Marked while still empty: the engine itself then writes the mark out safely with everything else.
-    if (!FileHeader::Stamp(path))
+    if (!FileHeader::Stamp(made))
         RefuseFolder(path);
     connection.Open();
     CreateSampleDatabase(connection, options.Size, options.Progress);
     connection.Close();
     // A full disk may have kept the end of the write-ahead log from reaching the file.
-    if (QFile::exists(path + QStringLiteral("-wal")) ||
-        FileHeader::Examine(path) != FileHeader::TVerdict::Good)
+    if (QFile::exists(made + QStringLiteral("-wal")) ||
+        FileHeader::Examine(made) != FileHeader::TVerdict::Good)
         RefuseFolder(path);
 }
 
@@ -96,7 +97,7 @@ void CreateDatabaseFile(const QString& path, const TDatabaseOptions& options)
     if (!workshop.isValid())
         RefuseFolder(path);
     const QString made = workshop.filePath(QStringLiteral("database"));
-    Build(made, options);
+    Build(made, path, options);
     if (!QFile::rename(made, path) && !QFileInfo::exists(path))
         RefuseFolder(path);
 }
