@@ -9,6 +9,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
+# Forms bind their handlers themselves: nothing is to be sought by its name when one is made.
+set(CMAKE_AUTOUIC_OPTIONS --no-autoconnection)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # The target all_verify_interface_header_sets compiles every public header alone.
 set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)

@@ -2,6 +2,7 @@
 
 #include "DrawnIcon.h"
 #include "FilterLine.h"
+#include "SharedIcon.h"
 #include "SmartButton_TRV.h"
 #include "SmartCheckBox_TRV.h"
 #include "SmartLabel_TRV.h"
@@ -12,7 +13,7 @@
 namespace {
 
 /// A magnifying glass.
-QIcon Glass(const QColor& color)
+QPixmap Glass(const QColor& color)
 {
     return DrawnIcon(QPen(color, 5, Qt::SolidLine, Qt::RoundCap), [](QPainter& painter) {
         painter.drawEllipse(QPoint(28, 20), 14, 14);
@@ -49,7 +50,8 @@ void TADVSearch_Fram::ADVSearch_CHKClick(QObject* /*Sender*/)
 
 void TADVSearch_Fram::ShowGlyph() const
 {
-    ADVSearch_BTN->setIcon(Glass(ADVSearch_BTN->palette().color(QPalette::ButtonText)));
+    const QColor color = ADVSearch_BTN->palette().color(QPalette::ButtonText);
+    ADVSearch_BTN->setIcon(SharedIcon::Of(QStringLiteral("glass"), color, Glass));
 }
 
 void TADVSearch_Fram::changeEvent(QEvent* event)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
 
-/// An icon of 48 by 48 pixels that `draw` draws with the pen on nothing.
-template <typename TDraw> QIcon DrawnIcon(const QPen& pen, TDraw draw)
+/// The picture of an icon, 48 by 48 pixels, that `draw` draws with the pen on nothing.
+template <typename TDraw> QPixmap DrawnIcon(const QPen& pen, TDraw draw)
 {
     constexpr int side = 48;
     QPixmap picture(side, side);
@@ -14,5 +14,5 @@ template <typename TDraw> QIcon DrawnIcon(const QPen& pen, TDraw draw)
     painter.setPen(pen);
     draw(painter);
     painter.end();
-    return QIcon(picture);
+    return picture;
 }

@@ -31,15 +31,9 @@ QString WithoutLast(const QString& text)
 
 } // namespace
 
-TPopupMenu::TPopupMenu(QWidget* parent)
-    : QMenu(parent), findLabel_(new QLabel), findRow_(new QWidgetAction(this))
+TPopupMenu::TPopupMenu(QWidget* parent) : QMenu(parent)
 {
     setLayoutDirection(Qt::RightToLeft);
-    findLabel_->setMargin(Look::Margin);
-    findLabel_->setTextFormat(Qt::PlainText);
-    findRow_->setDefaultWidget(findLabel_); // owns the label from here on
-    findRow_->setVisible(false);
-    addAction(findRow_);
 }
 
 TPopupMenu::~TPopupMenu() = default;
@@ -117,7 +111,8 @@ void TPopupMenu::hideEvent(QHideEvent* event)
 {
     QMenu::hideEvent(event);
     findText_.clear();
-    ShowMatches();
+    if (findRow_ != nullptr)
+        ShowMatches();
 }
 
 void TPopupMenu::keyPressEvent(QKeyEvent* event)
@@ -149,8 +144,21 @@ bool TPopupMenu::EditFindText(const QKeyEvent& event)
 void TPopupMenu::SetFindText(const QString& text)
 {
     findText_ = text;
+    if (findRow_ == nullptr)
+        MakeFindRow();
     QAction* const first = ShowMatches();
     FitToItems(first);
+}
+
+void TPopupMenu::MakeFindRow()
+{
+    findLabel_ = new QLabel;
+    findLabel_->setMargin(Look::Margin);
+    findLabel_->setTextFormat(Qt::PlainText);
+    findRow_ = new QWidgetAction(this);
+    findRow_->setDefaultWidget(findLabel_); // owns the label from here on
+    findRow_->setVisible(false);
+    insertAction(actions().value(0), findRow_);
 }
 
 /// Answers the first item that matches, none where nothing has been typed.

@@ -51,14 +51,15 @@ protected:
 private:
     bool EditFindText(const QKeyEvent& event);
     void SetFindText(const QString& text);
+    void MakeFindRow();
     QAction* ShowMatches();
     void FitToItems(QAction* active);
     void CentreAt(int x);
 
     QVector<QIcon> icons_;
     QVector<TMenuItem*> items_;
-    QLabel* findLabel_;
-    QWidgetAction* findRow_;
+    QLabel* findLabel_ = nullptr; ///< made, with its row, when something is first sought
+    QWidgetAction* findRow_ = nullptr;
     QString findText_;
     int top_ = 0;   ///< where the menu was opened, on the screen
     int right_ = 0; ///< its right edge

@@ -381,6 +381,9 @@ void TSmartButton_TRV::AdaptWidth()
 {
     updateGeometry();
     update();
-    if (d->autoWidth)
+    // While a form is being set up its layout is to come, and gives the button its place.
+    const bool isBeingLaidOut = !testAttribute(Qt::WA_WState_Polished) && parentWidget() != nullptr &&
+                                parentWidget()->layout() != nullptr;
+    if (d->autoWidth && !isBeingLaidOut)
         resize(sizeHint().width(), height());
 }

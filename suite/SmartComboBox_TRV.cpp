@@ -54,6 +54,10 @@ qint64 TSmartComboBox_TRV::ItemObject(int index) const
 void TSmartComboBox_TRV::showPopup()
 {
     indexBefore_ = currentIndex();
+    if (std::exchange(listWantsFont_, false)) {
+        QEvent fontChange(QEvent::FontChange);
+        QComboBox::changeEvent(&fontChange);
+    }
     const int scrollBar = count() > maxVisibleItems() ? view()->verticalScrollBar()->sizeHint().width() : 0;
     const int frame = 2 * view()->frameWidth();
     view()->setMinimumWidth(qMax(width(), view()->sizeHintForColumn(0) + scrollBar + frame));
@@ -93,6 +97,18 @@ void TSmartComboBox_TRV::focusOutEvent(QFocusEvent* event)
     // The open list holds the focus for its combo.
     if (!view()->isVisible())
         ControlDispatch::FocusOut(this, *this, event);
+}
+
+void TSmartComboBox_TRV::changeEvent(QEvent* event)
+{
+    if (event->type() != QEvent::FontChange || findChild<QAbstractItemView*>() != nullptr) {
+        QComboBox::changeEvent(event);
+        return;
+    }
+    // The toolkit would make the list to give it the font. What it has measured it forgets with a style, too.
+    listWantsFont_ = true;
+    QEvent styleChange(QEvent::StyleChange);
+    QComboBox::changeEvent(&styleChange);
 }
 
 void TSmartComboBox_TRV::wheelEvent(QWheelEvent* event)

@@ -37,6 +37,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override; ///< without the focus the page scrolls instead
 
 private:
@@ -46,4 +47,5 @@ private:
     int indexBefore_ = -1; // when the user's action began
     QString typed_;
     QElapsedTimer sinceTyped_;
+    bool listWantsFont_ = false; // it is made when it is first opened
 };

@@ -3,6 +3,7 @@
 #include "CalendarPopup.h"
 #include "DrawnIcon.h"
 #include "Look.h"
+#include "SharedIcon.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -59,7 +60,7 @@ bool OpensCalendar(const QKeyEvent* event)
     return altDown || (event->key() == Qt::Key_F4 && event->modifiers() == Qt::NoModifier);
 }
 
-QIcon CalendarIcon(const QColor& color)
+QPixmap CalendarPicture(const QColor& color)
 {
     return DrawnIcon(QPen(color, 4), [&color](QPainter& painter) {
         painter.drawRoundedRect(QRect(6, 9, 36, 34), 4, 4);
@@ -129,7 +130,8 @@ void TSmartDateEdit_TRV::SetCalendarButton(bool on)
 void TSmartDateEdit_TRV::RefreshButtonIcon()
 {
     if (button_)
-        button_->setIcon(CalendarIcon(Look::Color(Look::TRole::SecondaryText)));
+        button_->setIcon(SharedIcon::Of(QStringLiteral("calendar"), Look::Color(Look::TRole::SecondaryText),
+                                        CalendarPicture));
 }
 
 QString TSmartDateEdit_TRV::ValueIn(TCalendarType type) const

@@ -57,7 +57,7 @@ QAccessibleInterface* NewAccessibleView(const QString& /*className*/, QObject* o
 
 } // namespace
 
-TSmartDetailView_TRV::TSmartDetailView_TRV(QWidget* parent) : QFrame(parent), menu_(new QMenu(this))
+TSmartDetailView_TRV::TSmartDetailView_TRV(QWidget* parent) : QFrame(parent)
 {
     static const bool known = (QAccessible::installFactory(&NewAccessibleView), true);
     Q_UNUSED(known)
@@ -105,22 +105,30 @@ void TSmartDetailView_TRV::SetDenied(int index, bool denied)
     UpdateValue();
 }
 
+QMenu* TSmartDetailView_TRV::PopupMenu()
+{
+    if (menu_ == nullptr)
+        menu_ = new QMenu(this);
+    return menu_;
+}
+
 void TSmartDetailView_TRV::Fill_PopMenu()
 {
-    menu_->clear();
-    delete menu_->findChild<QActionGroup*>();
-    auto* choices = new QActionGroup(menu_);
+    QMenu* const menu = PopupMenu();
+    menu->clear();
+    delete menu->findChild<QActionGroup*>();
+    auto* choices = new QActionGroup(menu);
     for (int index = 0; index < ItemCount(); ++index) {
         if (!items_.at(index).Selectable)
             continue;
-        QAction* action = menu_->addAction(items_.at(index).Caption);
+        QAction* action = menu->addAction(items_.at(index).Caption);
         action->setCheckable(true);
         action->setData(index);
         choices->addAction(action);
         connect(action, &QAction::triggered, this, [this, index] { Choose(index); });
     }
-    menu_->addSeparator();
-    QAction* copy = menu_->addAction(QStringLiteral("کپی مقدار\tCtrl+C"));
+    menu->addSeparator();
+    QAction* copy = menu->addAction(QStringLiteral("کپی مقدار\tCtrl+C"));
     connect(copy, &QAction::triggered, this, &TSmartDetailView_TRV::CopyValue);
     const TDetailItem* shown = Current();
     SetItemIndex(shown != nullptr && shown->Selectable ? itemIndex_ : 0);
@@ -129,7 +137,7 @@ void TSmartDetailView_TRV::Fill_PopMenu()
 void TSmartDetailView_TRV::SetItemIndex(int index)
 {
     itemIndex_ = qMax(0, index);
-    const auto actions = menu_->actions();
+    const auto actions = menu_ != nullptr ? menu_->actions() : QList<QAction*>();
     for (QAction* action : actions) {
         if (action->isCheckable())
             action->setChecked(action->data().toInt() == itemIndex_);
@@ -166,6 +174,9 @@ void TSmartDetailView_TRV::SetDataSource(TDataSource* source)
 void TSmartDetailView_TRV::UpdateValue()
 {
     update();
+    // Without anybody who listens the toolkit would make what it tells all the same.
+    if (!QAccessible::isActive())
+        return;
     QAccessibleValueChangeEvent change(this, ShownValue());
     QAccessible::updateAccessibility(&change);
 }
@@ -227,7 +238,7 @@ void TSmartDetailView_TRV::Choose(int index)
 /// To the next or the previous item of the menu; from an item that is not in the menu to the first one.
 void TSmartDetailView_TRV::Step(int step)
 {
-    const auto* choices = menu_->findChild<QActionGroup*>();
+    const auto* choices = menu_ != nullptr ? menu_->findChild<QActionGroup*>() : nullptr;
     if (choices == nullptr || choices->actions().isEmpty())
         return;
     const auto actions = choices->actions();
@@ -238,7 +249,7 @@ void TSmartDetailView_TRV::Step(int step)
 
 void TSmartDetailView_TRV::OpenMenu()
 {
-    if (menu_->isEmpty())
+    if (menu_ == nullptr || menu_->isEmpty())
         return;
     const int x = isRightToLeft() ? width() - menu_->sizeHint().width() : 0;
     menu_->popup(mapToGlobal(QPoint(x, height())));
@@ -295,7 +306,7 @@ void TSmartDetailView_TRV::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() != QContextMenuEvent::Mouse)
         OpenMenu();
-    else if (!menu_->isEmpty())
+    else if (menu_ != nullptr && !menu_->isEmpty())
         menu_->popup(event->globalPos());
 }
 

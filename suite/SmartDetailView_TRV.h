@@ -46,7 +46,7 @@ public:
     /// After the items have been changed: rebuilds the popup menu of the selectable ones. An item shown that
     /// is gone, or cannot be selected any more, gives way to item 0.
     void Fill_PopMenu();
-    QMenu* PopupMenu() const { return menu_; } ///< of the selectable items; owned by the view
+    QMenu* PopupMenu(); ///< of the selectable items; made when first asked for, owned by the view
 
     int ItemIndex() const { return itemIndex_; } ///< of the item shown
     void SetItemIndex(int index);                ///< raises nothing; below 0 counts as 0
@@ -97,7 +97,7 @@ private:
     void PaintText(QPainter& painter, const QRect& area, const QString& text, Qt::TextFlag direction) const;
 
     QVector<TDetailItem> items_;
-    QMenu* menu_;
+    QMenu* menu_ = nullptr;
     QPointer<TDataSource> source_;
     QString deniedText_;
     int itemIndex_ = 0;

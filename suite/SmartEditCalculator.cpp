@@ -5,12 +5,13 @@
 #include "DrawnIcon.h"
 #include "Look.h"
 #include "PersianText.h"
+#include "SharedIcon.h"
 
 #include <QAction>
 
 namespace {
 
-QIcon CalculatorIcon(const QColor& color)
+QPixmap CalculatorPicture(const QColor& color)
 {
     return DrawnIcon(QPen(color, 4), [&color](QPainter& painter) {
         painter.drawRoundedRect(QRect(8, 3, 32, 42), 5, 5);
@@ -37,7 +38,8 @@ void TSmartEdit_TRV::TPrivate::RefreshCalculatorButton()
         QObject::connect(calculatorButton, &QAction::triggered, edit, [this] { OpenCalculator(); });
         edit->addAction(calculatorButton, QLineEdit::TrailingPosition);
     }
-    calculatorButton->setIcon(CalculatorIcon(Look::Color(Look::TRole::SecondaryText)));
+    calculatorButton->setIcon(SharedIcon::Of(QStringLiteral("calculator"),
+                                             Look::Color(Look::TRole::SecondaryText), CalculatorPicture));
 }
 
 void TSmartEdit_TRV::TPrivate::OpenCalculator()

@@ -5,14 +5,12 @@
 #include "Look.h"
 #include "PersianText.h"
 
+#include <limits>
 #include <QPointer>
 #include <utility>
 
 TSmartEdit_TRV::TPrivate::TPrivate(TSmartEdit_TRV* owner) : edit(owner)
 {
-    delay.setSingleShot(true);
-    delay.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&delay, &QTimer::timeout, edit, [this] { AnnounceValue(); });
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { lineByUser = true; });
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this](const QString& line) { LineChanged(line); });
 }
@@ -40,7 +38,11 @@ QString TSmartEdit_TRV::TPrivate::CodeNumber(const QString& text) const
 void TSmartEdit_TRV::TPrivate::SetText(const QString& text)
 {
     if (!IsNumber()) {
-        edit->QLineEdit::setText(PersianText::SingleLine(text));
+        const QString line = PersianText::SingleLine(text);
+        // The limit for the user is kept where he types; texts that the program shows may be longer.
+        if (line.size() > edit->QLineEdit::maxLength())
+            edit->QLineEdit::setMaxLength(std::numeric_limits<int>::max());
+        edit->QLineEdit::setText(line);
         return;
     }
     number.Reset(CodeNumber(text));
@@ -110,16 +112,33 @@ void TSmartEdit_TRV::TPrivate::TextMayHaveChanged(bool byUser)
     edit->update();
     if (byUser) {
         typedSinceEnter = true;
-        delay.start(delayTime);
+        StartDelay();
     }
     // A copy, because the handler may replace or clear itself, or destroy the edit.
     if (const TNotifyEvent handler = edit->OnChange)
         handler(edit);
 }
 
+void TSmartEdit_TRV::TPrivate::StartDelay()
+{
+    if (!delay) {
+        delay = std::make_unique<QTimer>();
+        delay->setSingleShot(true);
+        delay->setTimerType(Qt::PreciseTimer);
+        QObject::connect(delay.get(), &QTimer::timeout, edit, [this] { AnnounceValue(); });
+    }
+    delay->start(delayTime);
+}
+
+void TSmartEdit_TRV::TPrivate::StopDelay() const
+{
+    if (delay)
+        delay->stop();
+}
+
 void TSmartEdit_TRV::TPrivate::AnnounceValue()
 {
-    delay.stop();
+    StopDelay();
     const QPointer<TSmartEdit_TRV> alive = edit;
     if (const TNotifyEvent handler = alive->OnEditValueChange)
         handler(alive);
@@ -129,7 +148,7 @@ void TSmartEdit_TRV::TPrivate::AnnounceValue()
 
 void TSmartEdit_TRV::TPrivate::AnnouncePendingValue()
 {
-    if (delay.isActive())
+    if (delay && delay->isActive())
         AnnounceValue();
 }
 

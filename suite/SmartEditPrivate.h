@@ -31,6 +31,8 @@ struct TSmartEdit_TRV::TPrivate
     void ShowSign();
     void LineChanged(const QString& line);
     void TextMayHaveChanged(bool byUser);
+    void StartDelay();
+    void StopDelay() const;
     void AnnounceValue();
     void AnnouncePendingValue();
     void Settle();
@@ -83,8 +85,9 @@ struct TSmartEdit_TRV::TPrivate
     QString currencyTitle;
 
     TNumberText number;
-    QString toldText;         // the text that OnChange last told
-    QTimer delay;             // runs while a value of the user's waits to be announced
+    QString toldText; // the text that OnChange last told
+    std::unique_ptr<QTimer>
+        delay;                // runs while a value of the user's waits to be announced; made when first used
     bool writingLine = false; // the line is being changed from here
     bool lineByUser = false;  // the line's change in progress is the user's
     bool typedSinceEnter = false;

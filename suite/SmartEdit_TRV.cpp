@@ -7,7 +7,6 @@
 #include "PersianText.h"
 #include "SmartEditPrivate.h"
 
-#include <limits>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -18,8 +17,6 @@
 
 TSmartEdit_TRV::TSmartEdit_TRV(QWidget* parent) : QLineEdit(parent), d(std::make_unique<TPrivate>(this))
 {
-    // The limit for the user is kept where he types; texts that the program shows may be longer.
-    QLineEdit::setMaxLength(std::numeric_limits<int>::max());
     // A line edit follows its content: without this, digits and an empty edit's caret jump to the left.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
@@ -175,7 +172,7 @@ void TSmartEdit_TRV::SetText(const QString& text)
 
 void TSmartEdit_TRV::Clear()
 {
-    d->delay.stop();
+    d->StopDelay();
     d->SetText(d->IsNumber() ? QStringLiteral("0") : QString());
 }
 

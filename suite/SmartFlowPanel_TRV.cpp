@@ -102,6 +102,8 @@ bool TSmartFlowPanel_TRV::event(QEvent* event)
         updateGeometry();
         Arrange();
     }
+    if (event->type() == QEvent::Polish)
+        Arrange();
     return TSmartPanel_TRV::event(event);
 }
 
@@ -109,7 +111,9 @@ bool TSmartFlowPanel_TRV::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
         updateGeometry();
-        Arrange();
+        // While a form is being set up the children are measured in vain: more is to come.
+        if (testAttribute(Qt::WA_WState_Polished))
+            Arrange();
     }
     return TSmartPanel_TRV::eventFilter(watched, event);
 }

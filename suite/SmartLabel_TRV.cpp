@@ -37,8 +37,6 @@ TSmartCheckBox_TRV* NamedCheckBox(const TSmartLabel_TRV& label)
 TSmartLabel_TRV::TSmartLabel_TRV(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    // The toolkit claims the mnemonic of labels with a buddy only; one without FocusControl is its own.
-    setBuddy(this);
 }
 
 TSmartLabel_TRV::~TSmartLabel_TRV()
@@ -100,6 +98,9 @@ QSize TSmartLabel_TRV::minimumSizeHint() const
 
 bool TSmartLabel_TRV::event(QEvent* event)
 {
+    // The toolkit claims the mnemonic of labels with a buddy only; one without FocusControl is its own.
+    if (event->type() == QEvent::Polish && buddy() == nullptr)
+        setBuddy(MnemonicHolder());
     if (event->type() == QEvent::Shortcut) {
         ActivateByMnemonic();
         return true;

@@ -20,7 +20,6 @@ TListDetail_FRAME::TListDetail_FRAME(QWidget* owner) : TFrame(owner)
     DetailView_Small_Bottom_SDV = form.DetailView_Small_Bottom_SDV;
     MoreDetail_XPNL->SetBody(MoreDetail_GPNL);
     connect(MoreDetail_XPNL, &TNxExpandPanel::expandedChanged, this, &TListDetail_FRAME::TakeHeight);
-    TakeHeight();
     FormReady();
 }
 

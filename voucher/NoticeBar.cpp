@@ -30,7 +30,6 @@ TNoticeBar::TNoticeBar(TSmartPanel_TRV* outer, TSmartPanel_TRV* inner, QLabel* m
     Paint(inner, Qt::white);
     message->setFont(RelativeFonts::Small());
     movie_->setCacheMode(QMovie::CacheAll);
-    movie_->jumpToFrame(0);
     picture_->setMovie(movie_);
     picture_->installEventFilter(this);
 }
@@ -46,9 +45,12 @@ void TNoticeBar::Animate()
 bool TNoticeBar::eventFilter(QObject* watched, QEvent* event)
 {
     // A picture that nobody sees need not move.
-    if (event->type() == QEvent::Show)
+    if (event->type() == QEvent::Show) {
+        if (movie_->currentFrameNumber() < 0)
+            movie_->jumpToFrame(0);
         movie_->setPaused(false);
-    else if (event->type() == QEvent::Hide)
+    } else if (event->type() == QEvent::Hide) {
         movie_->setPaused(true);
+    }
     return QObject::eventFilter(watched, event);
 }

@@ -29,7 +29,7 @@ struct TView : TSmartDetailView_TRV
         Fill_PopMenu();
     }
     /// The captions that can be chosen, the checked one in brackets.
-    QStringList Choices() const
+    QStringList Choices()
     {
         QStringList choices;
         for (const QAction* action : PopupMenu()->actions()) {
@@ -39,7 +39,7 @@ struct TView : TSmartDetailView_TRV
         }
         return choices;
     }
-    QAction* Choice(int index) const { return PopupMenu()->actions().at(index); }
+    QAction* Choice(int index) { return PopupMenu()->actions().at(index); }
 };
 
 } // namespace
