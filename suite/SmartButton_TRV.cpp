@@ -244,6 +244,8 @@ QSize TSmartButton_TRV::minimumSizeHint() const
 
 bool TSmartButton_TRV::event(QEvent* event)
 {
+    if (event->type() == QEvent::Polish)
+        AdaptWidth();
     return ControlDispatch::Event(this, *this, event) || QPushButton::event(event);
 }
 
