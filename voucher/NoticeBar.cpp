@@ -14,7 +14,7 @@ constexpr quint32 FrameColor = 3552822;
 
 void Paint(TSmartPanel_TRV* panel, const QColor& ground)
 {
-    QPalette colors = panel->palette();
+    QPalette colors; // knows of these two only, so that the others go on following the scheme
     colors.setColor(QPalette::Window, ground);
     colors.setColor(QPalette::WindowText, Look::ColorOf(Look::TRole::Text, false));
     panel->setPalette(colors);
