@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int Rounds = 15;
+constexpr int Rounds = 45;
 constexpr int FramesPerRound = 40;
 
 using TWidgets = std::vector<std::unique_ptr<QWidget>>;

@@ -54,15 +54,16 @@ QString CaptionOf(TEntityType type, const QVariant& found)
 
 TSelect_Entity_Frame::TSelect_Entity_Frame(QWidget* owner) : TFrame(owner)
 {
-    Ui::TSelect_Entity_Frame form;
-    form.setupUi(this);
-    Code_EDT = form.Code_EDT;
-    Name_LBL = form.Name_LBL;
-    // Only size and weight, so that the family still follows the application's.
+    // Before the controls, which take it over as they are made. Only size and weight, so that the family
+    // still follows the application's.
     QFont font;
     font.setPixelSize(FontPixels);
     font.setBold(true);
     setFont(font);
+    Ui::TSelect_Entity_Frame form;
+    form.setupUi(this);
+    Code_EDT = form.Code_EDT;
+    Name_LBL = form.Name_LBL;
     // Five pixels with the line's own three: the name stands on the base line of the code.
     Name_LBL->setContentsMargins(0, 2, 0, 0);
     Code_EDT->OnButtonClick = [this](QObject* sender) { Code_EDTPropertiesButtonClick(sender); };

@@ -5,6 +5,7 @@
 #include "MonthPage.h"
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>

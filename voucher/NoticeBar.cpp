@@ -23,33 +23,40 @@ void Paint(TSmartPanel_TRV* panel, const QColor& ground)
 } // namespace
 
 TNoticeBar::TNoticeBar(TSmartPanel_TRV* outer, TSmartPanel_TRV* inner, QLabel* message, QLabel* picture)
-    : QObject(outer), picture_(picture),
-      movie_(new QMovie(QStringLiteral(":/voucher/pictures/attention.gif"), {}, this))
+    : QObject(outer), picture_(picture)
 {
     Paint(outer, Look::FromColorValue(FrameColor));
     Paint(inner, Qt::white);
     message->setFont(RelativeFonts::Small());
-    movie_->setCacheMode(QMovie::CacheAll);
-    picture_->setMovie(movie_);
     picture_->installEventFilter(this);
 }
 
 TNoticeBar::~TNoticeBar() = default;
 
+QMovie& TNoticeBar::Movie()
+{
+    if (movie_ == nullptr) {
+        movie_ = new QMovie(QStringLiteral(":/voucher/pictures/attention.gif"), {}, this);
+        movie_->setCacheMode(QMovie::CacheAll);
+        picture_->setMovie(movie_);
+    }
+    return *movie_;
+}
+
 void TNoticeBar::Animate()
 {
-    movie_->start();
-    movie_->setPaused(!picture_->isVisible());
+    Movie().start();
+    Movie().setPaused(!picture_->isVisible());
 }
 
 bool TNoticeBar::eventFilter(QObject* watched, QEvent* event)
 {
     // A picture that nobody sees need not move.
     if (event->type() == QEvent::Show) {
-        if (movie_->currentFrameNumber() < 0)
-            movie_->jumpToFrame(0);
-        movie_->setPaused(false);
-    } else if (event->type() == QEvent::Hide) {
+        if (Movie().currentFrameNumber() < 0)
+            Movie().jumpToFrame(0);
+        Movie().setPaused(false);
+    } else if (event->type() == QEvent::Hide && movie_ != nullptr) {
         movie_->setPaused(true);
     }
     return QObject::eventFilter(watched, event);

@@ -22,6 +22,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QMovie& Movie();
+
     QLabel* picture_;
-    QMovie* movie_;
+    QMovie* movie_ = nullptr; ///< made when the bar is loaded or first shown
 };

@@ -49,7 +49,7 @@ private Q_SLOTS:
 void SaveAutoVouchersTest::theFormIsAsDesigned()
 {
     const TRecordingHost host;
-    const TSaveAutoVouchers_FRME frame;
+    TSaveAutoVouchers_FRME frame;
     QCOMPARE(frame.size(), QSize(451, 45));
     QVERIFY(!frame.CheckVisibleOnLoad());
     QCOMPARE(frame.RefreshVoucherNotifiy_LBL->Caption(), Message());
@@ -58,6 +58,7 @@ void SaveAutoVouchersTest::theFormIsAsDesigned()
     QCOMPARE(frame.AccountConflictsList_BTN->text(), QStringLiteral("لیست اشخاص"));
     QCOMPARE(frame.SaveVoucherNotification_PNL->Bevel(), TSmartPanel_TRV::bvLowered);
     QVERIFY(frame.Image1->hasScaledContents());
+    frame.Loaded();
     QVERIFY(frame.Image1->movie()->isValid());
     QVERIFY(frame.Image1->movie()->frameCount() > 1);
     QCOMPARE(host.Log.Lines(), QStringList());
