@@ -108,7 +108,8 @@ void TBareTwin::TakeTexts(const QWidget& widget, TControl& control)
     } else if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
         control.Text = edit->text();
         control.Placeholder = edit->placeholderText();
-        for (const QAction* action : edit->actions())
+        const auto actions = edit->actions();
+        for (const QAction* action : actions)
             control.Actions.append(action->icon());
     } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
         for (int index = 0; index < combo->count(); ++index)
@@ -117,7 +118,8 @@ void TBareTwin::TakeTexts(const QWidget& widget, TControl& control)
         for (int index = 0; index < tabs->count(); ++index)
             control.Entries.append(tabs->tabText(index));
     } else if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {
-        for (const QAction* action : menu->actions())
+        const auto actions = menu->actions();
+        for (const QAction* action : actions)
             control.Entries.append(action->text());
     }
 }
@@ -139,7 +141,7 @@ void TBareTwin::TakeLook(const QWidget& widget, const QWidget& plain, TControl& 
         control.FrameStyle = frame->frameStyle();
     const QVariant alignment = widget.property("alignment");
     control.HasAlignment = alignment.isValid() && alignment != plain.property("alignment");
-    control.Alignment = Qt::Alignment(alignment.toInt());
+    control.Alignment = alignment.value<Qt::Alignment>();
     if (const auto* grid = qobject_cast<const QTableView*>(&widget))
         control.HidesRowHeader = grid->verticalHeader()->isHidden();
 }
