@@ -188,7 +188,7 @@ void ListDetailTest::reassginRebuildsTheMenusOfAllViews()
     }
     frame.Reassgin();
     QCOMPARE(watch.Views, views);
-    for (const TSmartDetailView_TRV* view : ViewsOf(frame))
+    for (TSmartDetailView_TRV* view : ViewsOf(frame))
         QCOMPARE(view->PopupMenu()->actions().first()->text(), QStringLiteral("نام"));
 }
 
