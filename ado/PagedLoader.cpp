@@ -306,7 +306,8 @@ QVariant TPagedLoader::Value(int row, int field)
 {
     if (row < 0 || row >= list_.Count())
         return {};
-    if (!list_.CountIsExact() && list_.PageOf(row) == list_.PageOf(list_.Count() - 1) && !growWanted_) {
+    // Half a page ahead, so that the rows in sight of a new list do not bring another page with them.
+    if (!list_.CountIsExact() && row >= list_.Count() - (pageSize_ + 1) / 2 && !growWanted_) {
         growWanted_ = true;
         PostReadNext();
     }
