@@ -26,6 +26,13 @@ namespace {
 constexpr int LeastWidth = 20;
 constexpr int GreatestWidth = 2000;
 
+/// While there are rows, the words that stand in for them are not seen.
+void RepaintIfEmpty(const QTableView& grid)
+{
+    if (grid.model()->rowCount() == 0)
+        grid.viewport()->update();
+}
+
 } // namespace
 
 struct TSmartDBGrid_TRV::TPrivate
@@ -81,7 +88,14 @@ TSmartDBGrid_TRV::TSmartDBGrid_TRV(QWidget* parent) : QTableView(parent), d(std:
         d->scrollBefore = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
     });
     connect(&d->columns, &QAbstractItemModel::modelReset, this, &TSmartDBGrid_TRV::FollowDataSet);
-    connect(&d->columns, &QAbstractItemModel::rowsInserted, this, &TSmartDBGrid_TRV::ShowCurrentRow);
+    connect(&d->columns, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first) {
+        // The toolkit lays out later and then repaints everything; rows out of sight change nothing.
+        const bool inSight = rowViewportPosition(first) < viewport()->height();
+        viewport()->setAttribute(Qt::WA_UpdatesDisabled, !inSight);
+        executeDelayedItemsLayout();
+        viewport()->setAttribute(Qt::WA_UpdatesDisabled, false);
+        ShowCurrentRow();
+    });
     connect(&d->marks, &TGridMarks::changed, viewport(), qOverload<>(&QWidget::update));
     connect(&d->marks, &TGridMarks::changed, this, &TSmartDBGrid_TRV::marksChanged);
     connect(&d->marks, &TGridMarks::limited, this, &TSmartDBGrid_TRV::marksLimited);
@@ -125,7 +139,7 @@ QString TSmartDBGrid_TRV::EmptyText() const
 void TSmartDBGrid_TRV::SetEmptyText(const QString& text)
 {
     d->emptyText = text;
-    viewport()->update();
+    RepaintIfEmpty(*this);
 }
 
 QByteArray TSmartDBGrid_TRV::SaveLayout() const
@@ -160,7 +174,7 @@ void TSmartDBGrid_TRV::FollowDataSet()
             d->followed->disconnect(this);
         d->followed = paged;
         if (paged != nullptr)
-            connect(paged, &TPagedDataSet::busyChanged, viewport(), qOverload<>(&QWidget::update));
+            connect(paged, &TPagedDataSet::busyChanged, this, [this] { RepaintIfEmpty(*this); });
     }
     d->marks.SetDataSet(paged);
     horizontalHeader()->setSectionsClickable(paged != nullptr);
@@ -169,6 +183,7 @@ void TSmartDBGrid_TRV::FollowDataSet()
     horizontalScrollBar()->setValue(d->scrollBefore.x());
     verticalScrollBar()->setValue(d->scrollBefore.y());
     ShowCurrentRow();
+    viewport()->update();
 }
 
 void TSmartDBGrid_TRV::ApplyColumns()
