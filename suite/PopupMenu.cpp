@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QScreen>
+#include <QStyle>
+#include <QStyleOption>
 #include <QWidgetAction>
 #include <stdexcept>
 #include <string>
@@ -91,6 +93,19 @@ void TPopupMenu::CentreAt(int x)
     const int rightmost = qMax(room.left(), room.right() + 1 - width());
     move(qBound(room.left(), x - width() / 2, rightmost), y());
     right_ = geometry().right();
+}
+
+bool TPopupMenu::event(QEvent* event)
+{
+    if (event->type() != QEvent::Resize)
+        return QMenu::event(event);
+    // The toolkit would measure all items again; where they lie does not hang on the size of the menu.
+    QStyleOption option;
+    option.initFrom(this);
+    QStyleHintReturnMask shape;
+    if (style()->styleHint(QStyle::SH_Menu_Mask, &option, this, &shape) != 0)
+        setMask(shape.region);
+    return QWidget::event(event);
 }
 
 void TPopupMenu::actionEvent(QActionEvent* event)

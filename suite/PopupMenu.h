@@ -43,6 +43,7 @@ public:
     QString FindText() const { return findText_; }
 
 protected:
+    bool event(QEvent* event) override;
     void actionEvent(QActionEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
