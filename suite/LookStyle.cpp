@@ -127,6 +127,20 @@ void PaintEditFrame(QPainter& painter, const QStyleOption& option)
     painter.restore();
 }
 
+/// The toolkit gives a gradient of more rows than this to other threads and waits for them, for many
+/// milliseconds where the processor is busy with a statement. It paints each strip by itself.
+constexpr int RowsOfStrip = 64;
+
+template <typename TPaint> void PaintInStrips(QPainter& painter, const QRect& area, const TPaint& paint)
+{
+    for (int top = area.top(); top <= area.bottom(); top += RowsOfStrip) {
+        painter.save();
+        painter.setClipRect(QRect(area.left(), top, area.width(), RowsOfStrip), Qt::IntersectClip);
+        paint();
+        painter.restore();
+    }
+}
+
 } // namespace
 
 TLookStyle::TLookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
@@ -272,7 +286,11 @@ void TLookStyle::DrawMarkedButton(ControlElement element, QStyleOptionButton opt
 void TLookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto paint = [&] { QProxyStyle::drawComplexControl(control, option, painter, widget); };
+    if (control == CC_ScrollBar)
+        PaintInStrips(*painter, option->rect, paint);
+    else
+        paint();
     const bool hasOwnRing = control == CC_ComboBox || control == CC_SpinBox;
     if (control == CC_SpinBox)
         PaintEditFrame(*painter, *option);
