@@ -140,8 +140,7 @@ private:
     std::shared_ptr<const TPageStatements> statements_;
     TPagedList list_;
     TPageQueue queue_;
-    bool growWanted_ =
-        false; ///< rows near the end of the known ones have been seen: the page behind is wanted
+    bool growWanted_ = false; ///< rows near the end have been seen, so that the page behind them is wanted
     bool firstPending_ = false;
     bool firstFailed_ = false;
     bool pagesStopped_ = false; ///< a page failed; painting would ask for it, and say so, without an end
