@@ -3,7 +3,10 @@
 #include "Look.h"
 #include "PersianText.h"
 
+#include <algorithm>
+#include <functional>
 #include <QActionEvent>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
@@ -13,6 +16,7 @@
 #include <QWidgetAction>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -31,9 +35,52 @@ QString WithoutLast(const QString& text)
     return text.chopped(text.back().isLowSurrogate() ? 2 : 1);
 }
 
+/// The widths of texts, from those of their words; the same words stand in many names. The texts
+/// are those of actions, which outlive it.
+class TWordWidths
+{
+public:
+    explicit TWordWidths(const QFont& font) : metrics_(font) {}
+
+    qreal Of(QStringView text)
+    {
+        qreal width = 0;
+        qsizetype begin = 0;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            if (!text.at(i).isSpace() && !text.at(i).isDigit())
+                continue;
+            width += OfWord(text.mid(begin, i - begin)) + OfWord(text.mid(i, 1));
+            begin = i + 1;
+        }
+        return width + OfWord(text.mid(begin));
+    }
+
+private:
+    qreal OfWord(QStringView word)
+    {
+        if (word.isEmpty())
+            return 0;
+        auto known = widths_.constFind(word);
+        if (known == widths_.cend())
+            known = widths_.insert(word, metrics_.horizontalAdvance(word.toString()));
+        return *known;
+    }
+
+    QFontMetricsF metrics_;
+    QHash<QStringView, qreal> widths_;
+};
+
+/// As high as the font, but so narrow that no item becomes wider by it, and without joining letters.
+QFontMetrics NarrowMetrics(QFont font)
+{
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    font.setLetterSpacing(QFont::PercentageSpacing, 1);
+    return QFontMetrics(font);
+}
+
 } // namespace
 
-TPopupMenu::TPopupMenu(QWidget* parent) : QMenu(parent)
+TPopupMenu::TPopupMenu(QWidget* parent) : QMenu(parent), narrow_(font())
 {
     setLayoutDirection(Qt::RightToLeft);
 }
@@ -81,10 +128,37 @@ void TPopupMenu::Popup(const QPoint& screenPosition)
     // It would be an invisible window that takes the next key or click.
     if (items_.isEmpty())
         return;
+    FindWidest();
     popup(screenPosition);
+    widest_.clear();
     top_ = screenPosition.y();
     if (isCentred_)
         CentreAt(screenPosition.x());
+}
+
+/// The toolkit measures every item, and joining the letters of a thousand names takes as long as reading
+/// them. The menu is as wide as its widest item, so only those that may be it are measured in their own font.
+void TPopupMenu::FindWidest()
+{
+    constexpr qsizetype Candidates = 8;
+    TWordWidths widths(font());
+    QVector<std::pair<qreal, const QAction*>> items;
+    for (const TMenuItem* item : qAsConst(items_)) {
+        if (item->isVisible())
+            items.append({widths.Of(item->text()), item});
+    }
+    const auto end = items.begin() + qMin(Candidates, items.size());
+    std::partial_sort(items.begin(), end, items.end(), std::greater<>());
+    for (auto item = items.begin(); item != end; ++item)
+        widest_.insert(item->second);
+    narrow_ = NarrowMetrics(font());
+}
+
+void TPopupMenu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const
+{
+    QMenu::initStyleOption(option, action);
+    if (!widest_.isEmpty() && !widest_.contains(action) && !paintingActive())
+        option->fontMetrics = narrow_;
 }
 
 void TPopupMenu::CentreAt(int x)
@@ -207,7 +281,9 @@ void TPopupMenu::FitToItems(QAction* active)
 {
     const int top = top_;
     const int right = right_;
+    FindWidest();
     popup(QPoint(right - sizeHint().width() + 1, top));
+    widest_.clear();
     move(right - width() + 1, y());
     setActiveAction(active);
 }

@@ -3,9 +3,11 @@
 #include "MenuItem.h"
 #include "SuiteExport.h"
 
+#include <QFontMetrics>
 #include <QIcon>
 #include <QImage>
 #include <QMenu>
+#include <QSet>
 #include <QVector>
 
 class QLabel;
@@ -46,6 +48,7 @@ protected:
     bool event(QEvent* event) override;
     void actionEvent(QActionEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -55,6 +58,7 @@ private:
     void MakeFindRow();
     QAction* ShowMatches();
     void FitToItems(QAction* active);
+    void FindWidest();
     void CentreAt(int x);
 
     QVector<QIcon> icons_;
@@ -62,8 +66,10 @@ private:
     QLabel* findLabel_ = nullptr; ///< made, with its row, when something is first sought
     QWidgetAction* findRow_ = nullptr;
     QString findText_;
-    int top_ = 0;   ///< where the menu was opened, on the screen
-    int right_ = 0; ///< its right edge
+    QSet<const QAction*> widest_; ///< while the menu is measured: what is measured in its own font
+    QFontMetrics narrow_;         ///< for all others
+    int top_ = 0;                 ///< where the menu was opened, on the screen
+    int right_ = 0;               ///< its right edge
     bool isBusy_ = false;
     bool isCentred_ = false;
 };

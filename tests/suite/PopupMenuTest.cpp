@@ -169,6 +169,31 @@ private Q_SLOTS:
         QVERIFY(chosen_.isEmpty());
     }
 
+    void aMenuIsAsWideAndItsItemsAsHighAsThoseThatAreMeasuredSingly()
+    {
+        const QStringList captions{QStringLiteral("میوه"), QStringLiteral("لباس زمستانی 12"),
+                                   QStringLiteral("ششششششش"), QStringLiteral("اااااااااا"),
+                                   QStringLiteral("WWWWWWW")};
+        int widest = 0;
+        for (const QString& caption : captions) {
+            Add(caption, 0);
+            Open();
+            widest = qMax(widest, menu_->width());
+            QCOMPARE(menu_->actionGeometry(menu_->Item(0)).height(), menu_->fontMetrics().height() + 8);
+            menu_->close();
+            menu_->Clear();
+        }
+        for (int copy = 0; copy < 20; ++copy) {
+            for (const QString& caption : captions)
+                Add(caption, 0);
+        }
+        Open();
+        QCOMPARE(menu_->width(), widest);
+        for (int index = 1; index < menu_->Count(); ++index)
+            QCOMPARE(menu_->actionGeometry(menu_->Item(index)).size(),
+                     menu_->actionGeometry(menu_->Item(0)).size());
+    }
+
     void aThousandItemsScrollInOneColumn()
     {
         AddThousand();
