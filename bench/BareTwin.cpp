@@ -276,7 +276,7 @@ void TBareTwin::LayOut(const TLines& lines, const std::vector<QWidget*>& made)
         if (cells != nullptr && widget != nullptr) {
             cells->addWidget(widget, item.Row, item.Column);
             cells->setColumnStretch(item.Column, item.Stretch);
-        } else if (widget != nullptr) {
+        } else if (box != nullptr && widget != nullptr) {
             box->addWidget(widget, item.Stretch);
         } else if (box != nullptr) {
             box->addSpacerItem(new QSpacerItem(item.Space.width(), item.Space.height(),
