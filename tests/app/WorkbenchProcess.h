@@ -19,7 +19,8 @@ public:
               QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("XDG_RUNTIME_DIR")})
             environment.insert(name, Home.path());
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(WORKBENCH_PROGRAM), arguments);
+        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/" WORKBENCH_PROGRAM),
+                      arguments);
         const bool ended = process.waitForFinished(milliseconds);
         if (!ended)
             process.kill();

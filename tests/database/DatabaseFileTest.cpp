@@ -287,7 +287,7 @@ void DatabaseFileTest::aKilledProgramLeavesNoHalfMadeFile()
 {
     const QString path = Path(QStringLiteral("a.db"));
     QProcess program;
-    program.start(QStringLiteral(DATABASE_TOOL),
+    program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/" DATABASE_TOOL),
                   {QStringLiteral("create"), path, QStringLiteral("--goods"), QStringLiteral("500000")});
     QTRY_VERIFY_WITH_TIMEOUT(
         !QDir(folder_->path()).entryList({QStringLiteral("a.db.new-*")}, QDir::Dirs).isEmpty(), 30000);
@@ -324,7 +324,7 @@ void DatabaseFileTest::severalProgramsMakeTheSameFileOnce()
     constexpr int ProgramCount = 3;
     QProcess programs[ProgramCount];
     for (QProcess& program : programs) {
-        program.start(QStringLiteral(DATABASE_TOOL),
+        program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/" DATABASE_TOOL),
                       {QStringLiteral("open"), path, QStringLiteral("--size"), QStringLiteral("small")});
     }
     int made = 0;

@@ -20,7 +20,8 @@ std::unique_ptr<QProcess> AutoVoucherContentionTest::Start(const TTradeFixture& 
 {
     auto worker = std::make_unique<QProcess>();
     worker->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    worker->start(QStringLiteral(AUTO_VOUCHER_WORKER), {shop.ConnectionString(), QString::number(user)});
+    worker->start(QCoreApplication::applicationDirPath() + QStringLiteral("/" AUTO_VOUCHER_WORKER),
+                  {shop.ConnectionString(), QString::number(user)});
     return worker;
 }
 

@@ -11,7 +11,7 @@ public:
     TUniqueCodeWorker(const QString& work, const TSharedDatabase& database, int user, int number)
     {
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process_.start(QStringLiteral(UNIQUE_CODE_WORKER),
+        process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/" UNIQUE_CODE_WORKER),
                        {work, database.ConnectionString(), QString::number(user), QString::number(number)});
     }
     TUniqueCodeWorker(const TUniqueCodeWorker&) = delete;

@@ -16,7 +16,7 @@ private:
         return collection ? collection->customWidgets() : QList<QDesignerCustomWidgetInterface*>();
     }
 
-    QPluginLoader plugin_{QStringLiteral(DESIGNER_PLUGIN_FILE)};
+    QPluginLoader plugin_{QCoreApplication::applicationDirPath() + QStringLiteral("/" DESIGNER_PLUGIN_FILE)};
 
 private Q_SLOTS:
     void exactlyTheGeneralSearchFrameIsOffered()

@@ -1,7 +1,9 @@
 #pragma once
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
+#include <QtGlobal>
+
+#if defined(Q_OS_UNIX)
+#include <dlfcn.h>
 #endif
 
 /// What is allocated while it lives is not looked for as a leak. For an error that a test lets leave an event
@@ -12,19 +14,17 @@ class TToolkitLeaks
 public:
     TToolkitLeaks(const TToolkitLeaks&) = delete;
     TToolkitLeaks& operator=(const TToolkitLeaks&) = delete;
-#if defined(__SANITIZE_ADDRESS__)
-    TToolkitLeaks()
+    TToolkitLeaks() { Call("__lsan_disable"); }
+    ~TToolkitLeaks() { Call("__lsan_enable"); }
+
+private:
+    /// The search is there when the program runs with the sanitizers' library, whatever it was itself built
+    /// with.
+    static void Call([[maybe_unused]] const char* function)
     {
-        __lsan_disable();
-    }
-    ~TToolkitLeaks()
-    {
-        __lsan_enable();
-    }
-#else
-    TToolkitLeaks() = default;
-    ~TToolkitLeaks()
-    {
-    } // not trivial, so that an unused one is no warning
+#if defined(Q_OS_UNIX)
+        if (void* const address = dlsym(RTLD_DEFAULT, function))
+            reinterpret_cast<void (*)()>(address)();
 #endif
+    }
 };

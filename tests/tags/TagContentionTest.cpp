@@ -29,7 +29,7 @@ private Q_SLOTS:
         for (int user = 1; user <= Users; ++user) {
             users.push_back(std::make_unique<QProcess>());
             users.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            users.back()->start(QStringLiteral(TAG_WORKER),
+            users.back()->start(QCoreApplication::applicationDirPath() + QStringLiteral("/" TAG_WORKER),
                                 {file, QString::number(user), QStringLiteral("150")});
         }
         bool isAtWork = true;
