@@ -408,7 +408,8 @@ void FileUpgradeTest::severalProgramsUpgradeTheSameFileOnce()
     MakeOldFile(path_, {addDetail.arg(2).arg(1).arg(2000001), addDetail.arg(2).arg(2).arg(2000001)});
     QProcess programs[3];
     for (QProcess& program : programs)
-        program.start(QStringLiteral(DATABASE_TOOL), {QStringLiteral("open"), path_});
+        program.start(QCoreApplication::applicationDirPath() + QStringLiteral("/" DATABASE_TOOL),
+                      {QStringLiteral("open"), path_});
     for (QProcess& program : programs) {
         QVERIFY(program.waitForFinished(60000));
         QVERIFY2(program.exitCode() == 0, program.readAllStandardError().constData());
