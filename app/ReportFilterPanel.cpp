@@ -21,6 +21,7 @@
 #include "TabControl.h"
 #include "TarvaSearchManager.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QJsonObject>
 #include <QScrollArea>
@@ -106,6 +107,11 @@ void TReportFilterPanel::AddLines(QVBoxLayout* column)
     lines_->setWidget(band);
     lines_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     column->addWidget(lines_);
+    // The toolkit scrolls for Tab; a filter's letter moves the focus too.
+    connect(qApp, &QApplication::focusChanged, lines_, [lines = lines_](QWidget* /*old*/, QWidget* now) {
+        if (now != nullptr && lines->widget()->isAncestorOf(now))
+            lines->ensureWidgetVisible(now, 0, Look::Unit);
+    });
 }
 
 void TReportFilterPanel::LineUp() const

@@ -32,6 +32,8 @@
 
 namespace {
 
+constexpr int fewestLines = 5;
+
 constexpr QLatin1String filtersKey("Reports/VoucherLines/Filters");
 constexpr QLatin1String layoutKey("Reports/VoucherLines/Layout");
 constexpr QLatin1String orderKey("Reports/VoucherLines/Order");
@@ -95,6 +97,8 @@ void TReportForm::Lay()
     column->setSpacing(0);
     parts.Filters = new TReportFilterPanel(this);
     parts.Grid = new TSmartDBGrid_TRV(this);
+    // On a low screen the filters scroll, so that some lines stay in sight below them.
+    parts.Grid->setMinimumHeight((fewestLines + 1) * Look::GridRowHeight);
     column->addWidget(parts.Filters);
     column->addWidget(parts.Grid, 1);
     parts.Footer = new TListFooter(parts.DataSet, this);

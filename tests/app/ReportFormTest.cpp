@@ -57,6 +57,21 @@ private Q_SLOTS:
         QVERIFY(!filters_->AdvancedIsShown());
     }
 
+    void someLinesStayInSightOnALowScreen()
+    {
+        shop_->Form->resize(1000, 540);
+        filters_->ShowAdvanced(true);
+        TReportFixture::Settle();
+        const auto* grid = shop_->Form->findChild<TSmartDBGrid_TRV*>();
+        QVERIFY(grid->viewport()->height() >= 4 * Look::GridRowHeight);
+        QCOMPARE(shop_->Form->height(), 540);
+        // What has scrolled out of sight comes back with the focus.
+        auto* last = filters_->Entities->SelectEntity_CHK;
+        QVERIFY(last->visibleRegion().isEmpty());
+        last->setFocus(Qt::ShortcutFocusReason);
+        QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
+    }
+
     void eachFilterHasALetterOfItsOwn()
     {
         filters_->ShowAdvanced(true);
