@@ -61,7 +61,7 @@ private Q_SLOTS:
     {
         shop_->Form->resize(1000, 540);
         filters_->ShowAdvanced(true);
-        TReportFixture::Settle();
+        shop_->Settle();
         const auto* grid = shop_->Form->findChild<TSmartDBGrid_TRV*>();
         QVERIFY(grid->viewport()->height() >= 4 * Look::GridRowHeight);
         QCOMPARE(shop_->Form->height(), 540);
