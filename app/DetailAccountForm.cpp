@@ -9,6 +9,7 @@
 #include "ReferenceHost.h"
 #include "SmartButton_TRV.h"
 #include "SmartComboBox_TRV.h"
+#include "SmartLabel_TRV.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

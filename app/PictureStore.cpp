@@ -1,5 +1,6 @@
 #include "PictureStore.h"
 
+#include "ADOConnection.h"
 #include "PictureReader.h"
 
 #include <QFile>
