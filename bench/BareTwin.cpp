@@ -13,7 +13,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTabBar>
-#include <QTableView>
+#include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -197,7 +197,7 @@ QWidget* TBareTwin::New(TKind kind, const QString& text, QWidget* parent)
     case Tabs:
         return new QTabBar(parent);
     case Grid:
-        return new QTableView(parent);
+        return new QTableWidget(parent);
     case Menu:
         return new QMenu(parent);
     case Plain:
