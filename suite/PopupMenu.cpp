@@ -179,7 +179,8 @@ bool TPopupMenu::event(QEvent* event)
     QStyleHintReturnMask shape;
     if (style()->styleHint(QStyle::SH_Menu_Mask, &option, this, &shape) != 0)
         setMask(shape.region);
-    return QWidget::event(event);
+    resizeEvent(static_cast<QResizeEvent*>(event));
+    return true;
 }
 
 void TPopupMenu::actionEvent(QActionEvent* event)

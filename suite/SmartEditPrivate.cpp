@@ -136,7 +136,7 @@ void TSmartEdit_TRV::TPrivate::StopDelay() const
         delay->stop();
 }
 
-void TSmartEdit_TRV::TPrivate::AnnounceValue()
+void TSmartEdit_TRV::TPrivate::AnnounceValue() const
 {
     StopDelay();
     const QPointer<TSmartEdit_TRV> alive = edit;

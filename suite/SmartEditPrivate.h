@@ -33,7 +33,7 @@ struct TSmartEdit_TRV::TPrivate
     void TextMayHaveChanged(bool byUser);
     void StartDelay();
     void StopDelay() const;
-    void AnnounceValue();
+    void AnnounceValue() const;
     void AnnouncePendingValue();
     void Settle();
     void KeepBounds();
