@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOption>
