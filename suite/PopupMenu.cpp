@@ -61,10 +61,10 @@ private:
     {
         if (word.isEmpty())
             return 0;
-        auto known = widths_.constFind(word);
-        if (known == widths_.cend())
-            known = widths_.insert(word, metrics_.horizontalAdvance(word.toString()));
-        return *known;
+        const auto known = widths_.constFind(word);
+        if (known != widths_.cend())
+            return *known;
+        return *widths_.insert(word, metrics_.horizontalAdvance(word.toString()));
     }
 
     QFontMetricsF metrics_;

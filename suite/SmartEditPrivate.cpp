@@ -146,7 +146,7 @@ void TSmartEdit_TRV::TPrivate::AnnounceValue() const
         Q_EMIT alive->editValueChanged();
 }
 
-void TSmartEdit_TRV::TPrivate::AnnouncePendingValue()
+void TSmartEdit_TRV::TPrivate::AnnouncePendingValue() const
 {
     if (delay && delay->isActive())
         AnnounceValue();

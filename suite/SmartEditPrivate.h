@@ -34,7 +34,7 @@ struct TSmartEdit_TRV::TPrivate
     void StartDelay();
     void StopDelay() const;
     void AnnounceValue() const;
-    void AnnouncePendingValue();
+    void AnnouncePendingValue() const;
     void Settle();
     void KeepBounds();
     void ClearError();
