@@ -160,7 +160,7 @@ private Q_SLOTS:
         QVERIFY(IsPersian(workbench_->Errors));
         QCOMPARE(BytesOf(file), before);
 #else
-        QSKIP("File locks of this kind are POSIX's.");
+        QSKIP("The engine's lock is held from outside by fcntl, which only POSIX systems have.");
 #endif
     }
 

@@ -52,8 +52,11 @@ private Q_SLOTS:
                                     << "0.000024";
         QTest::newRow("tiny minus") << "-0.00000000001"
                                     << "0";
-        QTest::newRow("largest money") << "922337203685477.5807"
-                                       << "922337203685477.5807";
+        // Nineteen digits need the 64 bits of an extended float; where that is a double there is nothing to
+        // keep.
+        if (std::numeric_limits<long double>::digits >= 64)
+            QTest::newRow("largest money") << "922337203685477.5807"
+                                           << "922337203685477.5807";
         QTest::newRow("beyond money") << "1e20"
                                       << "100000000000000000000";
         QTest::newRow("hundreds keep their zeros") << "100"
@@ -63,8 +66,6 @@ private Q_SLOTS:
     void anAmountIsWrittenInPlainDecimals()
     {
         QFETCH(QString, written);
-        if (std::numeric_limits<long double>::digits < 64 && written.startsWith(QLatin1String("9223")))
-            QSKIP("This platform's extended float is a double.");
         QTEST(Codes::AmountText(strtold(written.toLatin1().constData(), nullptr)), "expected");
     }
 
